@@ -1,0 +1,146 @@
+#include "data/Database.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include "data/Schema.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int busyMilliseconds = 200;
+
+int errorNumberOf(int sqliteCode) {
+  switch (sqliteCode & 0xFF) {
+    case SQLITE_OK:
+      return openError::none;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return openError::locked;
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+      return openError::notADatabase;
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_READONLY:
+    case SQLITE_IOERR:
+      return openError::noAccess;
+    default:
+      return openError::engine;
+  }
+}
+
+int numberOfPragma(SQLite::Database& database, const char* pragma) {
+  return database.execAndGet(std::string("PRAGMA ") + pragma).getInt();
+}
+
+}  // namespace
+
+Database::Database(std::unique_ptr<SQLite::Database> connection)
+    : m_connection(std::move(connection)) {}
+Database::~Database() = default;
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+
+QStringList Database::TableDefs() const {
+  QStringList names;
+  try {
+    SQLite::Statement tables(*m_connection,
+                             "SELECT name FROM sqlite_schema WHERE type='table' AND name NOT LIKE "
+                             "'sqlite_%' ORDER BY rowid");
+    while (tables.executeStep()) names.append(QString::fromUtf8(tables.getColumn(0).getText()));
+  } catch (const SQLite::Exception&) {
+    return {};
+  }
+  return names;
+}
+
+std::unique_ptr<TableCursor> Database::OpenRecordset(const QString& table) {
+  try {
+    if (!m_connection->tableExists(table.toStdString())) return nullptr;
+    auto cursor = std::make_unique<TableCursor>(*m_connection, table);
+    return cursor->failed() ? nullptr : std::move(cursor);
+  } catch (const SQLite::Exception&) {
+    return nullptr;
+  }
+}
+
+bool Database::write(const std::function<bool()>& work) {
+  try {
+    SQLite::Transaction transaction(*m_connection, SQLite::TransactionBehavior::IMMEDIATE);
+    if (!work()) return false;
+    transaction.commit();
+    return true;
+  } catch (const SQLite::Exception&) {
+    return false;
+  }
+}
+
+bool Database::createTable(const QString& table) {
+  try {
+    schema::createTable(*m_connection, table);
+    return true;
+  } catch (const SQLite::Exception&) {
+    return false;
+  }
+}
+
+bool Database::isSound() const {
+  try {
+    return m_connection->execAndGet("PRAGMA quick_check(1)").getString() == "ok";
+  } catch (const SQLite::Exception&) {
+    return false;
+  }
+}
+
+void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber) {
+  database.reset();
+  const QFileInfo file(path);
+  if (!file.isFile()) {
+    errorNumber = openError::fileNotFound;
+    return;
+  }
+  if (file.size() == 0) {
+    // SQLite would take an empty file for a new, empty database.
+    errorNumber = openError::notADatabase;
+    return;
+  }
+  try {
+    auto connection = std::make_unique<SQLite::Database>(path.toStdString(), SQLite::OPEN_READWRITE,
+                                                         busyMilliseconds);
+    // SQLite reads the file only when it must: this makes it look.
+    const int fileVersion = numberOfPragma(*connection, "user_version");
+    if (sqlite3_db_readonly(connection->getHandle(), "main") == 1) {
+      errorNumber = openError::noAccess;
+      return;
+    }
+    connection->exec("PRAGMA synchronous=FULL");
+    if (fileVersion > schema::version) {
+      errorNumber = openError::notADatabase;
+      return;
+    }
+    errorNumber = openError::none;
+    database.emplace(std::move(connection));
+  } catch (const SQLite::Exception& error) {
+    errorNumber = errorNumberOf(error.getErrorCode());
+  }
+}
+
+std::optional<Database> createDatabase(const QString& path) {
+  if (QFile::exists(path)) return std::nullopt;
+  try {
+    auto connection = std::make_unique<SQLite::Database>(
+        path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, busyMilliseconds);
+    schema::stamp(*connection);
+    return Database(std::move(connection));
+  } catch (const SQLite::Exception&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace tavoli

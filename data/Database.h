@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "data/TableCursor.h"
+
+namespace tavoli {
+
+/// The error numbers that openDatabase gives.
+namespace openError {
+inline constexpr int none = 0;
+inline constexpr int locked = 70;
+inline constexpr int noAccess = 75;
+inline constexpr int engine = 429;
+inline constexpr int fileNotFound = 3024;
+inline constexpr int notADatabase = 3343;
+}  // namespace openError
+
+/// An open personal database. Closing it (or letting it go) closes its cursors too; they must not
+/// be used afterwards.
+class Database {
+ public:
+  /// For openDatabase and createDatabase.
+  explicit Database(std::unique_ptr<SQLite::Database> connection);
+  ~Database();
+  Database(Database&&) noexcept;
+  Database& operator=(Database&&) noexcept;
+
+  /// The names of all tables, in the order in which they were made.
+  QStringList TableDefs() const;
+  /// A cursor on the table's first row in key order; nothing when the table is missing or is no
+  /// table of a personal database.
+  std::unique_ptr<TableCursor> OpenRecordset(const QString& table);
+
+  /// Does all the work's writing in one transaction: all of it is kept, or, when the work returns
+  /// false or a write fails, nothing. Returns whether it was kept.
+  bool write(const std::function<bool()>& work);
+
+  /// Makes an empty table: BDIC or a dictionary.
+  bool createTable(const QString& table);
+
+  /// Reads the whole file and returns whether it is sound.
+  bool isSound() const;
+
+ private:
+  std::unique_ptr<SQLite::Database> m_connection;
+};
+
+/// The only way in which a personal database is opened, read-write and shared. `errorNumber` is one
+/// of openError; `database` is empty unless it is 0.
+void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber);
+
+/// A new file with no table; nothing when it cannot be made. An existing file is an error.
+std::optional<Database> createDatabase(const QString& path);
+
+}  // namespace tavoli

@@ -1,0 +1,26 @@
+#include "data/TextFile.h"
+
+#include <QStringDecoder>
+
+namespace tavoli {
+
+std::optional<QString> decodeText(const QByteArray& bytes) {
+  if (bytes.contains('\0')) return std::nullopt;
+  QStringDecoder utf8(QStringDecoder::Utf8);
+  QString text = utf8(bytes);
+  if (!utf8.hasError()) return text;
+  QStringDecoder codePage932("Shift_JIS");
+  text = codePage932(bytes);
+  if (codePage932.hasError() || text.contains(QChar::ReplacementCharacter)) return std::nullopt;
+  return text;
+}
+
+QStringList splitLines(const QString& text) {
+  QString unified = text;
+  unified.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  QStringList lines = unified.split(u'\n');
+  if (lines.last().isEmpty()) lines.removeLast();
+  return lines;
+}
+
+}  // namespace tavoli

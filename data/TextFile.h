@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// Text files that people and other programs may have written.
+namespace tavoli {
+
+/// The text of a file: UTF-8 where the bytes are valid UTF-8 (a byte order mark is dropped), else
+/// the Windows code page 932. Nothing when it is neither, or holds characters no text has.
+std::optional<QString> decodeText(const QByteArray& bytes);
+
+/// Lines end in CR LF, LF or CR; the last one need not.
+QStringList splitLines(const QString& text);
+
+}  // namespace tavoli

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+
+namespace tavoli {
+
+enum class FileResult { Ok, NotFound, Denied, Failed };
+
+/// Whole-file operations. Every one that replaces a file writes beside it, syncs and renames, so
+/// that the target holds the old content or the new one and a failure leaves it as it was.
+class Files {
+ public:
+  virtual ~Files() = default;
+  virtual bool exists(const QString& path) const = 0;
+  /// The content, or nothing when the file is missing or cannot be read.
+  virtual std::optional<QByteArray> read(const QString& path) const = 0;
+  virtual FileResult write(const QString& path, const QByteArray& content) = 0;
+  /// Replaces `to` by a copy of `from`; with `keepTime` the copy bears the original's time.
+  virtual FileResult copy(const QString& from, const QString& to, bool keepTime = false) = 0;
+  virtual FileResult append(const QString& path, const QByteArray& content) = 0;
+  virtual FileResult rename(const QString& from, const QString& to) = 0;
+  virtual FileResult remove(const QString& path) = 0;
+  /// Makes a folder and those above it.
+  virtual FileResult makeFolder(const QString& path) = 0;
+  /// Invalid when there is no such file.
+  virtual QDateTime modified(const QString& path) const = 0;
+  virtual bool setModified(const QString& path, const QDateTime& time) = 0;
+};
+
+class SystemFiles final : public Files {
+ public:
+  bool exists(const QString& path) const override;
+  std::optional<QByteArray> read(const QString& path) const override;
+  FileResult write(const QString& path, const QByteArray& content) override;
+  FileResult copy(const QString& from, const QString& to, bool keepTime) override;
+  FileResult append(const QString& path, const QByteArray& content) override;
+  FileResult rename(const QString& from, const QString& to) override;
+  FileResult remove(const QString& path) override;
+  FileResult makeFolder(const QString& path) override;
+  QDateTime modified(const QString& path) const override;
+  bool setModified(const QString& path, const QDateTime& time) override;
+};
+
+}  // namespace tavoli

@@ -1,0 +1,219 @@
+#include <QStringEncoder>
+
+#include <gtest/gtest.h>
+#include <random>
+
+#include "data/Contractions.h"
+#include "data/CurrentRecord.h"
+#include "data/Expansion.h"
+#include "data/LessonFile.h"
+#include "data/Text.h"
+#include "data/TextFile.h"
+#include "tests/support/Print.h"
+
+namespace tavoli {
+namespace {
+
+TEST(RecordTest, TakesAWordApart) {
+  const CurrentRecord record =
+      ParseRecord(QStringLiteral("be′st|finest^top^|007最もよい^212最善^|The best way  最善の道"),
+                  QStringLiteral(" best  "), u'1');
+  EXPECT_TRUE(record.complete);
+  EXPECT_EQ(record.英語, QStringLiteral("best"));
+  EXPECT_EQ(record.同, (QStringList{QStringLiteral("finest"), QStringLiteral("top")}));
+  ASSERT_EQ(record.小問数, 2);
+  EXPECT_EQ(record.text(2), QStringLiteral("最善"));
+  EXPECT_EQ(record.記(2), memory完全);
+  EXPECT_EQ(record.at(1).小問回数, 7);
+  EXPECT_EQ(record.コメント, QStringLiteral("The best way  最善の道"));
+  EXPECT_EQ(record.text(3), QString());
+}
+
+TEST(RecordTest, TakesASentenceApart) {
+  const CurrentRecord record = ParseRecord(
+      QStringLiteral("問題％(   )|030011I am a boy.010201000105001^001004boys00000000^|コ|メ"),
+      QStringLiteral("000010"), tableOfSentences);
+  EXPECT_TRUE(record.complete);
+  ASSERT_EQ(record.小問数, 2);
+  EXPECT_EQ(record.at(1).先頭文字数, 3);
+  EXPECT_EQ(record.at(1).正, QStringLiteral("I am a boy."));
+  EXPECT_EQ(record.at(1).省略開始, 1);
+  EXPECT_EQ(record.at(1).省略終了, 2);
+  EXPECT_EQ(record.記(2), memoryうろ覚え);
+  EXPECT_EQ(record.コメント, QStringLiteral("コ|メ")) << "the comment is all behind the last mark";
+}
+
+TEST(RecordTest, DamagedRecordsAreParsedAsFarAsTheyGoAndKeptFromRewriting) {
+  const struct {
+    const char* name;
+    QString text;
+    QChar table;
+    int 小問数;
+    bool complete;
+  } cases[] = {
+      {"empty", QString(), u'1', 0, false},
+      {"no marks", QStringLiteral("abc"), u'B', 0, false},
+      {"length beyond the text", QStringLiteral("問|000099short^|コ"), u'B', 1, false},
+      {"letters for a length", QStringLiteral("問|000xyzanswer^|コ"), u'B', 0, false},
+      {"letters for a count", QStringLiteral("||0xx意味^|"), u'1', 1, false},
+      {"nineteen meanings", QStringLiteral("||") + QStringLiteral("000意味^").repeated(19) + u'|',
+       u'1', 19, true},
+      {"twenty meanings", QStringLiteral("||") + QStringLiteral("000意味^").repeated(20) + u'|',
+       u'1', 19, false},
+      {"twenty synonyms", u'|' + QStringLiteral("syn^").repeated(20) + QStringLiteral("|000意味^|"),
+       u'1', 1, false},
+      {"an empty meaning ends what is asked", QStringLiteral("||000一^000^000三^|"), u'1', 1, true},
+      {"unended element", QStringLiteral("||000一^000二|"), u'1', 1, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const CurrentRecord record = ParseRecord(c.text, QStringLiteral("key"), c.table);
+    EXPECT_EQ(record.小問数, c.小問数);
+    EXPECT_EQ(record.complete, c.complete);
+  }
+}
+
+TEST(RecordTest, NoDamageCrashesTheParserOrTheExpansion) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  const QString alphabet = QStringLiteral("||^^^000112299５ａIam '％[]{}");
+  for (int round = 0; round < 20'000; ++round) {
+    QString text;
+    for (auto length = random() % 60; length > 0; --length)
+      text += alphabet[static_cast<qsizetype>(random()) % alphabet.size()];
+    for (const QChar table : {u'B', u'1'}) {
+      const CurrentRecord record = ParseRecord(text, QStringLiteral("k"), table);
+      if (record.complete) {
+        ASSERT_EQ(packRecord(record), text);
+      }
+      for (const SubQuestion& s : record.小問) ExpandAnswers(s);
+      BuildPronunciationText(record.発音, QString());
+    }
+  }
+}
+
+TEST(RecordTest, ShowsThePronunciationNote) {
+  const struct {
+    const char* name;
+    QString note;
+    QString shown;
+  } cases[] = {
+      {"empty keeps what stood there", QString(), QStringLiteral("before")},
+      {"one character keeps it too", QStringLiteral("x"), QStringLiteral("before")},
+      {"stress in colour", QStringLiteral("te′nnis"), QStringLiteral("［ t{e}nnis ］")},
+      {"two stresses", QStringLiteral("a′bcde’f"), QStringLiteral("［ {a}bcd{e}f ］")},
+      {"accent warning", QStringLiteral("ァho′tel"),
+       QStringLiteral("  {アクセント注意}［ h{o}tel ］")},
+      {"pronunciation warning", QStringLiteral("発ウンド"),
+       QStringLiteral("  {発音注意}［ ウンド ］")},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(BuildPronunciationText(c.note, QStringLiteral("before")), c.shown);
+  }
+}
+
+/// All texts that come of applying every non-empty choice of substitutions that do not overlap.
+QStringList allCombinations(const QString& answer, const std::vector<Substitution>& all) {
+  QStringList texts;
+  for (unsigned choice = 1; choice < 1U << all.size(); ++choice) {
+    std::vector<Substitution> chosen;
+    for (size_t i = 0; i < all.size(); ++i)
+      if (choice >> i & 1U) chosen.push_back(all[i]);
+    std::sort(chosen.begin(), chosen.end(), [](auto& a, auto& b) { return a.start > b.start; });
+    QString text = answer;
+    int limit = static_cast<int>(answer.size()) + 1;
+    bool apart = true;
+    for (const Substitution& s : chosen) {
+      apart = apart && s.end < limit;
+      if (apart) text.replace(s.start - 1, s.end - s.start + 1, s.text);
+      limit = s.start;
+    }
+    if (apart) texts.append(text);
+  }
+  texts.sort();
+  return texts;
+}
+
+TEST(ExpansionTest, HoldsEveryCombinationThatDoesNotOverlap) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+  int expanded = 0;
+  for (int round = 0; round < 2000; ++round) {
+    SubQuestion answer;
+    for (int i = 0; i < 24; ++i) answer.正 += QChar(u'a' + i);
+    const int literals = 1 + upTo(6);
+    QString tail = digits(0, 2) + digits(0, 2) + digits(1, 2) + digits(literals, 2);
+    if (upTo(2) == 1) {
+      answer.省略開始 = 1 + upTo(20);
+      answer.省略終了 = answer.省略開始 + upTo(4);
+      tail = digits(answer.省略開始, 2) + digits(answer.省略終了, 2) + tail.sliced(4);
+    }
+    tail += digits(1 + upTo(18), 2) + digits(1 + upTo(6), 2) + digits(1 + upTo(182), 3);
+    for (int i = 0; i < literals; ++i) {
+      const int start = 1 + upTo(20);
+      const int length = upTo(4);
+      tail += digits(start, 2) + digits(start + upTo(4), 2) + digits(length, 2) +
+              QString(length, QChar(u'A' + i));
+    }
+    answer.同 = tail;
+    const QStringList expected = allCombinations(answer.正, substitutionsOf(answer));
+    QStringList texts;
+    for (const Variant& variant : ExpandAnswers(answer)) {
+      texts.append(variant.text);
+      EXPECT_TRUE(variant.literal || variant.text.toLower() == variant.text ||
+                  !variant.text.contains(u'A'));
+    }
+    texts.sort();
+    if (expected.size() > maxVariants) {
+      EXPECT_TRUE(texts.isEmpty());
+    } else {
+      EXPECT_EQ(texts, expected) << qPrintable(tail);
+      ++expanded;
+    }
+  }
+  EXPECT_GT(expanded, 1000);
+}
+
+TEST(ExpansionTest, ContractionTableKnowsItsPairs) {
+  EXPECT_EQ(contractionText(1), QStringLiteral("I'm "));
+  EXPECT_EQ(contractionText(182), QStringLiteral("They'd "));
+  EXPECT_EQ(contractionText(0) + contractionText(183), QString());
+  EXPECT_EQ(contractionCode(u"I am ", u"I'm "), 1);
+  EXPECT_EQ(contractionCode(u"cannot", u"can't"), 103);
+  EXPECT_EQ(contractionCode(u"I would ", u"I'd "), 145);
+  EXPECT_EQ(contractionCode(u"There has ", u"There's "), 0);
+  EXPECT_TRUE(contractionFits(153, u"he has "));
+  EXPECT_FALSE(contractionFits(2, u"I am "));
+}
+
+TEST(TextFileTest, ReadsUtf8AndCodePage932) {
+  const QString text = QStringLiteral("～ or so　－・①髙\r\nsecond");
+  QStringEncoder codePage932("Shift_JIS");
+  EXPECT_EQ(decodeText(codePage932(text)), text);
+  EXPECT_EQ(decodeText(text.toUtf8()), text);
+  EXPECT_EQ(decodeText("\xEF\xBB\xBF" + text.toUtf8()), text);
+  EXPECT_EQ(decodeText(QByteArray("\x81\x60\x81\x7C\xA5", 5)), QStringLiteral("～－･"));
+  EXPECT_EQ(decodeText(QByteArray("ab\0cd", 5)), std::nullopt);
+  EXPECT_EQ(decodeText(QByteArray("\xFF\xFE\xFD\x80\xA0")), std::nullopt);
+  EXPECT_EQ(
+      splitLines(QStringLiteral("a\r\nb\n\nc\r")),
+      (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("c")}));
+  EXPECT_EQ(splitLines(QString()), QStringList());
+}
+
+TEST(TextTest, ReadsNumbersUpToTheFirstOtherCharacter) {
+  EXPECT_EQ(numberOf(u" 12x"), 12);
+  EXPECT_EQ(numberOf(u"x12"), 0);
+  EXPECT_EQ(numberOf(u"１２"), 0) << "full-width digits are no digits";
+  EXPECT_EQ(numberOf(u"-5"), -5);
+  EXPECT_DOUBLE_EQ(realOf(u"0.50.7"), 0.5);
+  EXPECT_EQ(trimBlanks(u"  a b\u3000 "), QStringLiteral("a b\u3000"));
+  EXPECT_EQ(cut(u"abc", 3, 5) + cut(u"abc", 9, 2) + cut(u"abc", -1, 3), QStringLiteral("ca"));
+}
+
+}  // namespace
+}  // namespace tavoli

@@ -1,0 +1,180 @@
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+using test::TestStore;
+
+QStringList keysForward(TableCursor& rows) {
+  QStringList keys;
+  for (rows.MoveFirst(); !rows.atEOF(); rows.MoveNext()) keys.append(rows.key());
+  return keys;
+}
+
+QStringList keysBackward(TableCursor& rows) {
+  QStringList keys;
+  for (rows.MoveLast(); !rows.atBOF(); rows.MovePrevious()) keys.prepend(rows.key());
+  return keys;
+}
+
+class TableCursorTest : public testing::Test {
+ protected:
+  TableCursorTest() {
+    for (const char* key : {"may", "apple", "～ or so", "May", "3D", "apple pie", "Zoo", "zzz",
+                            "'em", "café", "@home", "in time", "in-box", "zzzzzzzzzzzzzzzzzzzz2"})
+      store.addWord(tableJTDIC, QString::fromUtf8(key), QStringLiteral("||000意味^|"));
+  }
+  TestStore store;
+};
+
+TEST_F(TableCursorTest, WalksSymbolsThenDigitsThenLettersThenReservedKeys) {
+  auto rows = store.database().OpenRecordset(tableJTDIC);
+  const QStringList expected = {QStringLiteral("'em"),
+                                QStringLiteral("@home"),
+                                QStringLiteral("～ or so"),
+                                QStringLiteral("3D"),
+                                QStringLiteral("apple"),
+                                QStringLiteral("apple pie"),
+                                QStringLiteral("café"),
+                                QStringLiteral("in time"),
+                                QStringLiteral("in-box"),
+                                QStringLiteral("May"),
+                                QStringLiteral("may"),
+                                QStringLiteral("Zoo"),
+                                QStringLiteral("zzz"),
+                                rowContentEnd,
+                                rowConditions};
+  EXPECT_EQ(keysForward(*rows), expected);
+  EXPECT_EQ(keysBackward(*rows), expected);
+}
+
+TEST_F(TableCursorTest, SeeksInKeyOrder) {
+  using enum SeekOp;
+  const struct {
+    const char* name;
+    SeekOp op;
+    const char* key;
+    const char* found;  // "" for no match
+    const char* next;
+    const char* previous;
+  } cases[] = {
+      {"exact row among case variants", Equal, "may", "may", "Zoo", "May"},
+      {"the other variant", Equal, "May", "May", "may", "in-box"},
+      {"no exact row: the first variant", Equal, "MAY", "May", "may", "in-box"},
+      {"nothing equal", Equal, "banana", "", "", ""},
+      {"at or after", AtOrAfter, "b", "café", "in time", "apple pie"},
+      {"at or after lands on an equal key", AtOrAfter, "MAY", "May", "may", "in-box"},
+      {"at or before", AtOrBefore, "b", "apple pie", "café", "apple"},
+      {"at or before takes the last equal key", AtOrBefore, "may", "may", "Zoo", "May"},
+      {"reserved keys come last", AtOrAfter, "zzzz", "zzzzzzzzzzzzzzzzzzzz1",
+       "zzzzzzzzzzzzzzzzzzzz2", "zzz"},
+      {"behind everything", AtOrAfter, "zzzzzzzzzzzzzzzzzzzz3", "", "", ""},
+      {"before everything", AtOrBefore, "!", "", "", ""},
+  };
+  auto rows = store.database().OpenRecordset(tableJTDIC);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    rows->Seek(c.op, QString::fromUtf8(c.key));
+    EXPECT_EQ(rows->NoMatch(), *c.found == '\0');
+    EXPECT_EQ(rows->key(), QString::fromUtf8(c.found));
+    rows->MoveNext();
+    EXPECT_EQ(rows->key(), QString::fromUtf8(c.next));
+    rows->Seek(c.op, QString::fromUtf8(c.key));
+    rows->MovePrevious();
+    EXPECT_EQ(rows->key(), QString::fromUtf8(c.previous));
+  }
+}
+
+TEST_F(TableCursorTest, EditsTheCurrentRowAndAddsBesideIt) {
+  auto rows = store.database().OpenRecordset(tableJTDIC);
+  rows->Seek(SeekOp::Equal, QStringLiteral("apple"));
+  rows->Edit();
+  rows->setValue(field記憶, QStringLiteral("2"));
+  rows->setValue(field読上, QString());
+  ASSERT_TRUE(rows->Update());
+  EXPECT_EQ(rows->text(field記憶), QStringLiteral("2"));
+
+  rows->AddNew();
+  rows->setValue(field英語, QStringLiteral("apple juice"));
+  ASSERT_TRUE(rows->Update());
+  EXPECT_EQ(rows->key(), QStringLiteral("apple"));
+  rows->MoveNext();
+  EXPECT_EQ(rows->key(), QStringLiteral("apple juice"));
+  EXPECT_EQ(rows->value(field読上), std::nullopt) << "a field never set is NULL";
+  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field読上), QString())
+      << "the empty text is not NULL";
+  EXPECT_FALSE(rows->Update()) << "nothing was begun";
+}
+
+TEST_F(TableCursorTest, WriteKeepsAllOrNothing) {
+  auto rows = store.database().OpenRecordset(tableJTDIC);
+  const auto setMemory = [&](const QString& key) {
+    rows->Seek(SeekOp::Equal, key);
+    rows->Edit();
+    rows->setValue(field記憶, QStringLiteral("2"));
+    return rows->Update();
+  };
+  EXPECT_FALSE(store.database().write([&] { return setMemory(QStringLiteral("apple")) && false; }));
+  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field記憶), QStringLiteral("0"));
+  EXPECT_TRUE(store.database().write([&] { return setMemory(QStringLiteral("apple")); }));
+  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field記憶), QStringLiteral("2"));
+}
+
+TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
+  TestStore store;
+  store.addSentence(QStringLiteral("000010"), QString(200'000, u'x'));
+  store.close();
+  QFile good(store.path());
+  ASSERT_TRUE(good.open(QIODevice::ReadOnly));
+  const QByteArray content = good.readAll();
+  const struct {
+    const char* name;
+    std::optional<QByteArray> content;
+    int expected;
+  } cases[] = {
+      {"missing", std::nullopt, openError::fileNotFound},
+      {"empty", QByteArray(), openError::notADatabase},
+      {"foreign", QByteArray("This is a letter, not a database.").repeated(50),
+       openError::notADatabase},
+      {"cut inside its first page", content.left(60), openError::notADatabase},
+      {"cut in half", content.left(content.size() / 2), openError::notADatabase},
+      {"sound", content, openError::none},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const QString path = store.folder() + QStringLiteral("/case.mdb");
+    QFile::remove(path);
+    if (c.content) {
+      QFile file(path);
+      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write(*c.content);
+    }
+    std::optional<Database> database;
+    int errorNumber = -1;
+    openDatabase(path, database, errorNumber);
+    EXPECT_EQ(errorNumber, c.expected);
+    EXPECT_EQ(database.has_value(), c.expected == openError::none);
+  }
+}
+
+TEST(OpenDatabaseTest, DamageInTheMiddleOpensButIsNotSound) {
+  TestStore store;
+  for (int i = 0; i < 400; ++i) store.addSentence(digits(i, 6), QString(500, QChar(u'a' + i % 26)));
+  EXPECT_TRUE(store.database().isSound());
+  store.close();
+  QFile file(store.path());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  file.seek(file.size() / 2);
+  file.write(QByteArray(20'000, '\xAA'));
+  file.close();
+  store.open();
+  EXPECT_FALSE(store.database().isSound());
+}
+
+}  // namespace
+}  // namespace tavoli
