@@ -31,8 +31,9 @@ QString keyOrder(const QString& sqlOperand) {
       "CASE WHEN lower(substr(%1,1,4))='zzzz' THEN '3' WHEN %1 GLOB '[0-9]*' THEN '1' "
       "WHEN %1 GLOB '[A-Za-z]*' OR unicode(%1)>=192 AND unicode(%1) NOT BETWEEN 8192 AND 12351 "
       "AND unicode(%1) NOT BETWEEN 65280 AND 65381 THEN '2' ELSE '0' END");
-  // Further on, "/" is the last symbol that stands before the digits by itself: those that would not
-  // are put behind it. Only the ones that keys use, since SQLite bounds how deep a call may nest.
+  // Further on, "/" is the last symbol that stands before the digits by itself: those that would
+  // not are put behind it. Only the ones that keys use, since SQLite bounds how deep a call may
+  // nest.
   static const QString symbols = QStringLiteral(":;=?@[]_~～…’");
   QString order = QStringLiteral("lower(%1)");
   for (const QChar symbol : symbols)

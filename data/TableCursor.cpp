@@ -109,6 +109,7 @@ void TableCursor::stopWalk() {
 
 void TableCursor::Seek(SeekOp op, const QString& key) {
   stopWalk();
+  m_failed = false;
   const bool backward = op == SeekOp::AtOrBefore;
   const Query query = op == SeekOp::Equal ? Query::Equal
                       : backward          ? Query::AtOrBefore
@@ -126,11 +127,13 @@ void TableCursor::Seek(SeekOp op, const QString& key) {
 
 void TableCursor::MoveFirst() {
   stopWalk();
+  m_failed = false;
   start(prepared(Query::First), Direction::Forward);
 }
 
 void TableCursor::MoveLast() {
   stopWalk();
+  m_failed = false;
   start(prepared(Query::Last), Direction::Backward);
 }
 

@@ -25,7 +25,7 @@ enum class SeekOp { Equal, AtOrAfter, AtOrBefore };
 
 /// A read-write walk over one table in key order. Keys that differ only in case stand side by side;
 /// Seek "=" lands on the exactly equal one where there is one. A read that fails ends the walk and
-/// sets failed().
+/// sets failed(), until the next Seek, MoveFirst or MoveLast.
 class TableCursor {
  public:
   TableCursor(SQLite::Database& database, const QString& table);

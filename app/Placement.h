@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include "app/Module1.h"
+
+namespace tavoli {
+
+class Clock;
+class Files;
+
+/// The folder of the learners' data below the application's folder.
+QString defaultDataFolder(const QString& applicationFolder);
+
+/// The placed folder that TavoAlloc.txt in the application's folder names. A file that is missing,
+/// unreadable or shorter than two characters is made anew with the default folder.
+QString readPlacement(Files& files, const QString& applicationFolder);
+
+/// Program start: the shared state at its starting values, the folders made where they are missing.
+Module1 startModule1(Files& files, const Clock& clock, const QString& applicationFolder);
+
+/// The application's folder, where the program's own data lie. Beside a program in its build folder
+/// it is that folder's `app`; for an installed program it is the user's own data folder.
+QString applicationFolderFor(const QString& programFolder);
+
+/// Copies what was delivered with the program (databases, lesson files) into the application's
+/// folder. What is already there stays as it is. False when something could not be copied.
+bool fillApplicationFolder(Files& files, const QString& programFolder,
+                           const QString& applicationFolder);
+
+}  // namespace tavoli

@@ -1,0 +1,76 @@
+#include "conditions/ConditionsStore.h"
+
+#include "data/Schema.h"
+#include "data/Text.h"
+
+namespace tavoli {
+
+CourseChoice readCourse(Database& database, const CourseChoice& before) {
+  CourseChoice course = before;
+  const auto rsBDIC = database.OpenRecordset(tableBDIC);
+  if (!rsBDIC) return course;
+  rsBDIC->Seek(SeekOp::Equal, rowCourse);
+  if (rsBDIC->NoMatch()) {
+    course = CourseChoice();
+    rsBDIC->AddNew();
+    rsBDIC->setValue(field文番, rowCourse);
+    rsBDIC->setValue(field記憶, QString(course.COURSE));
+    rsBDIC->setValue(field回数, QStringLiteral("00"));
+    rsBDIC->setValue(field問正コ, QString());
+    rsBDIC->Update();
+    return course;
+  }
+  const QString code = rsBDIC->text(field記憶);
+  course.COURSE = code == QString(course中学) || code == QString(course専門) ? code[0] : course高校;
+  course.specialTable = trimBlanks(rsBDIC->value(field問正コ).value_or(before.specialTable));
+  return course;
+}
+
+bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course) {
+  rsBDIC.Seek(SeekOp::Equal, rowCourse);
+  if (rsBDIC.NoMatch()) {
+    rsBDIC.AddNew();
+    rsBDIC.setValue(field文番, rowCourse);
+    rsBDIC.setValue(field回数, QStringLiteral("00"));
+  } else {
+    rsBDIC.Edit();
+  }
+  rsBDIC.setValue(field記憶, QString(course.COURSE));
+  if (course.COURSE == course専門) rsBDIC.setValue(field問正コ, trimBlanks(course.specialTable));
+  return rsBDIC.Update();
+}
+
+PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
+                                  const QString& defaultLessonFolder) {
+  rsTDIC.Seek(SeekOp::Equal, rowConditions);
+  PracticeConditions conditions;
+  if (rsTDIC.NoMatch()) {
+    conditions.userId = userId;
+    conditions.lessonFolder = defaultLessonFolder;
+    rsTDIC.AddNew();
+    rsTDIC.setValue(field英語, rowConditions);
+    rsTDIC.setValue(field発同日コ, encodeConditions(conditions));
+    rsTDIC.setValue(fieldレベル, QStringLiteral("00"));
+    rsTDIC.setValue(field記憶, QStringLiteral("0"));
+    rsTDIC.setValue(field回数, QStringLiteral("00"));
+    rsTDIC.Update();
+    return conditions;
+  }
+  conditions = decodeConditions(rsTDIC.text(field発同日コ), defaultLessonFolder);
+  conditions.userId = userId;
+  return conditions;
+}
+
+bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions) {
+  rsTDIC.Seek(SeekOp::Equal, rowConditions);
+  if (rsTDIC.NoMatch()) {
+    rsTDIC.AddNew();
+    rsTDIC.setValue(field英語, rowConditions);
+  } else {
+    rsTDIC.Edit();
+  }
+  rsTDIC.setValue(field発同日コ, encodeConditions(conditions));
+  return rsTDIC.Update();
+}
+
+}  // namespace tavoli

@@ -1,0 +1,81 @@
+#include "conditions/PastConditions.h"
+
+#include "data/Text.h"
+#include "data/TextFile.h"
+#include "system/Files.h"
+
+namespace tavoli {
+
+namespace {
+
+QChar characterAt(const QString& line, qsizetype position) {
+  return line.size() >= position ? line[position - 1] : QChar(u' ');
+}
+
+/// Nothing when the file is there but cannot be read.
+std::optional<QStringList> storedLines(const Files& files, const QString& path) {
+  if (!files.exists(path)) return QStringList();
+  const std::optional<QByteArray> bytes = files.read(path);
+  const std::optional<QString> text = bytes ? decodeText(*bytes) : std::nullopt;
+  if (!text) return std::nullopt;
+  return splitLines(*text);
+}
+
+}  // namespace
+
+QString pastConditionsLine(QDate date, const CourseChoice& course, const PracticeConditions& c) {
+  // From here on the line is the record of the tables with other things before and behind.
+  const QString record = encodeConditions(c);
+  return date.toString(QStringLiteral("yyyy/MM/dd")) + course.COURSE + cut(record, 10, 174) +
+         fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark + c.lessonFile;
+}
+
+PastRun readConditions(const QString& line) {
+  const auto text = [&](qsizetype position, int width) {
+    return trimBlanks(cut(line, position, width));
+  };
+  PastRun run;
+  run.date = text(1, 10);
+  run.COURSE = characterAt(line, 11);
+  run.selMethod = characterAt(line, 13);
+  run.startMode = characterAt(line, 26);
+  run.startEnglish = text(27, 50);
+  run.firstEnglish = text(77, 50);
+  run.lastEnglish = text(127, 50);
+  run.memorySelect = characterAt(line, 177);
+  run.levelFrom = text(178, 2);
+  run.levelTo = text(180, 2);
+  run.specialTable = text(186, 25);
+  const QString tail = cutFrom(line, 211);
+  const qsizetype mark = tail.indexOf(fieldMark);
+  if (mark >= 1) run.lessonFile = tail.sliced(mark + 1);
+  return run;
+}
+
+QStringList pastConditions(const Files& files, const QString& path) {
+  return storedLines(files, path).value_or(QStringList()).mid(0, maxPastConditions);
+}
+
+QStringList listPastConditions(const QStringList& lines) {
+  QStringList entries;
+  QString letter;
+  for (int n = 0; n < lines.size(); ++n) {
+    const QChar course = characterAt(lines[n], 11);
+    if (course == course中学) letter = QStringLiteral("中");
+    if (course == course高校) letter = QStringLiteral("高");
+    if (course == course専門) letter = QStringLiteral("専");
+    entries.append(digits(n + 1, 3) + QStringLiteral("　") + cut(lines[n], 1, 10) + letter);
+  }
+  return entries;
+}
+
+bool appendPastConditions(Files& files, const QString& path, const QString& line) {
+  const std::optional<QStringList> stored = storedLines(files, path);
+  if (!stored) return false;
+  const QStringList lines = *stored + QStringList{line};
+  const QString text =
+      lines.mid(std::max<qsizetype>(0, lines.size() - maxPastConditions)).join(u'\n') + u'\n';
+  return files.write(path, text.toUtf8()) == FileResult::Ok;
+}
+
+}  // namespace tavoli

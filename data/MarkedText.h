@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace tavoli {
+
+/// A text with its display marks taken out: "[" "]" underline and "{" "}" colour what stands
+/// between them, "％" breaks the line.
+struct MarkedText {
+  struct Span {
+    enum class Kind { Underlined, Coloured };
+    Kind kind;
+    qsizetype offset;  ///< in `text`, from 0
+    qsizetype length;
+  };
+  QString text;
+  std::vector<Span> spans;
+  /// A mark stood alone or was closed by another kind's; such a pair marks nothing.
+  bool unpaired = false;
+};
+
+/// Marks are taken in pairs from the left: the first with the second, the third with the fourth.
+MarkedText parseMarks(const QString& marked);
+
+/// The text as it is, nothing in it taken for a mark.
+MarkedText plainText(const QString& text);
+
+}  // namespace tavoli

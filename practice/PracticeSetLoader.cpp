@@ -1,0 +1,187 @@
+#include "practice/PracticeSetLoader.h"
+
+#include <algorithm>
+
+#include "data/LessonFile.h"
+#include "data/Schema.h"
+#include "data/Text.h"
+#include "system/Dialogs.h"
+#include "system/Files.h"
+#include "system/Random.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int progressFrom = 1000;
+constexpr int pumpEvery = 500;
+
+QString firstSentence(QChar course) {
+  if (course == course中学) return QStringLiteral("000000");
+  return course == course高校 ? QStringLiteral("500000") : QStringLiteral("900000");
+}
+
+/// The first key behind the sentences of a course.
+QString sentencesEnd(QChar course) {
+  if (course == course中学) return QStringLiteral("500000");
+  return course == course高校 ? QStringLiteral("900000") : QStringLiteral("Z00000");
+}
+
+/// What a row of any table gives to its item.
+PracticeItem itemOf(const TableCursor& row, const QString& recordField) {
+  PracticeItem item;
+  item.itemEnglish = row.key();
+  const QString memory = row.text(field記憶);
+  item.itemMemory = memory.isEmpty() ? QChar() : memory[0];
+  item.itemTimes = numberOf(row.text(field回数));
+  item.itemRecord = row.text(recordField);
+  item.itemReading = row.text(field読上);
+  return item;
+}
+
+bool isDigit(QChar c) {
+  return c >= u'0' && c <= u'9';
+}
+
+}  // namespace
+
+int lessonStartLine(const QStringList& lines, const QString& startKey) {
+  const bool sentence = isSentenceEntry(startKey);
+  const auto matches = [&](const QString& line) {
+    return sentence ? cut(line, 1, 6) == cut(startKey, 1, 6) : trimBlanks(line) == startKey;
+  };
+  const auto found = std::find_if(lines.begin(), lines.end(), matches);
+  if (found == lines.end() || std::next(found) == lines.end()) return 1;
+  return static_cast<int>(std::distance(lines.begin(), found)) + 1;
+}
+
+PracticeSetLoader::PracticeSetLoader(LearningTables& tables, const CourseChoice& course,
+                                     const PracticeConditions& conditions, const Files& files,
+                                     Random& random, Dialogs& dialogs, LoadProgress& progress)
+    : m_tables(tables),
+      m_course(course),
+      m_conditions(conditions),
+      m_files(files),
+      m_random(random),
+      m_dialogs(dialogs),
+      m_progress(progress) {}
+
+PracticeSet PracticeSetLoader::LoadPracticeSet(const QString& startKey) {
+  m_set = PracticeSet();
+  if (m_conditions.usesLesson())
+    loadLesson(startKey);
+  else if (m_conditions.usesWords())
+    LoadWords(startKey);
+  else
+    LoadSentences(startKey);
+  if (m_conditions.isRandom()) {
+    m_random.reseed();
+    m_set.ShufflePracticeSet(m_random);
+  }
+  return std::move(m_set);
+}
+
+void PracticeSetLoader::loadLesson(const QString& startKey) {
+  QStringList lines = readLessonLines(m_files, m_conditions.lessonPath()).value_or(QStringList());
+  lines.removeIf(isPracticeComment);
+  if (lines.size() > maxLessonLines) lines.resize(maxLessonLines);
+
+  const int startLine = lessonStartLine(lines, startKey);
+  beginProgress(static_cast<int>(lines.size()));
+  for (int n = 1; n <= lines.size() && m_set.itemCount() < maxItems && goesOn(n); ++n) {
+    const QString& line = lines[n - 1];
+    if (isSentenceEntry(line)) {
+      m_tables.rsBDIC().Seek(SeekOp::Equal, cut(line, 1, 6));
+      if (!m_tables.rsBDIC().NoMatch()) appendSentence(line);
+    } else {
+      appendLessonWord(trimBlanks(line));
+    }
+    if (n == startLine) m_set.startIndex = std::max(1, m_set.itemCount());
+  }
+  endProgress();
+}
+
+void PracticeSetLoader::appendLessonWord(const QString& line) {
+  for (int place = 1; place <= m_tables.places(); ++place) {
+    TableCursor& rows = m_tables.rsTDIC(place);
+    for (rows.Seek(SeekOp::Equal, line);
+         rows.hasRow() && rows.key().compare(line, Qt::CaseInsensitive) == 0; rows.MoveNext()) {
+      if (rows.key() != line) continue;
+      appendWord(place, line);
+      return;
+    }
+  }
+}
+
+void PracticeSetLoader::LoadWords(const QString& startKey) {
+  TableCursor& rows = m_tables.rsTDIC(1);
+  // Words that begin with a symbol stand before any digit: the first item is the first row.
+  if (startKey == startKeyFirst)
+    rows.MoveFirst();
+  else
+    rows.Seek(SeekOp::AtOrAfter, startKey);
+  const int wanted = std::min(m_conditions.maxLoadWords, maxItems);
+  beginProgress(wanted);
+  for (int n = 1; n <= wanted && rows.hasRow() && !isReservedKey(rows.key()) && goesOn(n); ++n) {
+    appendWord(1, rows.key());
+    rows.MoveNext();
+  }
+  endProgress();
+  m_dialogs.show(QStringLiteral("最大読込数 %1 のうち %2が練習条件を満足しました。")
+                     .arg(m_conditions.maxLoadWords)
+                     .arg(m_set.itemCount()));
+}
+
+void PracticeSetLoader::LoadSentences(const QString& startKey) {
+  TableCursor& rows = m_tables.rsBDIC();
+  QString from = cut(startKey, 1, 6);
+  if (startKey == startKeyFirst || !isDigit(from.isEmpty() ? QChar() : from[0]))
+    from = firstSentence(m_course.COURSE);
+  const QString end = sentencesEnd(m_course.COURSE);
+  rows.Seek(SeekOp::AtOrAfter, from);
+  const int wanted = std::min(m_conditions.maxLoadSent, maxItems);
+  beginProgress(wanted);
+  for (int n = 1; n <= wanted && rows.hasRow() && rows.key() < end && goesOn(n); ++n) {
+    appendSentence(QString());
+    rows.MoveNext();
+  }
+  endProgress();
+}
+
+void PracticeSetLoader::beginProgress(int loadTotal) {
+  m_progressShown = loadTotal > progressFrom;
+  if (m_progressShown) m_progress.begin(loadTotal);
+}
+
+void PracticeSetLoader::endProgress() {
+  if (m_progressShown) m_progress.end();
+}
+
+bool PracticeSetLoader::goesOn(int number) {
+  return !m_progressShown || number % pumpEvery != 1 || m_progress.reached(number);
+}
+
+void PracticeSetLoader::appendSentence(const QString& lessonLine) {
+  PracticeItem item = itemOf(m_tables.rsBDIC(), field問正コ);
+  item.lessonLine = lessonLine;
+  item.itemTable = tableOfSentences;
+  item.itemLevel = u'0' + item.itemEnglish.left(1);
+  if (KeepIfConditionsMet(item)) m_set.append(std::move(item));
+}
+
+void PracticeSetLoader::appendWord(int place, const QString& lessonLine) {
+  const TableCursor& row = m_tables.rsTDIC(place);
+  PracticeItem item = itemOf(row, field発同日コ);
+  item.lessonLine = lessonLine;
+  item.itemTable = QChar(u'0' + place);
+  item.itemLevel = digits(numberOf(row.text(fieldレベル)), 2);
+  if (KeepIfConditionsMet(item)) m_set.append(std::move(item));
+}
+
+bool PracticeSetLoader::KeepIfConditionsMet(const PracticeItem& item) const {
+  return !isReservedKey(item.itemEnglish) && m_conditions.levelFrom <= item.itemLevel &&
+         item.itemLevel <= m_conditions.levelTo &&
+         memoryAdmitted(m_conditions.memorySelect, item.itemMemory);
+}
+
+}  // namespace tavoli

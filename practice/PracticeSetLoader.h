@@ -1,0 +1,62 @@
+#pragma once
+
+#include "conditions/PracticeConditions.h"
+#include "practice/LearningTables.h"
+#include "practice/PracticeSet.h"
+
+namespace tavoli {
+
+class Dialogs;
+class Files;
+class Random;
+
+/// Watches a long load and may stop it.
+class LoadProgress {
+ public:
+  virtual ~LoadProgress() = default;
+  /// A load of more than 1000 lines or rows begins.
+  virtual void begin(int loadTotal) = 0;
+  /// Called at every 500th line or row; false when the learner wants no more.
+  virtual bool reached(int loadDone) = 0;
+  virtual void end() = 0;
+};
+
+/// Makes the practice set of a run out of the conditions and the learner's tables.
+class PracticeSetLoader {
+ public:
+  PracticeSetLoader(LearningTables& tables, const CourseChoice& course,
+                    const PracticeConditions& conditions, const Files& files, Random& random,
+                    Dialogs& dialogs, LoadProgress& progress);
+
+  /// `startKey` is where the run starts: a word, a sentence entry, or "000000" for the first item.
+  PracticeSet LoadPracticeSet(const QString& startKey);
+
+ private:
+  void loadLesson(const QString& startKey);
+  void LoadWords(const QString& startKey);
+  void LoadSentences(const QString& startKey);
+  bool goesOn(int number);
+  void beginProgress(int loadTotal);
+  void endProgress();
+
+  void appendSentence(const QString& lessonLine);
+  void appendWord(int place, const QString& lessonLine);
+  void appendLessonWord(const QString& line);
+  bool KeepIfConditionsMet(const PracticeItem& item) const;
+
+  LearningTables& m_tables;
+  const CourseChoice& m_course;
+  const PracticeConditions& m_conditions;
+  const Files& m_files;
+  Random& m_random;
+  Dialogs& m_dialogs;
+  LoadProgress& m_progress;
+  bool m_progressShown = false;
+  PracticeSet m_set;
+};
+
+/// The line, from 1, at which a lesson run starts: the one that `startKey` names, but never the
+/// last line; else the first.
+int lessonStartLine(const QStringList& lines, const QString& startKey);
+
+}  // namespace tavoli

@@ -1,0 +1,95 @@
+#include "practice/QuestionText.h"
+
+#include "conditions/PracticeConditions.h"
+#include "data/Text.h"
+
+namespace tavoli {
+
+namespace {
+
+/// Where the sentence to correct is looked for in the question, from 1, and where it begins when no
+/// line break says so.
+constexpr qsizetype correctionSearchFrom = 12;
+constexpr qsizetype correctionDefault = 14;
+
+QString withoutMarks(QString text) {
+  for (const QChar mark : QStringLiteral("[]{}")) text.remove(mark);
+  return text;
+}
+
+QString sentenceToCorrect(const QString& 問題文) {
+  qsizetype at = 問題文.indexOf(QStringLiteral("％％"), correctionSearchFrom - 1);
+  if (at < 0) at = 問題文.indexOf(lineMark, correctionSearchFrom - 1);
+  if (at < 0) at = correctionDefault - 1;
+  while (at < 問題文.size() && 問題文[at] == lineMark) ++at;
+  return withoutMarks(問題文.sliced(std::min(at, 問題文.size())));
+}
+
+}  // namespace
+
+bool isCorrection(const CurrentRecord& record) {
+  return record.sentence &&
+         record.問題文.startsWith(QStringLiteral("次の英文に誤りがあれば訂正しなさい"));
+}
+
+QString answerStart(const CurrentRecord& record, int k) {
+  if (!record.sentence || !record.has(k)) return {};
+  if (isCorrection(record)) return sentenceToCorrect(record.問題文);
+  return record.at(k).正.left(record.at(k).先頭文字数);
+}
+
+QStringList sentenceAnswerLines(const CurrentRecord& record) {
+  QStringList lines;
+  for (int k = 1; k <= record.小問数; ++k) {
+    const SubQuestion& s = record.at(k);
+    if (s.省略開始 < 1) {
+      lines.append(s.正);
+      continue;
+    }
+    const int length = s.省略終了 - s.省略開始 + 1;
+    lines.append(cut(s.正, 1, s.省略開始 - 1) + u'(' + cut(s.正, s.省略開始, length) + u')' +
+                 cutFrom(s.正, s.省略終了 + 1));
+  }
+  return lines;
+}
+
+QStringList wordAnswerLines(const CurrentRecord& record) {
+  QStringList lines;
+  if (!record.同.isEmpty())
+    lines.append(QStringLiteral(" (%1 )").arg(record.同.join(QStringLiteral(" ＝ "))));
+  QString meanings;
+  for (int k = 1; k <= record.小問数; ++k) meanings += record.at(k).日本語 + QStringLiteral("  ");
+  lines.append(meanings);
+  return lines;
+}
+
+QString fullAnswerText(const CurrentRecord& record) {
+  const QStringList answers =
+      record.sentence ? sentenceAnswerLines(record) : wordAnswerLines(record);
+  QStringList lines;
+  lines.append(record.sentence ? record.問題文
+                               : record.英語 + BuildPronunciationText(record.発音, QString()));
+  lines += answers;
+  if (!record.コメント.isEmpty()) lines.append(record.コメント);
+  return lines.join(lineMark);
+}
+
+QString sourceLabel(const CurrentRecord& record, const QString& key, QChar itemTable,
+                    QChar COURSE) {
+  if (record.sentence) {
+    const QChar first = key.isEmpty() ? QChar() : key[0];
+    if (first >= u'0' && first <= u'4') return QStringLiteral("問題　中学");
+    if (first >= u'5' && first <= u'8') return QStringLiteral("問題　高校");
+    return QStringLiteral("問題　専門");
+  }
+  const int place = itemTable.unicode() - u'1';
+  const QStringList names =
+      COURSE == course中学 ? QStringList{QStringLiteral("中学"), QStringLiteral("高校")}
+      : COURSE == course高校
+          ? QStringList{QStringLiteral("高校"), QStringLiteral("中学")}
+          : QStringList{QStringLiteral("専門"), QStringLiteral("高校"), QStringLiteral("中学")};
+  if (place < 0 || place >= names.size()) return {};
+  return QStringLiteral("問題　%1DB").arg(names[place]);
+}
+
+}  // namespace tavoli
