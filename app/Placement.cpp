@@ -26,6 +26,10 @@ QString defaultDataFolder(const QString& applicationFolder) {
   return applicationFolder + u'/' + dataFolderName;
 }
 
+QString lessonFolder(const QString& applicationFolder) {
+  return applicationFolder + u'/' + lessonFolderName;
+}
+
 QString readPlacement(Files& files, const QString& applicationFolder) {
   const QString path = applicationFolder + QStringLiteral("/TavoAlloc.txt");
   const std::optional<QByteArray> bytes = files.read(path);
@@ -60,9 +64,9 @@ bool fillApplicationFolder(Files& files, const QString& programFolder,
   QString originals = buildOriginals(programFolder);
   if (!QDir(originals).exists()) originals = programFolder + QStringLiteral("/../share/tavoli");
   const QString dataFolder = defaultDataFolder(applicationFolder);
-  const QString lessonFolder = applicationFolder + u'/' + lessonFolderName;
-  bool filled = files.makeFolder(dataFolder) == FileResult::Ok &&
-                files.makeFolder(lessonFolder) == FileResult::Ok;
+  const QString lessons = lessonFolder(applicationFolder);
+  bool filled =
+      files.makeFolder(dataFolder) == FileResult::Ok && files.makeFolder(lessons) == FileResult::Ok;
   const auto deliver = [&](const QString& from, const QString& pattern, const QString& to) {
     for (const QFileInfo& file : QDir(from).entryInfoList({pattern}, QDir::Files)) {
       const QString target = to + u'/' + file.fileName();
@@ -71,7 +75,7 @@ bool fillApplicationFolder(Files& files, const QString& programFolder,
     }
   };
   deliver(originals, QStringLiteral("TavoDB*.mdb"), dataFolder);
-  deliver(originals + u'/' + lessonFolderName, QStringLiteral("*"), lessonFolder);
+  deliver(originals + u'/' + lessonFolderName, QStringLiteral("*"), lessons);
   return filled;
 }
 

@@ -12,6 +12,9 @@ class Files;
 /// The folder of the learners' data below the application's folder.
 QString defaultDataFolder(const QString& applicationFolder);
 
+/// The standard place of lesson files.
+QString lessonFolder(const QString& applicationFolder);
+
 /// The placed folder that TavoAlloc.txt in the application's folder names. A file that is missing,
 /// unreadable or shorter than two characters is made anew with the default folder.
 QString readPlacement(Files& files, const QString& applicationFolder);

@@ -4,7 +4,6 @@
 
 #include "data/Text.h"
 #include "practice/PracticeScreen.h"
-#include "practice/QuestionText.h"
 #include "system/Dialogs.h"
 
 namespace tavoli {

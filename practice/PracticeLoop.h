@@ -6,6 +6,7 @@
 #include "data/CurrentRecord.h"
 #include "judge/Comparison.h"
 #include "practice/PracticeSet.h"
+#include "practice/QuestionText.h"
 
 namespace tavoli {
 
@@ -35,6 +36,8 @@ class PracticeLoop {
   int POS() const { return m_POS; }
   int POS1() const { return m_POS1; }
   bool 確認中() const { return m_確認中; }
+  /// The answer box holds a sentence that is to be corrected.
+  bool correcting() const { return isCorrection(m_record); }
 
  private:
   /// The step after a change of item or 小問: shows the next admitted 小問, or the whole answer

@@ -1,0 +1,52 @@
+#include "app/CommandLine.h"
+
+#include <QCommandLineParser>
+
+namespace tavoli {
+
+CommandLine parseCommandLine(const QStringList& arguments, const QString& version) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral("Tavoli: 英語ドリル"));
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption showVersion = parser.addVersionOption();
+  const QCommandLineOption terminal(QStringLiteral("terminal"),
+                                    QStringLiteral("端末で練習します。"));
+  const QCommandLineOption folder(QStringLiteral("app-folder"),
+                                  QStringLiteral("データを置くフォルダ"), QStringLiteral("DIR"));
+  const QCommandLineOption user(QStringLiteral("user"), QStringLiteral("ユーザーID（端末のみ）"),
+                                QStringLiteral("ID"));
+  const QCommandLineOption password(
+      QStringLiteral("password"), QStringLiteral("パスワード（端末のみ）"), QStringLiteral("TEXT"));
+  const QCommandLineOption set(QStringLiteral("set"),
+                               QStringLiteral("今回の練習条件を変えます（端末のみ、何度でも）。"),
+                               QStringLiteral("NAME=VALUE"));
+  parser.addOptions({terminal, folder, user, password, set});
+
+  CommandLine line;
+  if (!parser.parse(arguments)) {
+    line.complaint = parser.errorText();
+    return line;
+  }
+  if (parser.isSet(help)) line.information = parser.helpText();
+  if (parser.isSet(showVersion)) line.information = QStringLiteral("tavoli %1\n").arg(version);
+  line.terminal = parser.isSet(terminal);
+  line.applicationFolder = parser.value(folder);
+  if (parser.isSet(user)) line.terminalOptions.user = parser.value(user);
+  line.terminalOptions.password = parser.value(password);
+  for (const QString& setting : parser.values(set)) {
+    const qsizetype equals = setting.indexOf(u'=');
+    if (equals < 1)
+      line.complaint = QStringLiteral("--set %1: NAME=VALUE の形にしてください。").arg(setting);
+    else
+      line.terminalOptions.settings.append({setting.left(equals), setting.sliced(equals + 1)});
+  }
+  if (!parser.positionalArguments().isEmpty())
+    line.complaint =
+        QStringLiteral("%1: この引数はありません。").arg(parser.positionalArguments().first());
+  if (!line.terminal && (parser.isSet(user) || parser.isSet(password) || parser.isSet(set)))
+    line.complaint =
+        QStringLiteral("--user、--password、--set は --terminal と一緒に使ってください。");
+  return line;
+}
+
+}  // namespace tavoli

@@ -1,0 +1,120 @@
+#include "app/Terminal.h"
+
+namespace tavoli {
+
+namespace {
+
+const QString areaBox = QStringLiteral("箱");
+const QString areaAnswer = QStringLiteral("回答");
+
+/// The text with its marks written out as the sources spell them.
+QString withMarks(const MarkedText& marked) {
+  QString text = marked.text;
+  for (auto span = marked.spans.rbegin(); span != marked.spans.rend(); ++span) {
+    const bool underlined = span->kind == MarkedText::Span::Kind::Underlined;
+    text.insert(span->offset + span->length, underlined ? u']' : u'}');
+    text.insert(span->offset, underlined ? u'[' : u'{');
+  }
+  return text;
+}
+
+}  // namespace
+
+Terminal::Terminal() : m_in(stdin), m_out(stdout) {
+  m_in.setEncoding(QStringConverter::Utf8);
+  m_out.setEncoding(QStringConverter::Utf8);
+}
+
+void Terminal::show(const QString& area, const QString& text) {
+  if (m_shown.value(area) == text) return;
+  m_shown[area] = text;
+  if (text.isEmpty()) return;
+  QString lines = text;
+  lines.replace(u'\n', QStringLiteral("\n    "));
+  m_out << u'[' << area << QStringLiteral("] ") << lines << Qt::endl;
+}
+
+std::optional<QString> Terminal::readLine() {
+  m_out.flush();
+  const QString line = m_in.readLine();
+  if (line.isNull()) return std::nullopt;
+  return line;
+}
+
+void TerminalDialogs::show(const QString& text) {
+  m_terminal.show(areaBox, text + QStringLiteral("（空の行でOK）"));
+  while (const std::optional<QString> line = m_terminal.readLine()) {
+    if (line->isEmpty() || *line == u":ok") break;
+    m_terminal.show(areaBox, QStringLiteral("先に空の行を入れてください。"));
+    m_terminal.show(areaBox, QString());
+  }
+  m_terminal.show(areaBox, QString());
+}
+
+bool TerminalDialogs::ask(const QString& text) {
+  m_terminal.show(areaBox, text + QStringLiteral("（:yes / :no）"));
+  bool yes = false;
+  while (const std::optional<QString> line = m_terminal.readLine()) {
+    yes = *line == u":yes";
+    if (yes || *line == u":no") break;
+    m_terminal.show(areaBox, QStringLiteral("先に :yes か :no を入れてください。"));
+    m_terminal.show(areaBox, QString());
+  }
+  m_terminal.show(areaBox, QString());
+  return yes;
+}
+
+void TerminalLogin::setUserId(const QString& text) {
+  userId = text;
+  m_terminal.show(QStringLiteral("ユーザーID"), text);
+}
+
+void TerminalLogin::showEngineTrouble() {
+  m_terminal.show(areaBox,
+                  QStringLiteral("データベースを使えません。Tavoli を入れ直してください。"));
+}
+
+void TerminalPractice::showCaption(const QString& text) {
+  m_terminal.show(QStringLiteral("見出し"), text);
+}
+
+void TerminalPractice::showSource(const QString& text) {
+  m_terminal.show(QStringLiteral("出典"), text);
+}
+
+void TerminalPractice::showQuestion(const MarkedText& text) {
+  m_terminal.show(QStringLiteral("問題"), withMarks(text));
+}
+
+void TerminalPractice::setAnswer(const QString& text) {
+  answerStart = text;
+  m_terminal.show(areaAnswer, text);
+}
+
+void TerminalPractice::showFullAnswer(const MarkedText& text) {
+  m_terminal.show(QStringLiteral("正解"), withMarks(text));
+}
+
+void TerminalPractice::showMessage(const QString& text) {
+  m_terminal.show(QStringLiteral("表示"), text);
+}
+
+void TerminalPractice::showStatus(StatusPanel panel, const QString& text) {
+  m_terminal.show(QStringLiteral("状態%1").arg(static_cast<int>(panel)), text);
+}
+
+void TerminalPractice::awaitConfirmation(bool awaited) {
+  m_terminal.show(QStringLiteral("確認"),
+                  awaited ? QStringLiteral("空の行で次に進みます。") : QString());
+}
+
+void TerminalPractice::begin(int loadTotal) {
+  m_loadTotal = loadTotal;
+}
+
+bool TerminalPractice::reached(int loadDone) {
+  m_terminal.show(QStringLiteral("読込"), QStringLiteral("%1／%2").arg(loadDone).arg(m_loadTotal));
+  return true;
+}
+
+}  // namespace tavoli

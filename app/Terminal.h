@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QTextStream>
+
+#include <cstdio>
+#include <optional>
+
+#include "app/Login.h"
+#include "practice/PracticeScreen.h"
+#include "practice/PracticeSetLoader.h"
+#include "system/Dialogs.h"
+
+namespace tavoli {
+
+/// The standard input and output of the terminal front end: lines in, named areas out, in UTF-8.
+class Terminal {
+ public:
+  Terminal();
+  /// Prints an area's text, its name in front and further lines indented, unless it shows the text
+  /// already. An area that becomes empty prints nothing.
+  void show(const QString& area, const QString& text);
+  /// The next line; nothing at the end of the input.
+  std::optional<QString> readLine();
+
+ private:
+  QTextStream m_in;
+  QTextStream m_out;
+  QHash<QString, QString> m_shown;
+};
+
+/// Boxes in the terminal: the text, then ":yes" or ":no", or an empty line for OK. At the end of
+/// the input a question counts as refused.
+class TerminalDialogs final : public Dialogs {
+ public:
+  explicit TerminalDialogs(Terminal& terminal) : m_terminal(terminal) {}
+  void show(const QString& text) override;
+  bool ask(const QString& text) override;
+
+ private:
+  Terminal& m_terminal;
+};
+
+/// The login's screen in the terminal.
+class TerminalLogin final : public LoginScreen {
+ public:
+  explicit TerminalLogin(Terminal& terminal) : m_terminal(terminal) {}
+  void setUserId(const QString& text) override;
+  void focusUserId() override {}
+  void focusPassword() override {}
+  void setBusy(bool) override {}
+  void showEngineTrouble() override;
+
+  QString userId;
+
+ private:
+  Terminal& m_terminal;
+};
+
+/// The practice's screen in the terminal.
+class TerminalPractice final : public PracticeScreen, public LoadProgress {
+ public:
+  explicit TerminalPractice(Terminal& terminal) : m_terminal(terminal) {}
+
+  void showCaption(const QString& text) override;
+  void showSource(const QString& text) override;
+  void showQuestion(const MarkedText& text) override;
+  void setAnswer(const QString& text) override;
+  void showFullAnswer(const MarkedText& text) override;
+  void showMessage(const QString& text) override;
+  void showStatus(StatusPanel panel, const QString& text) override;
+  void awaitConfirmation(bool awaited) override;
+  void close() override { closed = true; }
+
+  void begin(int loadTotal) override;
+  bool reached(int loadDone) override;
+  void end() override {}
+
+  /// What stands in the answer box before anything is typed.
+  QString answerStart;
+  bool closed = false;
+
+ private:
+  Terminal& m_terminal;
+  int m_loadTotal = 0;
+};
+
+}  // namespace tavoli

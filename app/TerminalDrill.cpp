@@ -1,0 +1,129 @@
+#include "app/TerminalDrill.h"
+
+#include <cstdlib>
+
+#include "app/Placement.h"
+#include "conditions/ConditionsByName.h"
+#include "conditions/ConditionsStore.h"
+#include "conditions/ConditionsText.h"
+#include "practice/PracticeRun.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int badArguments = 2;
+
+}  // namespace
+
+TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options)
+    : m_module(module), m_options(options), m_dialogs(m_terminal) {}
+
+int TerminalDrill::run() {
+  TerminalLogin screen(m_terminal);
+  Login rules(m_module, m_files, m_clock, m_dialogs, screen);
+  if (!login(rules, screen)) return EXIT_FAILURE;
+  if (!chooseConditions()) {
+    rules.leaveWithoutRun();
+    return badArguments;
+  }
+  const int status = practise();
+  if (status != EXIT_SUCCESS) rules.leaveWithoutRun();
+  return status;
+}
+
+bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
+  if (m_options.user) {
+    screen.userId = *m_options.user;
+    // An empty id becomes the standard user at the first press and goes on at the second.
+    return login.next(screen.userId, m_options.password) ||
+           (m_options.user->isEmpty() && login.next(screen.userId, m_options.password));
+  }
+  for (;;) {
+    const QString before = screen.userId;
+    m_terminal.show(QStringLiteral("入力"), QStringLiteral("ユーザーID："));
+    m_terminal.show(QStringLiteral("入力"), QString());
+    const std::optional<QString> id = m_terminal.readLine();
+    if (!id) return false;
+    screen.userId = id->isEmpty() ? before : *id;
+    QString password = m_options.password;
+    if (!screen.userId.isEmpty()) {
+      m_terminal.show(QStringLiteral("入力"), QStringLiteral("パスワード："));
+      m_terminal.show(QStringLiteral("入力"), QString());
+      const std::optional<QString> typed = m_terminal.readLine();
+      if (!typed) return false;
+      password = *typed;
+    }
+    if (login.next(screen.userId, password)) return true;
+  }
+}
+
+bool TerminalDrill::chooseConditions() {
+  QString complaint;
+  // The course decides whose conditions are loaded, so it comes first.
+  for (const auto& [name, value] : m_options.settings)
+    if (name == u"COURSE" || name == u"specialTable")
+      complaint = complaint.isEmpty() ? setByName(m_module.conditions, m_module.course, name, value)
+                                      : complaint;
+  if (complaint.isEmpty() &&
+      !loadCourseConditions(m_module.learner.dbFileWork, m_module.course, m_module.conditions,
+                            m_module.learner.userId, lessonFolder(m_module.applicationFolder)))
+    complaint = QStringLiteral("%1 の練習条件を読めません。").arg(m_module.learner.dbFileWork);
+  for (const auto& [name, value] : m_options.settings)
+    if (complaint.isEmpty())
+      complaint = setByName(m_module.conditions, m_module.course, name, value);
+  if (!complaint.isEmpty()) {
+    std::fprintf(stderr, "tavoli: %s\n", qPrintable(complaint));
+    return false;
+  }
+  showConditions();
+  return true;
+}
+
+void TerminalDrill::showConditions() {
+  QStringList lines;
+  for (const auto& [caption, value] : describeConditions(m_module.course, m_module.conditions))
+    lines.append(caption + u'：' + value);
+  m_terminal.show(QStringLiteral("条件"), lines.join(u'\n'));
+}
+
+int TerminalDrill::practise() {
+  TerminalPractice screen(m_terminal);
+  PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_files, m_clock,
+                  m_random, m_dialogs);
+  if (!run.open(screen, screen)) return EXIT_FAILURE;
+  drive(run.loop(), screen);
+  return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+void TerminalDrill::drive(PracticeLoop& loop, const TerminalPractice& screen) {
+  while (!screen.closed) {
+    std::optional<QString> line = m_terminal.readLine();
+    if (!line) {
+      loop.exitAtOnce();
+    } else if (line->startsWith(u':') && !line->startsWith(u"::")) {
+      press(loop, *line);
+    } else {
+      if (line->startsWith(u':')) line->remove(0, 1);
+      // In a window the learner types on behind the given start; here the start may be repeated,
+      // and a sentence to correct is written anew.
+      const QString& start = screen.answerStart;
+      const bool goesOn = !loop.correcting() && !line->startsWith(start) && !line->isEmpty();
+      loop.enter(line->isEmpty() ? start : goesOn ? start + *line : *line);
+    }
+  }
+}
+
+void TerminalDrill::press(PracticeLoop& loop, const QString& key) {
+  if (key == u":F6") {
+    loop.requestExit();
+  } else if (key == u":quit") {
+    loop.exitAtOnce();
+  } else {
+    m_terminal.show(
+        QStringLiteral("表示"),
+        QStringLiteral("%1 というキーはありません。:F6 か :quit で終了します。").arg(key));
+  }
+}
+
+}  // namespace tavoli

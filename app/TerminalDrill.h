@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+#include "app/Module1.h"
+#include "app/Terminal.h"
+#include "practice/PracticeLoop.h"
+#include "system/Clock.h"
+#include "system/Files.h"
+#include "system/Random.h"
+
+namespace tavoli {
+
+/// What the command line says about a drill in the terminal.
+struct TerminalOptions {
+  std::optional<QString> user;
+  QString password;
+  QList<std::pair<QString, QString>> settings;  ///< names and values of conditions
+};
+
+/// The drill for people without a display, and for scripts: the same rules as in the windows, lines
+/// in and areas out. A line is what is typed before Enter, behind what the answer box begins with;
+/// a line that begins with ":" is a key, one that begins with "::" an answer that begins with ":".
+class TerminalDrill {
+ public:
+  TerminalDrill(Module1& module, const TerminalOptions& options);
+
+  /// The whole way from login to the end of the run; returns the program's exit status.
+  int run();
+
+ private:
+  bool login(Login& login, TerminalLogin& screen);
+  bool chooseConditions();
+  void showConditions();
+  int practise();
+  /// Reads and passes on what the learner enters until the run has ended.
+  void drive(PracticeLoop& loop, const TerminalPractice& screen);
+  void press(PracticeLoop& loop, const QString& key);
+
+  Module1& m_module;
+  const TerminalOptions& m_options;
+  SystemClock m_clock;
+  SystemRandom m_random;
+  SystemFiles m_files;
+  Terminal m_terminal;
+  TerminalDialogs m_dialogs;
+};
+
+}  // namespace tavoli

@@ -1,0 +1,194 @@
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "conditions/ConditionsByName.h"
+#include "conditions/ConditionsStore.h"
+#include "conditions/PastConditions.h"
+#include "data/Text.h"
+#include "system/Files.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+PracticeConditions unusual() {
+  PracticeConditions c;
+  c.userId = QStringLiteral("taro");
+  c.selMethod = u'4';
+  c.maxLoadWords = 24990;
+  c.maxLoadSent = 10;
+  c.startMode = u'3';
+  c.startEnglish = QStringLiteral("   120･彼は");
+  c.firstEnglish = QStringLiteral("000120･");
+  c.lastEnglish = QStringLiteral("look forward to ～ing");
+  c.memorySelect = u'5';
+  c.levelFrom = QStringLiteral("03");
+  c.levelTo = QStringLiteral("99");
+  c.targetSentA = 1.25;
+  c.targetWordB = 99;
+  c.reviewCycle = 9;
+  c.firstRepeatWord = 5;
+  c.compareMode = u'1';
+  c.compareFlag = false;
+  c.lessonFolder = QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ");
+  c.lessonFile = QStringLiteral("動詞.tav");
+  return c;
+}
+
+TEST(ConditionsTest, KeepsEveryFieldAtItsPosition) {
+  const PracticeConditions c = unusual();
+  const QString record = encodeConditions(c);
+  const struct {
+    int position, width;
+    const char* content;
+  } fields[] = {
+      {1, 8, "taro    "},       {9, 3, "204"},      {12, 10, "2499010   "}, {22, 3, "c:3"},
+      {25, 10, "   120･彼は "}, {75, 7, "000120･"}, {125, 5, "look "},      {175, 5, "50399"},
+      {184, 6, "1.2520"},       {190, 6, "0.5099"}, {196, 5, "95121"},      {201, 1, "1"}};
+  for (const auto& field : fields)
+    EXPECT_EQ(cut(record, field.position, field.width), QString::fromUtf8(field.content))
+        << "at " << field.position;
+  EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
+
+  PracticeConditions read = decodeConditions(record, QStringLiteral("/default"));
+  read.userId = c.userId;
+  EXPECT_EQ(encodeConditions(read), record);
+}
+
+TEST(ConditionsTest, ReadsShortAndOldRecords) {
+  const QString record = encodeConditions(unusual());
+  PracticeConditions c = decodeConditions(QString(), QStringLiteral("/default"));
+  EXPECT_EQ(c.maxLoadWords, 0);
+  EXPECT_EQ(c.startEnglish, QString());
+  EXPECT_EQ(c.lessonFolder, QStringLiteral("/default"));
+  c = decodeConditions(record.left(201) + QStringLiteral("C:\\old"), QStringLiteral("/default"));
+  EXPECT_EQ(c.lessonFolder, QStringLiteral("/default")) << "a tail without a mark";
+  EXPECT_EQ(c.lessonFile, QString());
+  const struct {
+    const char16_t* code;
+    QChar mode;
+    bool flag;
+  } codes[] = {{u"0", u'0', false}, {u"1", u'1', false}, {u"2", u'0', true},
+               {u"3", u'1', true},  {u"x", u'1', true},  {u" ", u'1', true}};
+  for (const auto& code : codes) {
+    c = decodeConditions(record.left(200) + QString::fromUtf16(code.code) + u'|', QString());
+    EXPECT_EQ(c.compareMode, code.mode);
+    EXPECT_EQ(c.compareFlag, code.flag);
+  }
+}
+
+TEST(ConditionsTest, NoValueShiftsTheFieldsBehindIt) {
+  PracticeConditions c = unusual();
+  c.targetSentA = 12.5;
+  c.targetSentB = 100;
+  c.reviewCycle = 10;
+  c.startEnglish = QString(80, u'あ');
+  const QString record = encodeConditions(c);
+  EXPECT_EQ(cut(record, 175, 1), QStringLiteral("5"));
+  EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
+}
+
+TEST(ConditionsTest, StartsAtTheFirstItemUntilThereWasARun) {
+  PracticeConditions c;
+  for (const QChar mode : {u'0', u'1', u'2', u'3'}) {
+    c.startMode = mode;
+    EXPECT_EQ(startKeyOf(c), startKeyFirst);
+  }
+  c = unusual();
+  EXPECT_EQ(startKeyOf(c), QStringLiteral("120･彼は"));
+  c.startMode = u'2';
+  EXPECT_EQ(startKeyOf(c), QStringLiteral("look forward to ～ing"));
+}
+
+TEST(ConditionsTest, RefusesValuesTheRecordCannotHold) {
+  const struct {
+    const char16_t* name;
+    const char16_t* value;
+    bool accepted;
+  } cases[] = {{u"selMethod", u"5", true},       {u"selMethod", u"6", false},
+               {u"selMethod", u"", false},       {u"reviewCycle", u"10", false},
+               {u"targetSentA", u"0.05", false}, {u"targetSentA", u"9.99", true},
+               {u"levelFrom", u"7", true},       {u"levelTo", u"100", false},
+               {u"lessonFile", u"a|b", false},   {u"COURSE", u"3", false},
+               {u"compareFlag", u"1", true},     {u"nothing", u"1", false}};
+  for (const auto& c : cases) {
+    PracticeConditions conditions;
+    CourseChoice course;
+    const QString name = QString::fromUtf16(c.name);
+    EXPECT_EQ(setByName(conditions, course, name, QString::fromUtf16(c.value)).isEmpty(),
+              c.accepted)
+        << qPrintable(name);
+    if (name == u"levelFrom") EXPECT_EQ(conditions.levelFrom, QStringLiteral("07"));
+  }
+}
+
+TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
+  test::TestStore store;
+  CourseChoice course = readCourse(store.database(), CourseChoice());
+  EXPECT_EQ(course.COURSE, course高校) << "a new learner";
+  auto rsBDIC = store.database().OpenRecordset(tableBDIC);
+  course = {course専門, QStringLiteral("BusinessTOEIC")};
+  EXPECT_TRUE(saveCourse(*rsBDIC, course));
+  EXPECT_TRUE(saveCourse(*rsBDIC, {course中学, QStringLiteral("other")}));
+  course = readCourse(store.database(), CourseChoice());
+  EXPECT_EQ(course.COURSE, course中学);
+  EXPECT_EQ(course.specialTable, QStringLiteral("BusinessTOEIC")) << "kept beside another course";
+
+  const QString lessons = QStringLiteral("/lessons");
+  auto rsTDIC = store.database().OpenRecordset(tableJTDIC);
+  PracticeConditions c = loadConditions(*rsTDIC, QStringLiteral("taro"), lessons);
+  EXPECT_EQ(c.lessonFolder, lessons);
+  EXPECT_EQ(store.stored(tableJTDIC, rowConditions, field発同日コ), encodeConditions(c));
+  c.memorySelect = u'3';
+  EXPECT_TRUE(saveConditions(*rsTDIC, c));
+  EXPECT_EQ(loadConditions(*rsTDIC, QStringLiteral("taro"), lessons).memorySelect, u'3');
+  rsBDIC.reset();
+  rsTDIC.reset();
+  store.close();
+  course = {course専門, QStringLiteral("Vanished")};
+  ASSERT_TRUE(loadCourseConditions(store.path(), course, c, QStringLiteral("taro"), lessons));
+  EXPECT_EQ(course.COURSE, course高校);
+  EXPECT_EQ(c.memorySelect, u'1');
+}
+
+TEST(PastConditionsTest, KeepsTheLastHundredRuns) {
+  QTemporaryDir folder;
+  SystemFiles files;
+  const QString path = folder.filePath(QStringLiteral("TavoCond000"));
+  EXPECT_TRUE(pastConditions(files, path).isEmpty());
+  PracticeConditions c = unusual();
+  for (int day = 1; day <= 103; ++day) {
+    c.maxLoadSent = day;
+    ASSERT_TRUE(
+        appendPastConditions(files, path,
+                             pastConditionsLine(QDate(2026, 1, 1).addDays(day),
+                                                {course専門, QStringLiteral("BusinessTOEIC")}, c)));
+  }
+  const QStringList lines = pastConditions(files, path);
+  ASSERT_EQ(lines.size(), 100);
+  EXPECT_EQ(cut(lines.first(), 19, 5), QStringLiteral("4    "));
+  EXPECT_EQ(listPastConditions(lines).last(), QStringLiteral("100　2026/04/14専"));
+  const PastRun run = readConditions(lines.last());
+  EXPECT_EQ(run.selMethod, u'4');
+  EXPECT_EQ(run.memorySelect, u'5');
+  EXPECT_EQ(run.levelTo, QStringLiteral("99"));
+  EXPECT_EQ(run.specialTable, QStringLiteral("BusinessTOEIC"));
+  EXPECT_EQ(run.lessonFile, QStringLiteral("動詞.tav"));
+  for (int length = 0; length < lines.last().size(); ++length)
+    EXPECT_TRUE(readConditions(lines.last().left(length)).date.size() <= 10);
+}
+
+TEST(PastConditionsTest, NeverOverwritesAFileItCannotRead) {
+  QTemporaryDir folder;
+  SystemFiles files;
+  const QString path = folder.filePath(QStringLiteral("TavoCond000"));
+  const QByteArray binary("\0\1\2", 3);
+  ASSERT_EQ(files.write(path, binary), FileResult::Ok);
+  EXPECT_FALSE(appendPastConditions(files, path, QStringLiteral("line")));
+  EXPECT_EQ(files.read(path), binary);
+}
+
+}  // namespace
+}  // namespace tavoli

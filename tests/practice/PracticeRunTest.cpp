@@ -1,0 +1,284 @@
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "practice/PracticeRun.h"
+#include "practice/QuestionText.h"
+#include "practice/RunEnd.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/RecordingScreen.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+using test::sentenceRecord;
+using test::wordRecord;
+
+class PracticeRunTest : public testing::Test {
+ protected:
+  PracticeRunTest() {
+    conditions.selMethod = u'4';
+    conditions.startMode = u'1';
+    course.COURSE = course中学;
+    store.addSentence(QStringLiteral("000010"),
+                      sentenceRecord(QStringLiteral("[彼]は学生％(   ) a (   )"),
+                                     {QStringLiteral("He is"), QStringLiteral("student.")}));
+    store.addSentence(QStringLiteral("000020"),
+                      sentenceRecord(QStringLiteral("二問目"), {QStringLiteral("yes")}),
+                      memoryうろ覚え);
+    for (const char16_t* word : {u"apple", u"book"})
+      store.addWord(tableJTDIC, QString::fromUtf16(word),
+                    wordRecord({QStringLiteral("意味一"), QStringLiteral("意味二")}));
+    learner.dbFileWork = store.path();
+    learner.condFileWork = store.folder() + QStringLiteral("/TavoCond000");
+  }
+
+  void open() {
+    store.close();
+    run = std::make_unique<PracticeRun>(learner, course, conditions, files, clock, random, dialogs);
+    ASSERT_TRUE(run->open(screen, progress));
+  }
+
+  void finish() {
+    run->loop().exitAtOnce();
+    EXPECT_TRUE(run->close());
+    EXPECT_FALSE(run->close()) << "a run is stored once";
+    run.reset();
+    store.open();
+  }
+
+  void enter(const char16_t* typed) { run->loop().enter(QString::fromUtf16(typed)); }
+
+  test::TestStore store;
+  LearnerFiles learner;
+  CourseChoice course;
+  PracticeConditions conditions;
+  SystemFiles files;
+  test::FakeClock clock;
+  test::FakeRandom random;
+  test::ScriptedDialogs dialogs;
+  test::FakeProgress progress;
+  test::RecordingScreen screen;
+  std::unique_ptr<PracticeRun> run;
+};
+
+TEST_F(PracticeRunTest, AsksBlankAfterBlankAndKeepsWhatWasLearnt) {
+  open();
+  EXPECT_EQ(screen.question, QStringLiteral("彼は学生\n(   ) a (   )"));
+  EXPECT_EQ(screen.panels.value(2), QStringLiteral("位置=1／2 000010"));
+  enter(u"  ");
+  EXPECT_EQ(run->loop().POS1(), 1) << "an empty entry costs nothing";
+  enter(u"she is");
+  EXPECT_EQ(screen.fullAnswer, QStringLiteral("she is は正解ではありません。"));
+  EXPECT_EQ(run->loop().POS1(), 1);
+  enter(u" he  IS ");
+  EXPECT_EQ(screen.message, QStringLiteral("○　正解です。　『うろ覚え』にしました。"));
+  EXPECT_EQ(run->loop().POS1(), 2);
+  enter(u"student.");
+  EXPECT_TRUE(run->loop().確認中());
+  EXPECT_TRUE(screen.awaited);
+  EXPECT_EQ(screen.fullAnswer, QStringLiteral("彼は学生\n(   ) a (   )\nHe is\nstudent."));
+  enter(u"");
+  EXPECT_EQ(run->loop().POS(), 2);
+  EXPECT_EQ(screen.question, QStringLiteral("二問目"));
+  finish();
+  EXPECT_TRUE(screen.closed);
+  const QString key = QStringLiteral("000010");
+  EXPECT_EQ(store.stored(tableBDIC, key, field記憶), QStringLiteral("1"));
+  EXPECT_EQ(store.stored(tableBDIC, key, field回数), QStringLiteral("01"));
+  EXPECT_EQ(store.stored(tableBDIC, key, field問正コ),
+            sentenceRecord(QStringLiteral("[彼]は学生％(   ) a (   )"),
+                           {QStringLiteral("He is"), QStringLiteral("student.")},
+                           QStringLiteral("00000000"), memoryうろ覚え));
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000020"), field回数), QStringLiteral("00"))
+      << "shown, not finished";
+  EXPECT_EQ(store.stored(tableBDIC, rowCourse, field記憶), QStringLiteral("0"));
+  const PracticeConditions stored = decodeConditions(
+      store.stored(tableJTDIC, rowConditions, field発同日コ).value_or(QString()), QString());
+  EXPECT_EQ(stored.firstEnglish, QStringLiteral("000010･"));
+  EXPECT_EQ(stored.lastEnglish, QStringLiteral("000020･"));
+  EXPECT_TRUE(files.exists(learner.condFileWork));
+}
+
+TEST_F(PracticeRunTest, CountsEachMeaningOfAWord) {
+  conditions.selMethod = u'2';
+  open();
+  EXPECT_EQ(dialogs.shown,
+            QStringList{QStringLiteral("最大読込数 200 のうち 2が練習条件を満足しました。")});
+  EXPECT_EQ(screen.source, QStringLiteral("問題　中学DB"));
+  enter(u"apple");
+  EXPECT_EQ(screen.message, QStringLiteral("○　正解です。『うろ覚え』にしました。『 意味一 』"));
+  enter(u"Apple");
+  EXPECT_EQ(screen.fullAnswer, QStringLiteral("apple\n意味一  意味二  "));
+  finish();
+  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field発同日コ),
+            QStringLiteral("||101意味一^101意味二^|"));
+  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("book"), field発同日コ),
+            QStringLiteral("||000意味一^000意味二^|"));
+}
+
+TEST_F(PracticeRunTest, AsksOnlyTheAdmittedAndShowsTheRest) {
+  store.addSentence(QStringLiteral("000005"),
+                    sentenceRecord(QStringLiteral("完全な文"), {QStringLiteral("known")},
+                                   QStringLiteral("00000000"), memory完全));
+  open();
+  EXPECT_TRUE(run->loop().確認中()) << "an item with nothing to ask is only shown";
+  EXPECT_EQ(screen.fullAnswer, QStringLiteral("完全な文\nknown"));
+  enter(u"");
+  EXPECT_EQ(run->loop().POS(), 2);
+  finish();
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000005"), field回数), QStringLiteral("00"));
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000005"), field記憶), QStringLiteral("2"))
+      << "recomputed from what it holds";
+}
+
+TEST_F(PracticeRunTest, WrapsRoundOrEndsAtTheEnd) {
+  const QString wrap = QStringLiteral("最後まで終了しました。最初から再開しますか。");
+  const QString end = QStringLiteral("終了しますか？");
+  const struct {
+    const char* name;
+    QList<bool> answers;
+    QStringList asked;
+    bool ended;
+  } cases[] = {{"again", {true}, {wrap}, false},
+               {"no, but not the end either", {false, false}, {wrap, end}, false},
+               {"the end", {false, true}, {wrap, end}, true}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    open();
+    for (const char16_t* typed : {u"he is", u"student.", u"", u"yes"}) enter(typed);
+    dialogs.asked.clear();
+    dialogs.answers = c.answers;
+    enter(u"");
+    EXPECT_EQ(dialogs.asked, c.asked);
+    EXPECT_EQ(run->loop().exitConfirmed(), c.ended);
+    if (!c.ended) EXPECT_EQ(run->loop().POS(), 1);
+    run.reset();
+    store.open();
+  }
+}
+
+TEST_F(PracticeRunTest, ARefusedExitGoesOn) {
+  open();
+  enter(u"he is");
+  enter(u"student.");
+  dialogs.answers = {false};
+  run->loop().requestExit();
+  EXPECT_FALSE(run->loop().exitConfirmed());
+  EXPECT_EQ(run->loop().POS(), 2) << "as Enter at the full answer";
+  run->loop().requestExit();
+  EXPECT_TRUE(run->loop().exitConfirmed());
+}
+
+TEST_F(PracticeRunTest, NeedsTwoItems) {
+  conditions.memorySelect = u'2';
+  store.close();
+  PracticeRun aborted(learner, course, conditions, files, clock, random, dialogs);
+  EXPECT_FALSE(aborted.open(screen, progress));
+  EXPECT_EQ(dialogs.shown.last(),
+            QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));
+  EXPECT_FALSE(aborted.close());
+}
+
+TEST_F(PracticeRunTest, NeverRewritesADamagedRecord) {
+  const QString damaged = QStringLiteral("問|000099He is^|コ");
+  store.addSentence(QStringLiteral("000001"), damaged);
+  open();
+  enter(u"He is^");
+  enter(u"He is");
+  finish();
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000001"), field問正コ), damaged);
+}
+
+TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
+  open();
+  enter(u"he is");
+  run->loop().exitAtOnce();
+  {
+    test::TestStore other;  // keeps the type of the lock: a writer in mid-transaction
+    std::optional<Database> holder;
+    int errorNumber = 0;
+    openDatabase(store.path(), holder, errorNumber);
+    holder->write([&] {
+      dialogs.answers = {false};
+      EXPECT_FALSE(run->close());
+      return false;
+    });
+  }
+  EXPECT_TRUE(dialogs.asked.last().startsWith(store.path()));
+  run.reset();
+  store.open();
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field記憶), QStringLiteral("0"));
+}
+
+TEST_F(PracticeRunTest, CarriesTheFilesHome) {
+  const QString placed = store.folder() + QStringLiteral("/placed");
+  ASSERT_EQ(files.makeFolder(placed), FileResult::Ok);
+  learner.placedElsewhere = true;
+  learner.dbFilePlaced = placed + QStringLiteral("/TavoDB000.mdb");
+  learner.condFilePlaced = placed + QStringLiteral("/TavoCond000");
+  open();
+  enter(u"he is");
+  finish();
+  EXPECT_EQ(files.read(learner.dbFilePlaced), files.read(store.path()));
+  EXPECT_TRUE(files.exists(learner.condFilePlaced));
+  EXPECT_FALSE(files.exists(learner.condFileWork));
+
+  learner.dbFilePlaced = store.folder() + QStringLiteral("/gone/TavoDB000.mdb");
+  dialogs.shown.clear();
+  open();
+  enter(u"he is");
+  finish();
+  EXPECT_EQ(dialogs.shown.size(), 1) << "told once";
+  EXPECT_TRUE(files.exists(learner.condFileWork)) << "the only copy stays";
+}
+
+TEST(ItemStateTest, SumsUpItsSubQuestions) {
+  const QStringList meanings = {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")};
+  for (const QChar table : {u'B', u'1'}) {
+    for (const QString& a : meanings) {
+      for (const QString& b : meanings) {
+        const QString list =
+            table == u'B'
+                ? QStringLiteral("問|00") + a + QStringLiteral("001a00000000^00") + b +
+                      QStringLiteral("001b00000000^|")
+                : QStringLiteral("||") + a + QStringLiteral("00一^") + b + QStringLiteral("00二^|");
+        const ItemState summed =
+            itemState(ParseRecord(list, QStringLiteral("k"), table), QStringLiteral("k"));
+        const bool any0 = a == u"0" || b == u"0";
+        const bool all0 = a == u"0" && b == u"0";
+        const bool all2 = a == u"2" && b == u"2";
+        const QChar expected = (table == u'B' ? any0 : all0) ? memory全然
+                               : all2                        ? memory完全
+                                                             : memoryうろ覚え;
+        EXPECT_EQ(summed.state, expected) << qPrintable(table + a + b);
+        EXPECT_TRUE(summed.complaints.isEmpty());
+      }
+    }
+  }
+  EXPECT_EQ(
+      itemState(ParseRecord(QStringLiteral("||700一^|"), QString(), u'1'), QStringLiteral("k"))
+          .complaints.size(),
+      2);
+}
+
+TEST(QuestionTextTest, StartsTheAnswerBox) {
+  const auto start = [](const QString& 問題文) {
+    return answerStart(ParseRecord(QStringLiteral("%1|030008He is an00000000^|").arg(問題文),
+                                   QString(), tableOfSentences),
+                       1);
+  };
+  const QString ask = QStringLiteral("次の英文に誤りがあれば訂正しなさい");
+  EXPECT_EQ(start(QStringLiteral("彼は")), QStringLiteral("He "));
+  EXPECT_EQ(start(ask + QStringLiteral("。％注意％％He [are] a boy.")),
+            QStringLiteral("He are a boy."));
+  EXPECT_EQ(start(ask + QStringLiteral("。％{He} are.")), QStringLiteral("He are."));
+  EXPECT_EQ(start(ask), QStringLiteral("しなさい")) << "without a break, from position 14";
+  EXPECT_EQ(start(ask + QStringLiteral("％％")), QString());
+}
+
+}  // namespace
+}  // namespace tavoli

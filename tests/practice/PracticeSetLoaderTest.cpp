@@ -1,0 +1,203 @@
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "data/LessonFile.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+using test::wordRecord;
+
+class PracticeSetLoaderTest : public testing::Test {
+ protected:
+  PracticeSetLoaderTest() {
+    conditions.lessonFolder = store.folder();
+    conditions.lessonFile = QStringLiteral("lesson.tav");
+    conditions.memorySelect = u'5';
+  }
+
+  void writeLesson(const QByteArray& content) {
+    QFile file(conditions.lessonPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+
+  PracticeSet load(const QString& startKey = startKeyFirst) {
+    store.close();
+    int errorNumber = 0;
+    tables = LearningTables::open(store.path(), course, errorNumber);
+    EXPECT_EQ(errorNumber, 0);
+    PracticeSet set =
+        PracticeSetLoader(*tables, course, conditions, files, random, dialogs, progress)
+            .LoadPracticeSet(startKey);
+    tables.reset();
+    store.open();
+    return set;
+  }
+
+  static QStringList keysOf(const PracticeSet& set) {
+    QStringList keys;
+    for (int i = 1; i <= set.itemCount(); ++i)
+      keys.append(set.item(i).itemTable + set.item(i).itemEnglish);
+    return keys;
+  }
+
+  test::TestStore store;
+  std::unique_ptr<LearningTables> tables;
+  CourseChoice course;
+  PracticeConditions conditions;
+  SystemFiles files;
+  test::FakeRandom random;
+  test::ScriptedDialogs dialogs;
+  test::FakeProgress progress;
+};
+
+TEST_F(PracticeSetLoaderTest, LooksWordsUpInTheCoursesOrderAndByTheirExactSpelling) {
+  store.addWord(tableSTDIC, QStringLiteral("polish"), wordRecord({QStringLiteral("磨く")}));
+  store.addWord(tableSTDIC, QStringLiteral("Polish"), wordRecord({QStringLiteral("ポーランドの")}));
+  store.addWord(tableSTDIC, QStringLiteral("MAY"), wordRecord({QStringLiteral("大文字")}));
+  store.addWord(tableJTDIC, QStringLiteral("may"), wordRecord({QStringLiteral("してもよい")}));
+  store.addWord(tableJTDIC, QStringLiteral("polish"), wordRecord({QStringLiteral("中学の磨く")}));
+  store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("asset"),
+                wordRecord({QStringLiteral("資産")}));
+  store.addSentence(QStringLiteral("000010"),
+                    test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  writeLesson(
+      "* comment\r\n! skipped\r\npolish\r\n  Polish \r\nmay\r\nasset\r\n\r\n000010\xA5 head\r\n"
+      "000020\xA5\r\nzzzzz0\xA5\r\nzzzzzzzzzzzzzzzzzzzz1\r\n000010\r\n");
+  conditions.selMethod = u'0';
+  EXPECT_EQ(keysOf(load()), (QStringList{QStringLiteral("1polish"), QStringLiteral("1Polish"),
+                                         QStringLiteral("2may"), QStringLiteral("B000010")}));
+  course = {course専門, QStringLiteral("BusinessTOEIC")};
+  EXPECT_EQ(keysOf(load()), (QStringList{QStringLiteral("2polish"), QStringLiteral("2Polish"),
+                                         QStringLiteral("3may"), QStringLiteral("1asset"),
+                                         QStringLiteral("B000010")}));
+}
+
+TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
+  for (const char16_t* word : {u"a1", u"a2", u"a3", u"a4"})
+    store.addWord(tableSTDIC, QString::fromUtf16(word), wordRecord({QStringLiteral("意味")}),
+                  QString::fromUtf16(word) == u"a3" ? memory完全 : memory全然);
+  writeLesson("*a2\na1\na2\na3\na4\n");
+  conditions.selMethod = u'0';
+  conditions.memorySelect = u'1';
+  const struct {
+    const char* name;
+    const char16_t* key;
+    int startIndex;
+  } cases[] = {{"from the first", u"000000", 1},
+               {"a line in the middle", u"a2", 2},
+               {"a start that the filter rejects: the item before it", u"a3", 2},
+               {"never the last line", u"a4", 1},
+               {"not in the lesson", u"b", 1}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(load(QString::fromUtf16(c.key)).startIndex, c.startIndex);
+  }
+}
+
+TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
+  for (int i = 0; i < 30; ++i)
+    store.addWord(tableSTDIC, QStringLiteral("w") + digits(i, 2),
+                  wordRecord({QStringLiteral("意味")}), i % 10 == 0 ? memory全然 : memory完全,
+                  i % 20);
+  store.addWord(tableSTDIC, QStringLiteral("～ or so"), wordRecord({QStringLiteral("～かそこら")}));
+  conditions.memorySelect = u'0';
+  conditions.maxLoadWords = 21;
+  const PracticeSet set = load();
+  EXPECT_EQ(keysOf(set), (QStringList{QStringLiteral("1～ or so"), QStringLiteral("1w00"),
+                                      QStringLiteral("1w10")}));
+  EXPECT_EQ(dialogs.shown.last(),
+            QStringLiteral("最大読込数 21 のうち 3が練習条件を満足しました。"));
+  EXPECT_EQ(keysOf(load(QStringLiteral("w10"))),
+            (QStringList{QStringLiteral("1w10"), QStringLiteral("1w20")}));
+  conditions.levelFrom = QStringLiteral("10");
+  EXPECT_EQ(keysOf(load()), QStringList{QStringLiteral("1w10")});
+  conditions.maxLoadWords = 5000;
+  conditions.levelFrom = QStringLiteral("00");
+  EXPECT_EQ(load().itemCount(), 4) << "the walk ends at the reserved rows";
+  EXPECT_EQ(progress.total, 5000);
+  EXPECT_TRUE(progress.ended);
+}
+
+TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
+  for (const char16_t* key : {u"000010", u"499990", u"500010", u"899990", u"900010", u"A00010"})
+    store.addSentence(QString::fromUtf16(key),
+                      test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  store.addSentence(rowPassword, QStringLiteral("secret"));
+  conditions.selMethod = u'4';
+  const struct {
+    QChar course;
+    const char16_t* start;
+    QStringList expected;
+  } cases[] = {
+      {course中学, u"000000", {QStringLiteral("B000010"), QStringLiteral("B499990")}},
+      {course中学, u"000011･彼は", {QStringLiteral("B499990")}},
+      {course高校, u"000000", {QStringLiteral("B500010"), QStringLiteral("B899990")}},
+      {course高校, u"apple", {QStringLiteral("B500010"), QStringLiteral("B899990")}},
+      {course専門, u"000000", {QStringLiteral("B900010"), QStringLiteral("BA00010")}},
+  };
+  conditions.levelTo = QStringLiteral("99");
+  for (const auto& c : cases) {
+    course.COURSE = c.course;
+    course.specialTable = QStringLiteral("BusinessTOEIC");
+    EXPECT_EQ(keysOf(load(QString::fromUtf16(c.start))), c.expected);
+  }
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+}
+
+TEST_F(PracticeSetLoaderTest, StopsWhenTheLearnerCancels) {
+  QByteArray lesson;
+  for (int i = 0; i < 30'000; ++i) lesson += "word\n";
+  store.addWord(tableSTDIC, QStringLiteral("word"), wordRecord({QStringLiteral("語")}));
+  writeLesson(lesson);
+  conditions.selMethod = u'0';
+  progress.stopAt = 2001;
+  EXPECT_EQ(load().itemCount(), 2000);
+  EXPECT_EQ(progress.total, maxLessonLines) << "a lesson's further lines are left out";
+  progress.stopAt = 0;
+  EXPECT_EQ(load().itemCount(), maxItems);
+}
+
+TEST_F(PracticeSetLoaderTest, UnreadableLessonsGiveAnEmptySet) {
+  conditions.selMethod = u'0';
+  EXPECT_EQ(load().itemCount(), 0) << "missing";
+  writeLesson(QByteArray("\0\0word\n", 7));
+  EXPECT_EQ(load().itemCount(), 0) << "no text";
+  writeLesson(QByteArray());
+  EXPECT_EQ(load().itemCount(), 0) << "empty";
+}
+
+TEST(PracticeSetTest, ShufflingOnlyPermutesWhatIsBehindTheStart) {
+  for (const unsigned seed : {1U, 2U, 3U}) {
+    test::FakeRandom random(seed);
+    PracticeSet set;
+    for (int i = 1; i <= 50; ++i) {
+      PracticeItem item;
+      item.itemEnglish = QString::number(i);
+      item.itemTimes = i;
+      set.append(item);
+    }
+    set.startIndex = 10;
+    set.ShufflePracticeSet(random);
+    QList<int> seen;
+    int moved = 0;
+    for (int i = 1; i <= 50; ++i) {
+      EXPECT_EQ(set.item(i).itemEnglish, QString::number(set.item(i).itemTimes));
+      if (i <= 10) EXPECT_EQ(set.item(i).itemTimes, i);
+      moved += set.item(i).itemTimes != i;
+      seen.append(set.item(i).itemTimes);
+    }
+    std::sort(seen.begin(), seen.end());
+    for (int i = 1; i <= 50; ++i) EXPECT_EQ(seen[i - 1], i);
+    EXPECT_GT(moved, 20);
+  }
+}
+
+}  // namespace
+}  // namespace tavoli
