@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "contentbuilder/ContentTable.h"
+#include "contentbuilder/Problem.h"
+#include "data/Database.h"
+
+// The way between the content's tables and a personal database.
+namespace tavoli {
+
+/// Fills an empty database with the tables, every item new to the learner. False when it could not
+/// be written; it then holds nothing.
+bool storeContent(const std::vector<ContentTable>& tables, Database& database);
+
+/// Writes a database back as sources: a words file for each dictionary and the three sentences
+/// files. Reserved rows are left out. A row that no source can express is left out too, and named
+/// in `problems` by its table and key; `file` is what the database is called there.
+std::vector<SourceFile> dumpContent(Database& database, const QString& file, Problems& problems);
+
+}  // namespace tavoli

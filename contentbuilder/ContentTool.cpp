@@ -1,0 +1,106 @@
+#include "contentbuilder/ContentTool.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "contentbuilder/ContentSources.h"
+#include "contentbuilder/ContentStore.h"
+
+namespace tavoli {
+
+namespace {
+
+/// Holds lesson files, which are no part of the database.
+const QString lessonsFolder = QStringLiteral("lessons");
+
+Problem existing(const QString& path) {
+  return {path, 0,
+          QStringLiteral("すでにあるので、何も書きませんでした。置き換えるには --force を"
+                         "付けてください。")};
+}
+
+Problem unwritable(const QString& path) {
+  return {path, 0,
+          QStringLiteral("書き込めませんでした。フォルダーの権限とディスクの空きを"
+                         "確かめてください。")};
+}
+
+}  // namespace
+
+std::vector<ContentTable> ContentTool::read(const QString& folder, Problems& problems) const {
+  const QDir place(folder);
+  if (!place.exists()) {
+    problems.push_back({folder, 0, QStringLiteral("フォルダーがありません。")});
+    return {};
+  }
+  std::vector<SourceFile> sources;
+  for (const QString& name : place.entryList(QDir::Files, QDir::Name)) {
+    if (const std::optional<QByteArray> bytes = m_files.read(place.filePath(name)))
+      sources.push_back({name, *bytes});
+    else
+      problems.push_back({name, 0, QStringLiteral("読めません。権限を確かめてください。")});
+  }
+  for (const QString& name : place.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+    if (name != lessonsFolder) {
+      problems.push_back(
+          {name, 0, QStringLiteral("何のフォルダーか分かりません。ほかへ移してください。")});
+    }
+  }
+  std::vector<ContentTable> tables = readContent(sources, problems);
+  for (Problem& problem : problems) problem.file = place.filePath(problem.file);
+  return tables;
+}
+
+Problems ContentTool::check(const QString& folder) const {
+  Problems problems;
+  read(folder, problems);
+  return problems;
+}
+
+Problems ContentTool::build(const QString& folder, const QString& target, bool force) {
+  Problems problems;
+  const std::vector<ContentTable> tables = read(folder, problems);
+  if (m_files.exists(target) && !force) problems.push_back(existing(target));
+  if (!problems.empty()) return problems;
+
+  const QTemporaryDir workshop;
+  const QString made = workshop.filePath(QStringLiteral("content.mdb"));
+  bool stored = false;
+  if (std::optional<Database> database = createDatabase(made))
+    stored = storeContent(tables, *database);
+  if (!stored || m_files.copy(made, target) != FileResult::Ok)
+    problems.push_back(unwritable(target));
+  return problems;
+}
+
+Problems ContentTool::dump(const QString& database, const QString& folder, bool force) {
+  Problems problems;
+  std::optional<Database> opened;
+  int errorNumber = openError::none;
+  openDatabase(database, opened, errorNumber);
+  if (!opened) {
+    problems.push_back({database, 0,
+                        QStringLiteral("データベースを開けませんでした（エラー番号%1）。"
+                                       "ファイルを確かめてください。")
+                            .arg(errorNumber)});
+    return problems;
+  }
+  const std::vector<SourceFile> sources = dumpContent(*opened, database, problems);
+  const QDir place(folder);
+  if (!force) {
+    Problems inTheWay;
+    for (const SourceFile& source : sources) {
+      const QString path = place.filePath(source.name);
+      if (m_files.exists(path)) inTheWay.push_back(existing(path));
+    }
+    if (!inTheWay.empty()) return inTheWay;
+  }
+  m_files.makeFolder(folder);
+  for (const SourceFile& source : sources) {
+    const QString path = place.filePath(source.name);
+    if (m_files.write(path, source.bytes) != FileResult::Ok) problems.push_back(unwritable(path));
+  }
+  return problems;
+}
+
+}  // namespace tavoli

@@ -1,0 +1,147 @@
+#include "contentbuilder/WordSources.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+#include "contentbuilder/TextChecks.h"
+#include "data/Schema.h"
+#include "data/Text.h"
+
+namespace tavoli {
+
+const QString wordsHeader = QStringLiteral("英語\tレベル\t発音\t同\t日\tコメント\t読上");
+
+namespace {
+
+constexpr int columnCount = 7;
+constexpr int maxKeyLength = 60;
+
+const QString name発音 = QStringLiteral("「発音」");
+const QString name同 = QStringLiteral("「同」");
+const QString name日 = QStringLiteral("「日」");
+const QString nameコメント = QStringLiteral("「コメント」");
+
+class WordReader {
+ public:
+  WordReader(const SourceText& source, Problems& problems)
+      : m_source(source), m_problems(problems) {}
+
+  ContentRow read(const SourceLine& line) {
+    m_line = line.number;
+    QStringList columns = line.text.split(u'\t');
+    if (columns.size() == columnCount - 1) columns.append(QString());
+    if (columns.size() != columnCount) {
+      complain(QStringLiteral("列が%1個あります。タブで区切って%2個（「読上」を省くときは%3個）に"
+                              "してください。")
+                   .arg(columns.size())
+                   .arg(columnCount)
+                   .arg(columnCount - 1));
+      return {};
+    }
+    ContentRow row;
+    row.key = columns[0];
+    checkKey(row.key);
+    row.レベル = level(trimBlanks(columns[1]));
+
+    CurrentRecord record;
+    record.発音 = text(name発音, columns[2]);
+    checkMarks(name発音, record.発音);
+    record.同 = list(name同, columns[3]);
+    const QStringList meanings = list(name日, columns[4]);
+    if (meanings.isEmpty()) complain(QStringLiteral("「日」に意味がありません。"));
+    for (const QString& meaning : meanings) {
+      checkMarks(name日, meaning);
+      SubQuestion s;
+      s.日本語 = meaning;
+      record.小問.push_back(s);
+    }
+    record.コメント = text(nameコメント, columns[5]);
+    checkMarks(nameコメント, record.コメント);
+    row.record = packRecord(record);
+    row.読上 = text(QStringLiteral("「読上」"), columns[6]);
+    return row;
+  }
+
+ private:
+  void complain(const QString& message) {
+    if (!message.isEmpty()) m_problems.push_back({m_source.name, m_line, message});
+  }
+
+  void checkMarks(const QString& name, const QString& text) { complain(markProblem(name, text)); }
+
+  void checkKey(const QString& key) {
+    complain(separatorProblem(QStringLiteral("「英語」"), key));
+    if (key.isEmpty()) complain(QStringLiteral("「英語」が空です。"));
+    if (trimBlanks(key) != key)
+      complain(QStringLiteral("「英語」の始めか終わりに空白があります。空白を除いてください。"));
+    if (key.size() > maxKeyLength)
+      complain(QStringLiteral("「英語」は%1文字までです。").arg(maxKeyLength));
+    if (isReservedKey(key))
+      complain(QStringLiteral("zzzzで始まる「英語」は、システムが使うので置けません。"));
+    const int first = m_lineOfKey.value(key, m_line);
+    if (first != m_line)
+      complain(QStringLiteral("「%1」は%2行目にもあります。一つにまとめてください。")
+                   .arg(key, QString::number(first)));
+    m_lineOfKey.insert(key, first);
+  }
+
+  QString level(const QString& text) {
+    const bool number =
+        !text.isEmpty() && text.size() <= 2 &&
+        std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (!number) complain(QStringLiteral("「レベル」は0から99までの数で書いてください。"));
+    return digits(numberOf(text), 2);
+  }
+
+  QString text(const QString& name, const QString& column) {
+    complain(separatorProblem(name, column));
+    return trimBlanks(column);
+  }
+
+  QStringList list(const QString& name, const QString& column) {
+    QStringList elements;
+    if (trimBlanks(column).isEmpty()) return elements;
+    for (const QString& part : column.split(fieldMark)) elements.append(text(name, part));
+    if (elements.contains(QString()))
+      complain(QStringLiteral("%1に空の要素があります。余分な「|」を除いてください。").arg(name));
+    if (elements.size() > maxSubQuestions)
+      complain(QStringLiteral("%1は%2個までです。").arg(name).arg(maxSubQuestions));
+    return elements;
+  }
+
+  const SourceText& m_source;
+  Problems& m_problems;
+  int m_line = 0;
+  QHash<QString, int> m_lineOfKey;
+};
+
+}  // namespace
+
+std::vector<ContentRow> parseWords(const SourceText& source, Problems& problems) {
+  std::vector<ContentRow> rows;
+  if (source.lines.empty() || source.lines.front().number != 1 ||
+      source.lines.front().text != wordsHeader) {
+    problems.push_back(
+        {source.name, 1,
+         QStringLiteral("1行目には列の名前をタブで区切って書いてください: %1").arg(wordsHeader)});
+    return rows;
+  }
+  WordReader reader(source, problems);
+  for (size_t i = 1; i < source.lines.size(); ++i)
+    if (!trimBlanks(source.lines[i].text).isEmpty()) rows.push_back(reader.read(source.lines[i]));
+  return rows;
+}
+
+QString wordSource(const ContentRow& row, const CurrentRecord& record) {
+  QStringList meanings;
+  for (const SubQuestion& s : record.小問) meanings.append(s.日本語);
+  const QString level = QString::number(numberOf(row.レベル));
+  QStringList columns = {
+      row.key,        level, record.発音, record.同.join(fieldMark), meanings.join(fieldMark),
+      record.コメント};
+  if (!row.読上.isEmpty()) columns.append(row.読上);
+  return columns.join(u'\t') + u'\n';
+}
+
+}  // namespace tavoli

@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include "contentbuilder/ContentSources.h"
+#include "data/Schema.h"
+#include "tests/support/Print.h"
+
+namespace tavoli {
+namespace {
+
+const QByteArray wordsFile = "words-JTDIC.tsv";
+const QByteArray sentencesFile = "sentences-中学.txt";
+const QByteArray header = "英語\tレベル\t発音\t同\t日\tコメント\t読上\n";
+
+SourceFile source(const QByteArray& name, const QByteArray& bytes) {
+  return {QString::fromUtf8(name), bytes};
+}
+
+TEST(ContentSourcesTest, CompilesToPackedRecords) {
+  const std::vector<SourceFile> files = {
+      source("README.md", "not UTF-8: \xFF"),
+      source(
+          "words-Travel.tsv",
+          "\xEF\xBB\xBF" + header +
+              "# a comment\r\n\r\nbest\t3\tァbe′st\tfinest|top \t最もよい| [最]善\t最善％道\tbest!"
+              "\r\nBest\t12\t\t\t〜人名\t\n"),
+      source(sentencesFile,
+             "# heading\n000120\n問 彼は？％He (   ) (   ) me.  \n"
+             "# inside\n答 <It >is\n"
+             "答 [That ]{I am ~I'm }a {big/large/huge} \\{<1/2\\}~\n"
+             "或 That I am {a big/the} \\{<1/2\\}~\n"
+             "答 {I had ~146}been\n"
+             "コ {コ}メ\n読 He is.\n\n\n000110\n問 次\n答 a"),
+  };
+  Problems problems;
+  const std::vector<ContentTable> tables = readContent(files, problems);
+  for (const Problem& problem : problems) ADD_FAILURE() << qPrintable(problem.message);
+  ASSERT_EQ(tables.size(), 4);
+  EXPECT_EQ(tables[1].name, tableJTDIC);
+  EXPECT_EQ(tables[2].name, tableSTDIC);
+  EXPECT_EQ(tables[3].name, QStringLiteral("Travel"));
+
+  const std::vector<ContentRow> sentences = {
+      {QStringLiteral("000120"), QString(),
+       QStringLiteral("彼は？％He (   ) (   ) me.|030005It is00000000^"
+                      "000023That I am a big {<1/2}~010501030605001131505large131504huge"
+                      "111503the^000010I had been000001000106146^|{コ}メ"),
+       QStringLiteral("He is.")},
+      {QStringLiteral("000110"), QString(), QStringLiteral("次|000001a00000000^|"), QString()},
+  };
+  ASSERT_EQ(tables[0].rows.size(), sentences.size());
+  for (size_t i = 0; i < sentences.size(); ++i) {
+    EXPECT_EQ(tables[0].rows[i].record, sentences[i].record);
+    EXPECT_EQ(tables[0].rows[i], sentences[i]);
+  }
+  const std::vector<ContentRow> words = {
+      {QStringLiteral("best"), QStringLiteral("03"),
+       QStringLiteral("ァbe′st|finest^top^|000最もよい^000[最]善^|最善％道"),
+       QStringLiteral("best!")},
+      {QStringLiteral("Best"), QStringLiteral("12"), QStringLiteral("||000～人名^|"), QString()},
+  };
+  ASSERT_EQ(tables[3].rows.size(), words.size());
+  for (size_t i = 0; i < words.size(); ++i) {
+    EXPECT_EQ(tables[3].rows[i].record, words[i].record);
+    EXPECT_EQ(tables[3].rows[i], words[i]);
+  }
+}
+
+/// Problems of the words file with that row in its second line, or of that sentences file.
+struct Mistake {
+  const char* name;
+  QByteArray text;
+  int line;
+  const char* part;  ///< of the message
+};
+
+void expectEach(const QByteArray& file, const QByteArray& before,
+                const std::vector<Mistake>& mistakes) {
+  for (const Mistake& mistake : mistakes) {
+    SCOPED_TRACE(mistake.name);
+    Problems problems;
+    readContent({source(file, before + mistake.text)}, problems);
+    for (const Problem& problem : problems)
+      SCOPED_TRACE(testing::Message() << problem.line << ": " << qPrintable(problem.message));
+    EXPECT_EQ(problems.size(), 1);
+    if (problems.empty()) continue;
+    EXPECT_EQ(problems[0].file, QString::fromUtf8(file));
+    EXPECT_EQ(problems[0].line, mistake.line);
+    EXPECT_TRUE(problems[0].message.contains(QString::fromUtf8(mistake.part)))
+        << qPrintable(problems[0].message);
+  }
+}
+
+TEST(ContentSourcesTest, NamesEveryMistakeInAWordsFile) {
+  const QByteArray many = "x" + QByteArray("|x").repeated(19);
+  const QByteArray longest = QByteArray("k").repeated(60);
+  expectEach(wordsFile, {}, {{"no header", "a\t1\t\t\t意味\t\n", 1, "1行目"}});
+  expectEach(
+      wordsFile, header,
+      {
+          {"too few columns", "a\t1\t\t\t意味\n", 2, "列が5個"},
+          {"too many columns", "\n#\na\t1\t\t\t意味\t\t\t\n", 4, "列が8個"},
+          {"no key", "\t1\t\t\t意味\t\n", 2, "「英語」が空"},
+          {"blank before the key", " a\t1\t\t\t意味\t\n", 2, "空白"},
+          {"long key", longest + "\t1\t\t\t意味\t\n" + longest + "x\t1\t\t\t意味\t\n", 3, "60文字"},
+          {"reserved key", "Zzzz\t1\t\t\t意味\t\n", 2, "zzzz"},
+          {"key twice", "a\t1\t\t\t意味\t\nA\t1\t\t\t意味\t\na\t1\t\t\t意味\t\n", 4, "2行目"},
+          {"level too high", "a\t100\t\t\t意味\t\n", 2, "レベル"},
+          {"negative level", "a\t-1\t\t\t意味\t\n", 2, "レベル"},
+          {"no level", "a\t\t\t\t意味\t\n", 2, "レベル"},
+          {"no meaning", "a\t1\t\t\t\t\n", 2, "意味がありません"},
+          {"empty meaning", "a\t1\t\t\t一||三\t\n", 2, "「日」に空の要素"},
+          {"empty synonym", "a\t1\t\tb| \t一\t\n", 2, "「同」に空の要素"},
+          {"twenty meanings", "a\t1\t\t\t" + many + "\t\n", 2, "「日」は19個"},
+          {"twenty synonyms", "a\t1\t\t" + many + "\t一\t\n", 2, "「同」は19個"},
+          {"separator in the comment", "a\t1\t\t\t一\tb|c\n", 2, "「コメント」に「|」"},
+          {"separator in a meaning", "a\t1\t\t\t一^\t\n", 2, "「日」に「^」"},
+          {"unpaired mark", "a\t1\t{b\t\t一\t\n", 2, "「発音」の記号"},
+          {"nested marks", "a\t1\t\t\t[{一}]\t\n", 2, "「日」の記号"},
+          {"crossed marks", "a\t1\t\t\t一\t[b}\n", 2, "「コメント」の記号"},
+          {"another encoding", "a\t1\t\t\t一\t\nb\t1\t\t\t\x88\xEA\t\n", 3, "UTF-8"},
+      });
+}
+
+TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
+  const QByteArray start = "000010\n問 次\n";
+  const QByteArray many = QByteArray("答 a\n").repeated(20);
+  const QByteArray x100 = QByteArray("x").repeated(100);
+  expectEach(sentencesFile, {},
+             {
+                 {"short number", "00010\n問 次\n答 a\n", 1, "6文字"},
+                 {"sign in a number", "\n0001-0\n問 次\n答 a\n", 2, "6文字"},
+                 {"another course's number", "500000\n問 次\n答 a\n", 1, "中学の範囲"},
+                 {"reserved number", "zzzzz1\n問 次\n答 a\n", 1, "中学の範囲"},
+                 {"number twice", start + "答 a\n\n" + start + "答 a\n", 5, "中学.txt:1"},
+                 {"empty line inside", start + "答 a\n\nコ メ\n問 次\n答 a\n", 5, "空行"},
+                 {"no question", "000010\n答 a\n", 1, "「問」がない"},
+                 {"empty question", "000010\n問\n答 a\n", 1, "「問」がない"},
+                 {"no answer", "000010\n問 次\n", 1, "「答」がありません"},
+             });
+  expectEach(
+      sentencesFile, start,
+      {
+          {"unknown tag", "答 a\n解 b\n", 4, "行の始め"},
+          {"tag without a blank", "答 a\n読み\n", 4, "行の始め"},
+          {"two questions", "答 a\n問 次\n", 4, "「問」が二つ"},
+          {"two comments", "コ a\n答 a\nコ b\n", 5, "「コ」が二つ"},
+          {"two spoken texts", "答 a\n読 a\n読 a\n", 5, "「読」が二つ"},
+          {"unpaired mark in the comment", "答 a\nコ ]a[\n", 4, "「コ」の記号"},
+          {"separator in the spoken text", "答 a\n読 ^\n", 4, "「読」に「^」"},
+          {"twenty answers", many, 1, "19個"},
+          {"empty answer", "答\n", 3, "答が空"},
+          {"answer ends with a blank", "答 a{ b/ c }\n或 {a b/c} \n答 [a ]\n", 5, "空白"},
+          {"long answer", "答 " + x100.repeated(10) + "\n", 3, "999文字"},
+          {"separator in an answer", "答 a|b\n", 3, "答に「|」"},
+          {"alternatives of nothing", "或 a\n答 a\n", 3, "前に「答」"},
+          {"alternatives of another answer", "答 a b\n或 {a/c} d\n", 4, "違います"},
+          {"other given characters", "答 <a >b\n或 <a> b\n", 4, "違います"},
+          {"many given characters", "答 <" + x100 + ">a\n", 3, "与える文字"},
+          {"given part left open", "答 <a b\n", 3, "「<」に対応"},
+          {"given part across another", "答 <{a>b/c}\n", 3, "交差"},
+          {"part left open", "答 a [b\n", 3, "「[」に対応"},
+          {"part never opened", "答 a} b\n", 3, "「}」に対応"},
+          {"part closed by the other bracket", "答 {a/b] c\n", 3, "「]」に対応"},
+          {"part inside a part", "答 {a [b]/c}\n", 3, "「{」の中に「[」"},
+          {"braces without alternatives", "答 {a} b\n", 3, "「~」も「/」も"},
+          {"two kinds in one part", "答 {I am ~I'm /we} b\n", 3, "一緒に"},
+          {"empty part", "答 a []b\n", 3, "空です"},
+          {"part of alternatives alone", "答 a {/b}c\n", 3, "空です"},
+          {"empty alternative", "答 {a//b} c\n", 3, "後ろの語句が空"},
+          {"unknown escape", "答 a\\b\n", 3, "「\\」"},
+          {"escape at the end", "答 a\\\n", 3, "「\\」"},
+          {"no such contraction", "答 {is~isn't} it\n", 3, "短縮形の表"},
+          {"contraction without its blank", "答 {I am~I'm} it\n", 3, "短縮形の表"},
+          {"number of another contraction", "答 {I had ~153}it\n", 3, "153番"},
+          {"number beyond the table", "答 {I had ~4294967442}it\n", 3, "短縮形の表"},
+          {"two parts left out", "答 [a ]b c\n或 a [b ]c\n", 3, "一度だけ"},
+          {"part far behind", "答 " + x100 + "{am/is}\n", 3, "99文字目"},
+          {"part that ends far behind", "答 {" + x100 + "/a}\n", 3, "99文字目"},
+          {"contraction far behind", "答 " + x100 + "{cannot~can't}\n", 3, "99文字目"},
+          {"long alternative", "答 {a/" + x100 + "}\n", 3, "99文字まで"},
+          {"eleven alternatives", "答 {a/1/2/3/4/5/6/7/8/9/10/11}\n", 3, "11個"},
+          {"too many combinations", "答 {a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}\n", 3, "100通り"},
+      });
+}
+
+TEST(ContentSourcesTest, LooksAtAllFiles) {
+  Problems problems;
+  readContent(
+      {source("words-JTDIC.tsv", header + "a\tx\t\t\t\t\n"), source("words-jtdic.tsv", header),
+       source("words-BDIC.tsv", header), source("words-sqlite_x.tsv", header),
+       source("notes.txt", "-"), source("sentences-高校.txt", "500010\n問 [\n答 {\n"),
+       source("sentences-専門.txt",
+              "500010\n問 次\n答 a\n\nZ00000\n問 次\n答 a\n"
+              "\nY99999\n問 次\n答 a\n")},
+      problems);
+  QStringList places;
+  for (const Problem& problem : problems)
+    places.append(QStringLiteral("%1:%2").arg(problem.file).arg(problem.line));
+  EXPECT_EQ(places.join(u' '),
+            QStringLiteral("words-JTDIC.tsv:2 words-JTDIC.tsv:2 words-jtdic.tsv:1 words-BDIC.tsv:1 "
+                           "words-sqlite_x.tsv:1 notes.txt:1 sentences-高校.txt:2 "
+                           "sentences-高校.txt:3 sentences-専門.txt:1 sentences-専門.txt:1 "
+                           "sentences-専門.txt:5"));
+}
+
+}  // namespace
+}  // namespace tavoli
