@@ -102,8 +102,10 @@ bool Login::keepNewerWork() {
   }
   const bool newer = m_files.modified(learner.dbFileWork) > m_files.modified(learner.dbFilePlaced);
   const bool keep = newer && m_files.read(learner.dbFileWork) != m_files.read(learner.dbFilePlaced);
-  const QString stamp = m_clock.now().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-  const QString kept = learner.dbFileWork + u'-' + stamp;
+  const QString dated =
+      learner.dbFileWork + m_clock.now().toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+  QString kept = dated;
+  for (int n = 2; m_files.exists(kept); ++n) kept = dated + u'-' + QString::number(n);
   if (keep && m_files.rename(learner.dbFileWork, kept) != FileResult::Ok) {
     return fail(
         QStringLiteral("配置場所より新しい %1 を別名で保存できません。何も変更していません。")

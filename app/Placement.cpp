@@ -36,7 +36,7 @@ QString readPlacement(Files& files, const QString& applicationFolder) {
   const std::optional<QString> text = bytes ? decodeText(*bytes) : std::nullopt;
   const QStringList lines = text ? splitLines(*text) : QStringList();
   if (!lines.isEmpty() && lines.first().size() >= 2) return lines.first();
-  const QString folder = defaultDataFolder(applicationFolder);
+  QString folder = defaultDataFolder(applicationFolder);
   files.write(path, folder.toUtf8() + '\n');
   return folder;
 }

@@ -1,5 +1,7 @@
 #include "app/Terminal.h"
 
+#include <ranges>
+
 namespace tavoli {
 
 namespace {
@@ -10,10 +12,10 @@ const QString areaAnswer = QStringLiteral("回答");
 /// The text with its marks written out as the sources spell them.
 QString withMarks(const MarkedText& marked) {
   QString text = marked.text;
-  for (auto span = marked.spans.rbegin(); span != marked.spans.rend(); ++span) {
-    const bool underlined = span->kind == MarkedText::Span::Kind::Underlined;
-    text.insert(span->offset + span->length, underlined ? u']' : u'}');
-    text.insert(span->offset, underlined ? u'[' : u'{');
+  for (const MarkedText::Span& span : marked.spans | std::views::reverse) {
+    const bool underlined = span.kind == MarkedText::Span::Kind::Underlined;
+    text.insert(span.offset + span.length, underlined ? u']' : u'}');
+    text.insert(span.offset, underlined ? u'[' : u'{');
   }
   return text;
 }

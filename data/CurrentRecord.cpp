@@ -9,7 +9,7 @@ namespace {
 /// Cuts the next field off the text: all up to the mark, which is dropped with it.
 QString takeField(QStringView& rest) {
   const qsizetype mark = rest.indexOf(fieldMark);
-  const QString field = rest.left(mark < 0 ? 0 : mark).toString();
+  QString field = rest.left(mark < 0 ? 0 : mark).toString();
   rest = rest.sliced(mark + 1);
   return field;
 }

@@ -67,6 +67,7 @@ std::vector<Variant> ExpandAnswers(const SubQuestion& answer) {
 
   const Growing plain{{answer.正, false}, 0, 0};
   std::vector<Growing> grown;
+  grown.reserve(maxVariants);
   for (const Substitution& s : substitutions) grown.push_back(apply(plain, s));
 
   // From left to right, each substitution also joins every form that ends before it begins.

@@ -65,7 +65,7 @@ TAVO2::TAVO2(std::function<void()> next, std::function<void()> leave, QWidget* p
   column->addLayout(columns, 1);
   column->addLayout(buttons);
   setCentralWidget(centre);
-  resize(800, 587);
+  resize(fontMetrics().height() * 55, fontMetrics().height() * 38);
   start->setFocus();
 }
 

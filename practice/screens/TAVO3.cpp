@@ -33,7 +33,6 @@ TAVO3::TAVO3(QWidget* parent) : QMainWindow(parent) {
   setCentralWidget(centre);
   buildStatus();
   setMinimumSize(640, 480);
-  resize(960, 680);
 }
 
 void TAVO3::buildFields(QWidget* centre) {

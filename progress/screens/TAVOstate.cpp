@@ -30,7 +30,7 @@ TAVOstate::TAVOstate(const QString& userId, std::function<void()> next, std::fun
   column->addStretch(1);
   column->addWidget(next_, 0, Qt::AlignRight);
   setCentralWidget(centre);
-  resize(800, 587);
+  resize(fontMetrics().height() * 55, fontMetrics().height() * 38);
   next_->setFocus();
 }
 

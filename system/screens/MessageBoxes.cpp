@@ -1,5 +1,6 @@
 #include "system/screens/MessageBoxes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 

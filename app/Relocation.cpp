@@ -1,0 +1,89 @@
+#include "app/Relocation.h"
+
+#include <QDir>
+
+#include "app/Placement.h"
+#include "data/LearnerFiles.h"
+#include "system/Files.h"
+
+namespace tavoli {
+
+namespace {
+
+const QString accessPassword = QStringLiteral("8642097531B");
+const QString accessPasswordLower = QStringLiteral("8642097531b");
+
+/// The path with links resolved as far down as it exists.
+QString resolved(const QString& path) {
+  const QFileInfo info(QDir::cleanPath(path));
+  if (info.exists()) return info.canonicalFilePath();
+  if (info.isRoot()) return info.filePath();
+  return QDir(resolved(info.path())).filePath(info.fileName());
+}
+
+bool isInside(const QString& path, const QString& folder) {
+  return (resolved(path) + u'/').startsWith(resolved(folder) + u'/');
+}
+
+}  // namespace
+
+bool isAccessPassword(const QString& text) {
+  return text == accessPassword || text == accessPasswordLower;
+}
+
+Relocation::Relocation(Files& files, const QString& applicationFolder)
+    : m_files(files), m_applicationFolder(applicationFolder) {}
+
+QString Relocation::target(const QString& chosenFolder) {
+  const QString folder = QDir::fromNativeSeparators(QFileInfo(chosenFolder).absoluteFilePath());
+  return defaultDataFolder(folder.endsWith(u'/') ? folder.chopped(1) : folder);
+}
+
+Relocation::Result Relocation::place(const QString& chosenFolder) {
+  const QString present = readPlacement(m_files, m_applicationFolder);
+  const QString to = target(chosenFolder);
+  if (isSameFolder(to, present)) return Result::SameFolder;
+  if (isInside(to, present)) return Result::InsideSource;
+
+  const QByteArray line = to.toUtf8() + '\n';
+  m_files.append(m_applicationFolder + QStringLiteral("/TavoAllocHisto.txt"), line);
+  if (!copyFolder(present, to)) return Result::CopyFailed;
+  const QString allocation = m_applicationFolder + QStringLiteral("/TavoAlloc.txt");
+  return m_files.write(allocation, line) == FileResult::Ok ? Result::Placed : Result::NotRecorded;
+}
+
+bool Relocation::copyFolder(const QString& from, const QString& to) {
+  const QDir source(from);
+  if (!source.exists() || !source.isReadable()) return false;
+  if (m_files.makeFolder(to) != FileResult::Ok) return false;
+  // By name, so that a database comes before the journal that belongs to it.
+  for (const QFileInfo& file : source.entryInfoList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    if (file.fileName().endsWith(QStringLiteral(".lock"))) continue;
+    if (!copyFile(file.filePath(), QDir(to).filePath(file.fileName()))) return false;
+  }
+  const auto folders = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
+  for (const QFileInfo& folder : source.entryInfoList(folders)) {
+    if (!copyFolder(folder.filePath(), QDir(to).filePath(folder.fileName()))) return false;
+  }
+  return true;
+}
+
+bool Relocation::copyFile(const QString& from, const QString& to) {
+  constexpr bool keepTime = true;  // the login tells newer work by it
+  return clearTarget(from, to) && m_files.copy(from, to, keepTime) == FileResult::Ok;
+}
+
+bool Relocation::clearTarget(const QString& from, const QString& to) {
+  const QString journal = to + QStringLiteral("-journal");
+  const bool newer = m_files.exists(to) && m_files.modified(to) > m_files.modified(from);
+  if (newer && m_files.read(to) != m_files.read(from)) {
+    const QString stamp = m_files.modified(to).toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString kept = to + u'-' + stamp;
+    if (m_files.rename(to, kept) != FileResult::Ok) return false;
+    return !m_files.exists(journal) ||
+           m_files.rename(journal, kept + QStringLiteral("-journal")) == FileResult::Ok;
+  }
+  return !m_files.exists(journal) || m_files.remove(journal) == FileResult::Ok;
+}
+
+}  // namespace tavoli

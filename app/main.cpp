@@ -1,0 +1,60 @@
+#include <QApplication>
+
+#include <cstdio>
+
+#include "app/CommandLine.h"
+#include "app/Placement.h"
+#include "app/TerminalDrill.h"
+#include "app/screens/WindowFlow.h"
+
+using namespace tavoli;
+
+namespace {
+
+constexpr int badArguments = 2;
+
+/// The arguments in UTF-8, before any application object exists.
+QStringList argumentsOf(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  return arguments;
+}
+
+int start(const CommandLine& line) {
+  SystemFiles files;
+  const SystemClock clock;
+  const QString programFolder = QCoreApplication::applicationDirPath();
+  const QString folder = line.applicationFolder.isEmpty() ? applicationFolderFor(programFolder)
+                                                          : line.applicationFolder;
+  const bool filled = fillApplicationFolder(files, programFolder, folder);
+  if (!filled) {
+    std::fprintf(stderr, "tavoli: %s にデータを用意できません。書き込めるか確かめてください。\n",
+                 qPrintable(folder));
+  }
+  Module1 module = startModule1(files, clock, folder);
+  if (line.terminal) return TerminalDrill(module, line.terminalOptions).run();
+  return WindowFlow(module, QStringLiteral(TAVOLI_VERSION)).run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const CommandLine line =
+      parseCommandLine(argumentsOf(argc, argv), QStringLiteral(TAVOLI_VERSION));
+  if (!line.complaint.isEmpty()) {
+    std::fprintf(stderr, "tavoli: %s\n", qPrintable(line.complaint));
+    return badArguments;
+  }
+  if (!line.information.isEmpty()) {
+    std::fputs(qPrintable(line.information), stdout);
+    return EXIT_SUCCESS;
+  }
+  QCoreApplication::setApplicationName(QStringLiteral("tavoli"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TAVOLI_VERSION));
+  if (line.terminal) {
+    const QCoreApplication application(argc, argv);
+    return start(line);
+  }
+  const QApplication application(argc, argv);
+  return start(line);
+}

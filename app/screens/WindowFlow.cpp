@@ -1,0 +1,107 @@
+#include "app/screens/WindowFlow.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "app/LoginLayout.h"
+#include "app/Placement.h"
+#include "conditions/ConditionsStore.h"
+#include "conditions/PastConditions.h"
+#include "practice/screens/TAVO7.h"
+
+namespace tavoli {
+
+namespace {
+
+/// Letters and Japanese of one family, so that they stand on one line and in one weight.
+QFont programFont() {
+  QFont font;
+  font.setFamilies({QStringLiteral("Noto Sans CJK JP"), QStringLiteral("BIZ UDPGothic"),
+                    QStringLiteral("IPAPGothic"), font.family()});
+  constexpr double pointSize = 11;
+  font.setPointSizeF(pointSize);
+  return font;
+}
+
+}  // namespace
+
+WindowFlow::WindowFlow(Module1& module, const QString& version) : m_module(module) {
+  m_tavo1 = std::make_unique<TAVO1>(m_module, m_files, m_dialogs, version);
+  m_login = std::make_unique<Login>(m_module, m_files, m_clock, m_dialogs, *m_tavo1);
+  m_tavo1->next = [this](const QString& id, const QString& password) {
+    return m_login->next(id, password);
+  };
+  m_tavo1->loggedIn = [this] { showState(); };
+  m_tavo1->finished = [] { QApplication::quit(); };
+}
+
+int WindowFlow::run() {
+  // Windows follow each other: for a moment none may be open.
+  QApplication::setQuitOnLastWindowClosed(false);
+  m_tavo1->show();
+  return QApplication::exec();
+}
+
+void WindowFlow::showState() {
+  // The login enlarges itself on large screens; the other windows go by the program's font.
+  const QSize screen = m_tavo1->screen()->size();
+  QFont font = programFont();
+  font.setPointSizeF(font.pointSizeF() * loginLayout(screen).scale);
+  QApplication::setFont(font);
+  m_state = std::make_unique<TAVOstate>(
+      m_module.learner.userId, [this] { showConditions(); }, [this] { leave(); });
+  m_state->show();
+  m_tavo1->hide();
+}
+
+void WindowFlow::showConditions() {
+  if (!m_tavo2) m_tavo2 = std::make_unique<TAVO2>([this] { startPractice(); }, [this] { leave(); });
+  if (!loadCourseConditions(m_module.learner.dbFileWork, m_module.course, m_module.conditions,
+                            m_module.learner.userId, lessonFolder(m_module.applicationFolder))) {
+    m_dialogs.show(QStringLiteral("%1 の練習条件を読めません。プログラムを終了します。")
+                       .arg(m_module.learner.dbFileWork));
+    leave();
+    return;
+  }
+  m_tavo2->showConditions(m_module.course, m_module.conditions,
+                          pastConditions(m_files, m_module.learner.condFileWork));
+  m_tavo2->show();
+  m_state->hide();
+}
+
+void WindowFlow::startPractice() {
+  m_module.clock.休憩時間 = 0;
+  m_module.clock.restClock = m_clock.now();
+  m_tavo3 = std::make_unique<TAVO3>();
+  m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
+  m_run = std::make_unique<PracticeRun>(m_module.learner, m_module.course, m_module.conditions,
+                                        m_files, m_clock, m_random, m_dialogs);
+  TAVO7 progress(m_tavo2.get());
+  if (!m_run->open(*m_tavo3, progress)) {
+    m_run.reset();
+    m_tavo3.reset();
+    return;
+  }
+  m_module.clock.開始時刻 = m_clock.now();
+  m_module.clock.restClock = m_module.clock.開始時刻;
+  m_tavo3->connectTo(m_run->loop(), [this] { endPractice(); });
+  m_tavo3->show();
+  m_tavo2->hide();
+}
+
+void WindowFlow::endPractice() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const bool stored = m_run->close();
+  QApplication::restoreOverrideCursor();
+  if (stored)
+    QApplication::quit();
+  else
+    leave();
+}
+
+void WindowFlow::leave() {
+  m_login->leaveWithoutRun();
+  QApplication::quit();
+}
+
+}  // namespace tavoli

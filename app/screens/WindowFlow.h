@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+#include "app/Login.h"
+#include "app/Module1.h"
+#include "app/screens/TAVO1.h"
+#include "conditions/screens/TAVO2.h"
+#include "practice/PracticeRun.h"
+#include "practice/screens/TAVO3.h"
+#include "progress/screens/TAVOstate.h"
+#include "system/Clock.h"
+#include "system/Files.h"
+#include "system/Random.h"
+#include "system/screens/MessageBoxes.h"
+
+namespace tavoli {
+
+/// Which window follows which: login, progress, conditions, practice, and back or out.
+class WindowFlow {
+ public:
+  WindowFlow(Module1& module, const QString& version);
+
+  /// Shows the login and runs until the last window is closed; returns the program's exit status.
+  int run();
+
+ private:
+  void showState();
+  void showConditions();
+  void startPractice();
+  void endPractice();
+  void leave();
+
+  Module1& m_module;
+  SystemFiles m_files;
+  SystemClock m_clock;
+  SystemRandom m_random;
+  MessageBoxes m_dialogs;
+  std::unique_ptr<TAVO1> m_tavo1;
+  std::unique_ptr<Login> m_login;
+  std::unique_ptr<TAVOstate> m_state;
+  std::unique_ptr<TAVO2> m_tavo2;
+  std::unique_ptr<PracticeRun> m_run;
+  std::unique_ptr<TAVO3> m_tavo3;
+};
+
+}  // namespace tavoli

@@ -1,0 +1,257 @@
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "app/Login.h"
+#include "app/Placement.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+class FakeLoginScreen final : public LoginScreen {
+ public:
+  void setUserId(const QString& text) override { userId = text; }
+  void focusUserId() override { focused = QStringLiteral("Text1"); }
+  void focusPassword() override { focused = QStringLiteral("Text2"); }
+  void setBusy(bool on) override { busy = on; }
+  void showEngineTrouble() override { trouble = true; }
+  QString userId;
+  QString focused;
+  bool busy = false;
+  bool trouble = false;
+};
+
+class LoginTest : public testing::Test {
+ protected:
+  LoginTest() {
+    module = startModule1(files, clock, folder.path());
+    deliver(module.dbPathDefault);
+  }
+
+  void deliver(const QString& to, const QString& name = QStringLiteral("TavoDB000.mdb")) {
+    test::TestStore store;
+    store.addSentence(QStringLiteral("000010"), QStringLiteral("問||"));
+    store.close();
+    QDir().mkpath(to);
+    QFile::copy(store.path(), to + u'/' + name);
+  }
+
+  void placeElsewhere() {
+    placed = folder.filePath(QStringLiteral("server/TavoliPersonalData"));
+    deliver(placed);
+    module.dbPath = placed;
+    QFile::remove(work());
+  }
+
+  QString work() const { return module.dbPathDefault + QStringLiteral("/TavoDB000.mdb"); }
+
+  bool login(const QString& id, const QString& password = QString()) {
+    Login rules(module, files, clock, dialogs, screen);
+    dialogs.shown.clear();
+    dialogs.asked.clear();
+    const bool in = rules.next(id, password);
+    if (in) rules.leaveWithoutRun();
+    return in;
+  }
+
+  Field storedPassword(const QString& path) {
+    std::optional<Database> database;
+    int errorNumber = 0;
+    openDatabase(path, database, errorNumber);
+    const auto rows = database->OpenRecordset(tableBDIC);
+    rows->Seek(SeekOp::Equal, rowPassword);
+    return rows->NoMatch() ? Field(QStringLiteral("no row")) : rows->value(field問正コ);
+  }
+
+  /// Changes the database as a run does, so that it is newer than any other copy and differs.
+  void work_on(const QString& path) {
+    std::optional<Database> database;
+    int errorNumber = 0;
+    openDatabase(path, database, errorNumber);
+    const auto rows = database->OpenRecordset(tableBDIC);
+    rows->Seek(SeekOp::Equal, QStringLiteral("000010"));
+    rows->Edit();
+    rows->setValue(field回数, QStringLiteral("77"));
+    ASSERT_TRUE(rows->Update());
+    files.setModified(path, QDateTime::currentDateTime().addSecs(60));
+  }
+
+  QTemporaryDir folder;
+  QString placed;
+  SystemFiles files;
+  test::FakeClock clock;
+  test::ScriptedDialogs dialogs;
+  FakeLoginScreen screen;
+  Module1 module;
+};
+
+TEST_F(LoginTest, TheFirstStartWritesThePlacement) {
+  const QString path = folder.filePath(QStringLiteral("TavoAlloc.txt"));
+  EXPECT_EQ(module.dbPath, module.dbPathDefault);
+  EXPECT_EQ(files.read(path), module.dbPathDefault.toUtf8() + '\n');
+  files.write(path, "x\r\n");
+  EXPECT_EQ(readPlacement(files, folder.path()), module.dbPathDefault) << "one character is empty";
+  EXPECT_EQ(files.read(path), module.dbPathDefault.toUtf8() + '\n');
+  files.write(path, "/a/人\r\nsecond");
+  EXPECT_EQ(readPlacement(files, folder.path()), QStringLiteral("/a/人"));
+}
+
+TEST_F(LoginTest, RefusesIdsThatAreNoLearner) {
+  EXPECT_FALSE(login(QStringLiteral("123456789")));
+  EXPECT_EQ(dialogs.shown,
+            QStringList{QStringLiteral(
+                "ユーザーＩＤ \"123456789\" は長すぎます。8文字以下にして下さい。")});
+  EXPECT_FALSE(login(QStringLiteral(" 12345678 ")));
+  EXPECT_EQ(dialogs.shown,
+            QStringList{QStringLiteral("ユーザーIDを入れ直してください。\n%1/TavoDB12345678.mdb"
+                                       " : not found")
+                            .arg(module.dbPathDefault)});
+  EXPECT_FALSE(login(QStringLiteral("../000")));
+  EXPECT_EQ(dialogs.shown.size(), 1);
+  EXPECT_EQ(QDir(module.dbPathDefault).entryList(QDir::Files),
+            QStringList{QStringLiteral("TavoDB000.mdb")})
+      << "nothing is left behind";
+}
+
+TEST_F(LoginTest, AnEmptyIdTurnsIntoTheStandardUser) {
+  EXPECT_FALSE(login(QString()));
+  EXPECT_EQ(screen.userId, QStringLiteral("000"));
+  EXPECT_TRUE(dialogs.shown.isEmpty() && dialogs.asked.isEmpty());
+  EXPECT_TRUE(login(screen.userId));
+  EXPECT_EQ(dialogs.asked, QStringList{QStringLiteral("パスワードは「」です。")});
+  EXPECT_EQ(module.course.COURSE, course高校);
+  EXPECT_EQ(storedPassword(work()), std::nullopt);
+  EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral("anything"))) << "no password was set";
+  EXPECT_TRUE(files.exists(module.dbPath + QStringLiteral("/TavoDB000BackUp")));
+}
+
+TEST_F(LoginTest, SetsThePasswordOnceAndThenAsksForIt) {
+  dialogs.answers = {false};
+  EXPECT_FALSE(login(QStringLiteral("000"), QStringLiteral(" Ab ")));
+  EXPECT_EQ(screen.focused, QStringLiteral("Text2"));
+  EXPECT_EQ(storedPassword(work()), QStringLiteral("no row"));
+  EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral(" Ab ")));
+  for (const char16_t* wrong : {u"", u"Ab", u" ab "}) {
+    EXPECT_FALSE(login(QStringLiteral("000"), QString::fromUtf16(wrong)));
+    EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("パスワードを入れ直してください。")});
+  }
+  EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral(" Ab ")));
+}
+
+TEST_F(LoginTest, FetchesThePlacedFilesAndCarriesANewPasswordBack) {
+  placeElsewhere();
+  files.write(placed + QStringLiteral("/TavoCond000"), "past\n");
+  EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral("pw")));
+  EXPECT_EQ(storedPassword(placed + QStringLiteral("/TavoDB000.mdb")), QStringLiteral("pw"));
+  EXPECT_EQ(files.read(module.learner.condFileWork), "past\n");
+  EXPECT_TRUE(files.exists(placed + QStringLiteral("/TavoDB000BackUp")));
+  EXPECT_FALSE(login(QStringLiteral("001")));
+  EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("ユーザーID \"001\" は未登録です。")});
+}
+
+TEST_F(LoginTest, PrefersThePlacedFileWithoutAnExtension) {
+  placeElsewhere();
+  deliver(placed, QStringLiteral("TavoDB000"));
+  EXPECT_TRUE(login(QStringLiteral("000")));
+  EXPECT_EQ(module.learner.dbFileWork, module.dbPathDefault + QStringLiteral("/TavoDB000"));
+}
+
+TEST_F(LoginTest, KeepsWorkThatDidNotGetHome) {
+  placeElsewhere();
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  EXPECT_TRUE(login(QStringLiteral("000")));
+  work_on(work());
+  const auto worked = files.read(work());
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  const QString kept = work() + QStringLiteral("-20260401-090000");
+  EXPECT_EQ(
+      dialogs.shown,
+      QStringList{QStringLiteral("配置場所に戻されていない学習結果があったので %1 に保存しました。")
+                      .arg(kept)});
+  EXPECT_EQ(files.read(kept), worked);
+  EXPECT_TRUE(login(QStringLiteral("000")));
+  EXPECT_TRUE(dialogs.shown.isEmpty()) << "kept once";
+  work_on(work());
+  EXPECT_TRUE(login(QStringLiteral("000")));
+  EXPECT_TRUE(files.exists(kept + QStringLiteral("-2"))) << "within the same second";
+  EXPECT_EQ(files.read(kept), worked);
+}
+
+TEST_F(LoginTest, LeavingWithoutARunLeavesNothingToKeep) {
+  placeElsewhere();
+  {
+    Login rules(module, files, clock, dialogs, screen);
+    ASSERT_TRUE(rules.next(QStringLiteral("000"), QString()));
+    work_on(work());
+    rules.leaveWithoutRun();
+  }
+  dialogs.shown.clear();
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+}
+
+TEST_F(LoginTest, OneProgramAtATimeWorksOnACopy) {
+  Login first(module, files, clock, dialogs, screen);
+  ASSERT_TRUE(first.next(QStringLiteral("000"), QString()));
+  const auto before = files.read(work());
+  EXPECT_FALSE(login(QStringLiteral("000")));
+  EXPECT_EQ(dialogs.shown, QStringList{work() + QStringLiteral(" が誤って使用中になっています。")});
+  EXPECT_EQ(files.read(work()), before);
+}
+
+TEST_F(LoginTest, ClearsTheLockOfADeadProgram) {
+  files.write(work() + QStringLiteral(".lock"),
+              "999999999\ntavoli\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+  EXPECT_TRUE(login(QStringLiteral("000")));
+  EXPECT_EQ(dialogs.shown,
+            QStringList{work() + QStringLiteral(" が誤って使用中になっています。消去しました。")});
+}
+
+TEST_F(LoginTest, TellsWhatIsWrongWithAFileAndLeavesItAlone) {
+  const QByteArray sound = *files.read(work());
+  QByteArray damaged = sound;
+  damaged.replace(sound.size() / 2, 3000, QByteArray(3000, '\xAA'));
+  const struct {
+    const char* name;
+    QByteArray content;
+  } cases[] = {{"empty", {}},
+               {"foreign", "Hello, I am a letter. "},
+               {"truncated", sound.left(5000)},
+               {"damaged", damaged}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    files.write(work(), c.content);
+    EXPECT_FALSE(login(QStringLiteral("000")));
+    EXPECT_EQ(dialogs.shown,
+              QStringList{QStringLiteral(
+                              "ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=3343")
+                              .arg(work())});
+    EXPECT_EQ(files.read(work()), c.content);
+    EXPECT_EQ(screen.focused, QStringLiteral("Text1"));
+  }
+  QFile::remove(work());
+  createDatabase(work());
+  EXPECT_FALSE(login(QStringLiteral("000")));
+  EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("Error '91'")}) << "a database without BDIC";
+  EXPECT_TRUE(screen.trouble);
+}
+
+TEST_F(LoginTest, BacksUpOnceAndWhenItIsDue) {
+  const QString backup = module.dbPath + QStringLiteral("/TavoDB000BackUp");
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  const auto first = files.read(backup);
+  work_on(work());
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  EXPECT_EQ(files.read(backup), first);
+  module.backupDue = true;
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  EXPECT_EQ(files.read(backup), files.read(work()));
+}
+
+}  // namespace
+}  // namespace tavoli

@@ -1,0 +1,123 @@
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "app/Placement.h"
+#include "app/Relocation.h"
+#include "system/Files.h"
+#include "tests/support/Print.h"
+
+namespace tavoli {
+namespace {
+
+using Result = Relocation::Result;
+
+TEST(AccessPassword, CountsInTwoFormsOnly) {
+  EXPECT_TRUE(isAccessPassword(QStringLiteral("8642097531B")));
+  EXPECT_TRUE(isAccessPassword(QStringLiteral("8642097531b")));
+  EXPECT_FALSE(isAccessPassword(QStringLiteral("８642097531B")));
+  EXPECT_FALSE(isAccessPassword(QStringLiteral("8642097531B ")));
+  EXPECT_FALSE(isAccessPassword(QString()));
+}
+
+class RelocationTest : public testing::Test {
+ protected:
+  RelocationTest() {
+    QDir().mkpath(present + QStringLiteral("/古い"));
+    write(present + QStringLiteral("/TavoDB000.mdb"), "database");
+    write(present + QStringLiteral("/TavoCond000"), "conditions");
+    write(present + QStringLiteral("/TavoDB000.mdb.lock"), "123");
+    write(present + QStringLiteral("/古い/.hidden"), "deep");
+    QDir().mkpath(parent);
+  }
+
+  void write(const QString& path, const QByteArray& content) {
+    ASSERT_EQ(files.write(path, content), FileResult::Ok);
+  }
+  QString text(const QString& path) const {
+    return QString::fromUtf8(files.read(path).value_or("(missing)"));
+  }
+  QString allocation() const { return text(application + QStringLiteral("/TavoAlloc.txt")); }
+  QString history() const { return text(application + QStringLiteral("/TavoAllocHisto.txt")); }
+
+  QTemporaryDir folder;
+  SystemFiles files;
+  QString application = folder.filePath(QStringLiteral("アプリ"));
+  QString present = defaultDataFolder(application);
+  QString parent = folder.filePath(QStringLiteral("共有"));
+  QString target = parent + QStringLiteral("/TavoliPersonalData");
+  Relocation relocation{files, application};
+};
+
+TEST_F(RelocationTest, CopiesAllAndCountsFromTheNextStart) {
+  ASSERT_EQ(relocation.place(parent), Result::Placed);
+  EXPECT_EQ(readPlacement(files, application), target);
+  EXPECT_EQ(history(), target + u'\n');
+  EXPECT_EQ(text(target + QStringLiteral("/TavoCond000")), QStringLiteral("conditions"));
+  EXPECT_EQ(text(target + QStringLiteral("/古い/.hidden")), QStringLiteral("deep"));
+  EXPECT_EQ(files.modified(target + QStringLiteral("/TavoDB000.mdb")),
+            files.modified(present + QStringLiteral("/TavoDB000.mdb")));
+  EXPECT_FALSE(files.exists(target + QStringLiteral("/TavoDB000.mdb.lock")));
+  EXPECT_TRUE(files.exists(present + QStringLiteral("/TavoDB000.mdb")));
+
+  EXPECT_EQ(relocation.place(parent), Result::SameFolder);
+  EXPECT_EQ(history(), target + u'\n');
+
+  ASSERT_EQ(relocation.place(application + u'/'), Result::Placed);
+  EXPECT_EQ(allocation(), present + u'\n');
+  EXPECT_EQ(history(), target + u'\n' + present + u'\n');
+}
+
+TEST_F(RelocationTest, KnowsTheSameFolderByAnyPath) {
+  const QString link = folder.filePath(QStringLiteral("link"));
+  ASSERT_TRUE(QFile::link(application, link));
+  EXPECT_EQ(relocation.place(application + QStringLiteral("/./")), Result::SameFolder);
+  EXPECT_EQ(relocation.place(link), Result::SameFolder);
+  EXPECT_EQ(relocation.place(present), Result::InsideSource);
+  EXPECT_EQ(relocation.place(link + QStringLiteral("/TavoliPersonalData/new/deeper")),
+            Result::InsideSource);
+  EXPECT_FALSE(QDir(present + QStringLiteral("/new")).exists());
+  EXPECT_EQ(history(), QStringLiteral("(missing)"));
+}
+
+TEST_F(RelocationTest, ADriveRootYieldsASingleSlash) {
+  EXPECT_EQ(Relocation::target(QStringLiteral("/")), QStringLiteral("/TavoliPersonalData"));
+  EXPECT_EQ(Relocation::target(parent), target);
+}
+
+TEST_F(RelocationTest, AFailedCopyLeavesThePlace) {
+  write(target, "a file in the way");
+  EXPECT_EQ(relocation.place(parent), Result::CopyFailed);
+  EXPECT_EQ(allocation(), present + u'\n');
+  EXPECT_EQ(history(), target + u'\n');
+
+  ASSERT_TRUE(QDir(present).removeRecursively());
+  EXPECT_EQ(relocation.place(folder.path()), Result::CopyFailed);
+  EXPECT_EQ(allocation(), present + u'\n');
+}
+
+TEST_F(RelocationTest, KeepsNewerWorkInTheTarget) {
+  const QString database = target + QStringLiteral("/TavoDB000.mdb");
+  const QString conditions = target + QStringLiteral("/TavoCond000");
+  QDir().mkpath(target);
+  write(database, "newer");
+  write(database + QStringLiteral("-journal"), "of the newer one");
+  write(conditions, "older");
+  write(conditions + QStringLiteral("-journal"), "of the older one");
+  const QDateTime now = files.modified(present + QStringLiteral("/TavoDB000.mdb"));
+  ASSERT_TRUE(files.setModified(database, now.addDays(1)));
+  ASSERT_TRUE(files.setModified(conditions, now.addDays(-1)));
+
+  ASSERT_EQ(relocation.place(parent), Result::Placed);
+  const QString kept = database + now.addDays(1).toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+  EXPECT_EQ(text(database), QStringLiteral("database"));
+  EXPECT_EQ(text(kept), QStringLiteral("newer"));
+  EXPECT_EQ(text(kept + QStringLiteral("-journal")), QStringLiteral("of the newer one"));
+  EXPECT_EQ(text(conditions), QStringLiteral("conditions"));
+  EXPECT_FALSE(files.exists(database + QStringLiteral("-journal")));
+  EXPECT_FALSE(files.exists(conditions + QStringLiteral("-journal")));
+}
+
+}  // namespace
+}  // namespace tavoli

@@ -1,0 +1,185 @@
+#include <QApplication>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "app/Placement.h"
+#include "app/screens/LoginPicture.h"
+#include "app/screens/TAVO1.h"
+#include "app/screens/TAVO11.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+
+namespace tavoli {
+namespace {
+
+class TAVO1Test : public testing::Test {
+ protected:
+  TAVO1Test() {
+    window.next = [this](const QString& id, const QString& password) {
+      typed = {id, password};
+      return id == QStringLiteral("000");
+    };
+    window.loggedIn = [this] { ++logins; };
+    window.finished = [this] { ++ends; };
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+  }
+
+  template <class Control>
+  Control* control(const char* name) {
+    return window.findChild<Control*>(QLatin1String(name));
+  }
+  QWidget* focus() const { return window.focusWidget(); }
+  QAction* menu(const char* name) { return control<QAction>(name); }
+
+  QTemporaryDir folder;
+  SystemFiles files;
+  test::FakeClock clock;
+  test::ScriptedDialogs dialogs;
+  Module1 module = startModule1(files, clock, folder.path());
+  TAVO1 window{module, files, dialogs, QStringLiteral("1.2.3")};
+  QStringList typed;
+  int logins = 0;
+  int ends = 0;
+};
+
+TEST_F(TAVO1Test, KeysLeadThroughTheFieldsToTheLogin) {
+  auto* text1 = control<QLineEdit>("Text1");
+  auto* text2 = control<QLineEdit>("Text2");
+  EXPECT_EQ(focus(), text2);
+  QTest::keyClick(text2, Qt::Key_Down);
+  EXPECT_EQ(focus(), text1);
+  QTest::keyClick(text1, Qt::Key_Up);
+  EXPECT_EQ(focus(), text2);
+  QTest::keyClick(text2, Qt::Key_A);
+  QTest::keyClick(text2, Qt::Key_Return);
+  EXPECT_EQ(focus(), text1);
+  EXPECT_TRUE(typed.isEmpty());
+
+  QTest::keyClick(text1, Qt::Key_Return);
+  EXPECT_EQ(typed, QStringList({QString(), QStringLiteral("a")}));
+  EXPECT_TRUE(window.isVisible());
+  window.setUserId(QStringLiteral("000"));
+  QTest::keyClick(text1, Qt::Key_Return);
+  EXPECT_EQ(typed, QStringList({QStringLiteral("000"), QStringLiteral("a")}));
+  EXPECT_EQ(logins, 1);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(ends, 0);
+}
+
+TEST_F(TAVO1Test, TheTimerTakesTheFocusOnlyFromALearnerWhoHasNotBegun) {
+  auto* text1 = control<QLineEdit>("Text1");
+  auto* timer1 = control<QTimer>("Timer1");
+  const auto elapse = [&] {
+    timer1->setInterval(0);
+    QApplication::processEvents();
+  };
+  text1->setFocus();
+  elapse();
+  EXPECT_EQ(focus(), control<QLineEdit>("Text2"));
+  EXPECT_FALSE(timer1->isActive());
+
+  text1->setFocus();
+  timer1->start(2000);
+  QTest::keyClick(text1, Qt::Key_0);
+  elapse();
+  EXPECT_EQ(focus(), text1);
+}
+
+TEST_F(TAVO1Test, ANewLayoutKeepsWhatWasTyped) {
+  auto* text1 = control<QLineEdit>("Text1");
+  QTest::keyClick(text1, Qt::Key_7);
+  window.showNormal();
+  for (const QSize& size : {QSize(700, 560), QSize(1900, 1000), QSize(3800, 2100)}) {
+    window.resize(size);
+    QApplication::processEvents();
+    const auto* frame2 = control<QWidget>("Frame2");
+    EXPECT_TRUE(frame2->parentWidget()->rect().contains(frame2->geometry())) << size.width();
+  }
+  EXPECT_EQ(text1->text(), QStringLiteral("7"));
+}
+
+TEST_F(TAVO1Test, TheFigureRestsWhileNobodySeesIt) {
+  const auto* timerA = control<QTimer>("TimerA");
+  EXPECT_TRUE(timerA->isActive());
+  window.hide();
+  EXPECT_FALSE(timerA->isActive());
+}
+
+TEST_F(TAVO1Test, IsAccessibleByName) {
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible()) continue;
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << qPrintable(widget->objectName());
+  }
+  EXPECT_EQ(control<QLineEdit>("Text2")->echoMode(), QLineEdit::Password);
+}
+
+TEST_F(TAVO1Test, MenusTellVersionAndCreditsAndGuardThePlacement) {
+  EXPECT_EQ(menu("Version")->text(), QString(42, u' ') + QStringLiteral("( ﾊﾞｰｼﾞｮﾝ 1.2.3 )"));
+  menu("credits")->trigger();
+  EXPECT_EQ(dialogs.shown.value(0).split(u'\n').size(), 3);
+
+  QString opened;
+  const auto answer = [&](const QString& password) {
+    QTimer::singleShot(0, &window, [&opened, password] {
+      auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+      box->setTextValue(password);
+      QTimer::singleShot(0, box, [&opened] {
+        opened = QApplication::activeModalWidget()->objectName();
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+      });
+      box->accept();
+    });
+    menu("menu11")->trigger();
+  };
+  answer(QStringLiteral("letmein"));
+  EXPECT_EQ(dialogs.shown.value(1), QStringLiteral("パスワードが間違っています。"));
+  EXPECT_TRUE(opened.isEmpty());
+  answer(QStringLiteral("8642097531b"));
+  EXPECT_EQ(opened, QStringLiteral("TAVO11"));
+}
+
+TEST_F(TAVO1Test, LeavesByTheEndButton) {
+  control<QPushButton>("Command1")->click();
+  EXPECT_EQ(ends, 1);
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(TAVO1Test, TAVO11PlacesTheFilesAndTellsSo) {
+  module.dbPath = QStringLiteral("/elsewhere");
+  TAVO11 dialog(module, files, dialogs, &window);
+  dialog.show();
+  auto* text1 = dialog.findChild<QLineEdit*>(QStringLiteral("Text1"));
+  auto* command1 = dialog.findChild<QPushButton*>(QStringLiteral("Command1"));
+  const QString present = defaultDataFolder(folder.path());
+  EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("Text2"))->text(), present);
+  EXPECT_EQ(module.dbPath, present);
+
+  command1->click();
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+  text1->setText(folder.path());
+  command1->click();
+  EXPECT_EQ(dialogs.shown.takeFirst(),
+            QStringLiteral("コピーできません。送り側と受け側のフォルダが同じです。"));
+  EXPECT_TRUE(dialog.isVisible());
+
+  const QString parent = folder.filePath(QStringLiteral("共有"));
+  text1->setText(parent);
+  command1->click();
+  EXPECT_EQ(dialogs.shown.takeFirst(),
+            parent + QStringLiteral("/TavoliPersonalData に個人用ベータベースを配置しました。"));
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(module.dbPath, present);
+}
+
+}  // namespace
+}  // namespace tavoli

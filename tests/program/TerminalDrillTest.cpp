@@ -1,0 +1,127 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+// Runs the program itself in the terminal, from login to the stored results.
+namespace tavoli {
+namespace {
+
+struct Outcome {
+  int status = -1;
+  QString output;
+  QString errors;
+};
+
+class TerminalDrillTest : public testing::Test {
+ protected:
+  TerminalDrillTest() {
+    for (int i = 1; i <= 6; ++i)
+      store.addSentence(digits(i * 10, 6),
+                        test::sentenceRecord(QStringLiteral("問題{%1}").arg(i),
+                                             {QStringLiteral("answer %1").arg(i)}));
+    store.close();
+    const QString data = folder.filePath(QStringLiteral("TavoliPersonalData"));
+    QDir().mkpath(data);
+    QFile::copy(store.path(), database());
+  }
+
+  QString database() const {
+    return folder.filePath(QStringLiteral("TavoliPersonalData/TavoDB000.mdb"));
+  }
+
+  Outcome run(const QStringList& arguments, const QString& input) const {
+    QProcess program;
+    program.start(
+        QStringLiteral(TAVOLI_PROGRAM),
+        QStringList{QStringLiteral("--terminal"), QStringLiteral("--app-folder"), folder.path()} +
+            arguments);
+    program.write(input.toUtf8());
+    program.closeWriteChannel();
+    EXPECT_TRUE(program.waitForFinished());
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+            QString::fromUtf8(program.readAllStandardError())};
+  }
+
+  /// The fields 記憶 and 回数 of a sentence.
+  QString stored(const QString& 文番) const {
+    std::optional<Database> opened;
+    int errorNumber = 0;
+    openDatabase(database(), opened, errorNumber);
+    const auto rows = opened->OpenRecordset(tableBDIC);
+    rows->Seek(SeekOp::Equal, 文番);
+    return rows->text(field記憶) + rows->text(field回数);
+  }
+
+  QTemporaryDir folder;
+  test::TestStore store;
+  const QStringList sentences = {QStringLiteral("--user"), QStringLiteral("000"),
+                                 QStringLiteral("--set"),  QStringLiteral("COURSE=0"),
+                                 QStringLiteral("--set"),  QStringLiteral("selMethod=4"),
+                                 QStringLiteral("--set"),  QStringLiteral("startMode=1")};
+};
+
+TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
+  const QString input = QStringLiteral(
+      ":yes\n"
+      "answer 1\n\n"
+      "wrong\nanswer 2\n\n"
+      "answer 3\n\n"
+      "answer 4\n\n"
+      "wrong again\nANSWER 5\n\n"
+      ":F6\n:no\n:F6\n:yes\n");
+  Outcome outcome = run(sentences, input);
+  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
+  for (const char16_t* line :
+       {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
+        u"[状態2] 位置=6／6 000060", u"[表示] ○　正解です。　『うろ覚え』にしました。",
+        u"[正解] wrong again は正解ではありません。", u"[箱] 終了しますか？（:yes / :no）"})
+    EXPECT_TRUE(outcome.output.contains(QString::fromUtf16(line))) << qPrintable(outcome.output);
+  for (int i = 1; i <= 5; ++i) EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("101"));
+  EXPECT_EQ(stored(QStringLiteral("000060")), QStringLiteral("000"));
+
+  outcome = run(sentences, QString());
+  EXPECT_EQ(outcome.status, 0) << "the end of the input is a confirmed end";
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[状態7] 練習回数 = 1")));
+  EXPECT_FALSE(outcome.output.contains(QStringLiteral("[箱]")));
+}
+
+TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
+  const Outcome outcome = run({QStringLiteral("--set"), QStringLiteral("COURSE=0"),
+                               QStringLiteral("--set"), QStringLiteral("selMethod=4")},
+                              QStringLiteral("\n\n\n:yes\n"));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[問題] 問題{1}")))
+      << qPrintable(outcome.output);
+}
+
+TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
+  const struct {
+    const char* name;
+    QStringList arguments;
+    QString complaint;
+  } cases[] = {
+      {"unknown option", {QStringLiteral("--fast")}, QStringLiteral("fast")},
+      {"no value",
+       {QStringLiteral("--set"), QStringLiteral("selMethod")},
+       QStringLiteral("NAME=VALUE")},
+      {"unknown name", sentences + QStringList{QStringLiteral("--set"), QStringLiteral("speed=9")},
+       QStringLiteral("speed という条件はありません")},
+      {"bad value", sentences + QStringList{QStringLiteral("--set"), QStringLiteral("selMethod=9")},
+       QStringLiteral("selMethod: 012345")},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const Outcome outcome = run(c.arguments, QStringLiteral(":yes\n"));
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_TRUE(outcome.errors.contains(c.complaint)) << qPrintable(outcome.errors);
+  }
+}
+
+}  // namespace
+}  // namespace tavoli
