@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -134,7 +135,7 @@ void TAVO1::makeMenus(const QString& version) {
   add("Version", captionStart + version + QStringLiteral(" )"))->setEnabled(false);
 }
 
-void TAVO1::watch(const QScreen* screen) {
+void TAVO1::watch(const QScreen* screen) const {
   connect(screen, &QScreen::geometryChanged, this, &TAVO1::placeForm);
   connect(screen, &QScreen::availableGeometryChanged, this, &TAVO1::placeForm);
 }
@@ -184,7 +185,7 @@ void TAVO1::placeFrame2() {
   const double unit = m_picture1->pixelsPerUnit();
   const double top = (layout.logo.y() + LoginLayout::logoSize.height()) * unit;
   const double bottom = layout.motto.y() * unit;
-  const double middle = (layout.motto.x() + LoginLayout::mottoSize.width() / 2) * unit;
+  const double middle = (layout.motto.x() + LoginLayout::mottoSize.width() / 2.0) * unit;
   const QPoint corner(int(middle) - m_frame2->width() / 2,
                       int(top + bottom) / 2 - m_frame2->height() / 2);
   const QSize room = m_picture1->size() - m_frame2->size();
@@ -282,6 +283,11 @@ void TAVO1::showEngineTrouble() {
   m_dialogs.show(
       QStringLiteral("データベースエンジンが使えないので、プログラムをインストールし直してください"
                      "（個人データベースはそのまま残っています）。"));
+}
+
+void TAVO1::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  connect(windowHandle(), &QWindow::screenChanged, this, &TAVO1::layOut, Qt::UniqueConnection);
 }
 
 void TAVO1::closeEvent(QCloseEvent* event) {

@@ -39,12 +39,13 @@ class TAVO1 final : public QMainWindow, public LoginScreen {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void makeFields();
   void makeMenus(const QString& version);
-  void watch(const QScreen* screen);
+  void watch(const QScreen* screen) const;
   /// Gives the window its size on this screen and lays it out again; what was typed stays.
   void placeForm();
   void layOut();

@@ -72,7 +72,7 @@ void WindowFlow::showConditions() {
 void WindowFlow::startPractice() {
   m_module.clock.休憩時間 = 0;
   m_module.clock.restClock = m_clock.now();
-  m_tavo3 = std::make_unique<TAVO3>();
+  m_tavo3 = std::make_unique<TAVO3>(prWhichTable(m_module.course));
   m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
   m_run = std::make_unique<PracticeRun>(m_module.learner, m_module.course, m_module.conditions,
                                         m_files, m_clock, m_random, m_dialogs);
