@@ -31,7 +31,7 @@ void Terminal::show(const QString& area, const QString& text) {
   if (m_shown.value(area) == text) return;
   m_shown[area] = text;
   if (text.isEmpty()) return;
-  QString lines = text;
+  QString lines = text.endsWith(u'\n') ? text.chopped(1) : text;
   lines.replace(u'\n', QStringLiteral("\n    "));
   m_out << u'[' << area << QStringLiteral("] ") << lines << Qt::endl;
 }
@@ -99,6 +99,14 @@ void TerminalPractice::showFullAnswer(const MarkedText& text) {
 
 void TerminalPractice::showMessage(const QString& text) {
   m_terminal.show(QStringLiteral("表示"), text);
+}
+
+void TerminalPractice::showMiniTest(const MarkedText& text) {
+  m_terminal.show(QStringLiteral("小試験"), withMarks(text));
+}
+
+void TerminalPractice::lookUp(const QString& text) {
+  m_terminal.show(QStringLiteral("辞書"), text);
 }
 
 void TerminalPractice::showStatus(StatusPanel panel, const QString& text) {

@@ -68,7 +68,12 @@ class TerminalPractice final : public PracticeScreen, public LoadProgress {
   void showQuestion(const MarkedText& text) override;
   void setAnswer(const QString& text) override;
   void showFullAnswer(const MarkedText& text) override;
+  void focusAnswer() override {}
   void showMessage(const QString& text) override;
+  void showMiniTest(const MarkedText& text) override;
+  void lookUp(const QString& text) override;
+  void enableAnswerKey(bool) override {}
+  void showComparison(int) override {}
   void showStatus(StatusPanel panel, const QString& text) override;
   void awaitConfirmation(bool awaited) override;
   void close() override { closed = true; }

@@ -105,6 +105,7 @@ void TerminalDrill::drive(PracticeLoop& loop, const TerminalPractice& screen) {
       press(loop, *line);
     } else {
       if (line->startsWith(u':')) line->remove(0, 1);
+      line->replace(u'~', u'～');
       // In a window the learner types on behind the given start; here the start may be repeated,
       // and a sentence to correct is written anew.
       const QString& start = screen.answerStart;
@@ -115,14 +116,24 @@ void TerminalDrill::drive(PracticeLoop& loop, const TerminalPractice& screen) {
 }
 
 void TerminalDrill::press(PracticeLoop& loop, const QString& key) {
-  if (key == u":F6") {
+  const QStringList comparisons = {QStringLiteral(":menu41"), QStringLiteral(":menu42"),
+                                   QStringLiteral(":menu43"), QStringLiteral(":menu44")};
+  if (key == u":F1") {
+    loop.showAnswer();
+  } else if (key == u":F6") {
     loop.requestExit();
+  } else if (key == u":F11") {
+    loop.markKnown(false);
+  } else if (comparisons.contains(key)) {
+    loop.chooseComparison(static_cast<int>(comparisons.indexOf(key)));
   } else if (key == u":quit") {
     loop.exitAtOnce();
   } else {
     m_terminal.show(
         QStringLiteral("表示"),
-        QStringLiteral("%1 というキーはありません。:F6 か :quit で終了します。").arg(key));
+        QStringLiteral("%1 というキーはありません。:F1 正解、:F6 終了、:F11 知っている、"
+                       ":menu41～:menu44 比較方法、:quit すぐ終了。")
+            .arg(key));
   }
 }
 

@@ -24,6 +24,7 @@ struct TerminalOptions {
 /// The drill for people without a display, and for scripts: the same rules as in the windows, lines
 /// in and areas out. A line is what is typed before Enter, behind what the answer box begins with;
 /// a line that begins with ":" is a key, one that begins with "::" an answer that begins with ":".
+/// A "~" is taken as the "～" of idioms.
 class TerminalDrill {
  public:
   TerminalDrill(Module1& module, const TerminalOptions& options);

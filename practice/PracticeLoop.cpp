@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "data/Text.h"
 #include "practice/PracticeScreen.h"
 #include "system/Dialogs.h"
 
@@ -22,52 +21,57 @@ QString captionOf(const PracticeConditions& conditions) {
 }  // namespace
 
 PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
-                           const PracticeConditions& conditions, PracticeScreen& screen,
-                           Dialogs& dialogs)
-    : m_set(set),
-      m_course(course),
-      m_conditions(conditions),
+                           PracticeConditions& conditions, PracticeScreen& screen, Dialogs& dialogs)
+    : m_state{set, course, conditions,
+              comparisonSettings(conditions.compareMode, conditions.compareFlag)},
       m_screen(screen),
       m_dialogs(dialogs),
-      m_comparison(comparisonSettings(conditions.compareMode, conditions.compareFlag)) {}
+      m_flow(m_state, screen, dialogs) {}
 
 void PracticeLoop::start() {
-  m_screen.showCaption(captionOf(m_conditions));
+  const PracticeConditions& conditions = m_state.conditions;
+  m_screen.showCaption(captionOf(conditions));
   m_screen.showStatus(StatusPanel::Review,
-                      m_conditions.reviewCycle == 0
+                      conditions.reviewCycle == 0
                           ? QStringLiteral("復習なし")
-                          : QStringLiteral("復習は%1問ごとに").arg(m_conditions.reviewCycle));
-  m_screen.showStatus(StatusPanel::Comparison, comparisonStatus(m_comparison));
+                          : QStringLiteral("復習は%1問ごとに").arg(conditions.reviewCycle));
+  chooseComparison(comparisonChoiceOf(m_state.comparison));
   m_screen.showStatus(StatusPanel::Order,
-                      m_conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
-  m_POS = m_set.startIndex;
+                      conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
+  m_state.POS = m_state.set.startIndex;
   if (dispPOS1()) advance();
 }
 
 bool PracticeLoop::dispPOS1() {
-  m_shownCount = 0;
-  if (m_POS > m_set.itemCount()) {
+  m_state.wordShownCount = 0;
+  const int itemCount = m_state.set.itemCount();
+  if (m_state.POS > itemCount) {
     if (!m_dialogs.ask(QStringLiteral("最後まで終了しました。最初から再開しますか。")) &&
         m_dialogs.ask(QStringLiteral("終了しますか？"))) {
       exitAtOnce();
       return false;
     }
-    m_POS = m_set.startIndex;
+    m_state.POS = m_state.set.startIndex;
   }
-  m_POS1 = 1;
-  PracticeItem& item = m_set.item(m_POS);
+  PracticeItem& item = m_state.item();
+  m_state.POS1 = 1;
+  m_state.復習する = false;
+  m_state.repeatsLeft =
+      item.isSentence() ? m_state.conditions.firstRepeatSent : m_state.conditions.firstRepeatWord;
   item.itemDirty = true;
-  m_record = m_set.parsed(m_POS);
-  const QString position = QStringLiteral("位置=%1／%2").arg(m_POS).arg(m_set.itemCount());
+  m_state.record = m_state.set.parsed(m_state.POS);
+  const QString position = QStringLiteral("位置=%1／%2").arg(m_state.POS).arg(itemCount);
   m_screen.showStatus(StatusPanel::Position,
                       item.isSentence() ? position + u' ' + item.itemEnglish : position);
   return true;
 }
 
 bool PracticeLoop::fnNextExist() {
-  while (m_record.has(m_POS1) && !memoryAdmitted(m_conditions.memorySelect, m_record.記(m_POS1)))
-    ++m_POS1;
-  return m_record.has(m_POS1);
+  int& POS1 = m_state.POS1;
+  while (m_state.record.has(POS1) &&
+         !memoryAdmitted(m_state.conditions.memorySelect, m_state.record.記(POS1)))
+    ++POS1;
+  return m_state.record.has(POS1);
 }
 
 void PracticeLoop::advance() {
@@ -76,39 +80,61 @@ void PracticeLoop::advance() {
     return;
   }
   // An item of which nothing was asked is only shown.
-  if (m_shownCount > 0) 回数カウント();
+  if (m_state.wordShownCount > 0) 回数カウント();
   dispAnswerFull();
 }
 
+void PracticeLoop::stay() {
+  m_screen.focusAnswer();
+}
+
+void PracticeLoop::after(AnswerFlow::After result) {
+  if (result == AnswerFlow::After::Advance)
+    advance();
+  else
+    stay();
+}
+
 void PracticeLoop::nextQuestion() {
-  ++m_POS;
+  ++m_state.POS;
   if (dispPOS1()) advance();
 }
 
 void PracticeLoop::dispQuestion() {
-  ++m_shownCount;
-  const PracticeItem& item = m_set.item(m_POS);
-  const SubQuestion& s = m_record.at(m_POS1);
-  m_screen.showSource(sourceLabel(m_record, item.itemEnglish, item.itemTable, m_course.COURSE));
-  m_screen.showQuestion(parseMarks(m_record.sentence ? m_record.問題文 : s.日本語));
+  ++m_state.wordShownCount;
+  m_state.tryCount = 0;
+  m_state.answerShown = false;
+  m_state.timeOver = false;
+  const PracticeItem& item = m_state.item();
+  const CurrentRecord& record = m_state.record;
+  const SubQuestion& s = m_state.小問();
+  m_screen.showSource(sourceLabel(record, item.itemEnglish, item.itemTable, m_state.course.COURSE));
+  m_screen.showQuestion(parseMarks(record.sentence ? record.問題文 : s.日本語));
   m_screen.showStatus(
       StatusPanel::Times,
-      QStringLiteral("練習回数 = %1").arg(m_record.sentence ? item.itemTimes : s.小問回数));
-  m_screen.setAnswer(answerStart(m_record, m_POS1));
+      QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
+  m_screen.setAnswer(answerStart(record, m_state.POS1));
+  m_flow.ShowMiniTestNotice();
+  m_screen.focusAnswer();
 }
 
 void PracticeLoop::dispAnswerFull() {
   m_確認中 = true;
+  m_screen.showMiniTest(MarkedText());
   m_screen.setAnswer(QString());
-  m_screen.showFullAnswer(parseMarks(fullAnswerText(m_record)));
+  m_screen.showFullAnswer(parseMarks(fullAnswerText(m_state.record)));
   m_screen.awaitConfirmation(true);
+}
+
+void PracticeLoop::keyPressed() {
+  m_screen.showMessage(QString());
 }
 
 void PracticeLoop::enter(const QString& typed) {
   m_screen.showFullAnswer(MarkedText());
   m_screen.showMessage(QString());
   if (!m_確認中) {
-    judge(trimBlanks(typed));
+    after(m_flow.enter(typed));
     return;
   }
   m_確認中 = false;
@@ -116,41 +142,32 @@ void PracticeLoop::enter(const QString& typed) {
   nextQuestion();
 }
 
-void PracticeLoop::judge(const QString& typed) {
-  const QString given = answerStart(m_record, m_POS1);
-  const bool nothingTyped =
-      typed.isEmpty() || (!isCorrection(m_record) && typed.size() <= given.size());
-  if (nothingTyped) {
-    m_screen.setAnswer(given);
-    return;
-  }
-  const QString& answer = m_record.sentence ? m_record.text(m_POS1) : m_record.英語;
-  if (isAnswer(answer, typed, m_comparison)) {
-    answeredRight();
-    return;
-  }
-  m_screen.showFullAnswer(plainText(typed + QStringLiteral(" は正解ではありません。")));
-  m_screen.setAnswer(given);
+void PracticeLoop::showAnswer() {
+  if (m_確認中) return;
+  m_flow.showAnswer();
+  stay();
 }
 
-void PracticeLoop::answeredRight() {
-  SubQuestion& s = m_record.at(m_POS1);
-  QString message = QStringLiteral("○　正解です。");
-  if (s.記 == memory全然) {
-    s.記 = memoryうろ覚え;
-    message = m_record.sentence
-                  ? QStringLiteral("○　正解です。　『うろ覚え』にしました。")
-                  : QStringLiteral("○　正解です。『うろ覚え』にしました。『 %1 』").arg(s.日本語);
-  }
-  if (!m_record.sentence) s.小問回数 = std::min(maxTimes, s.小問回数 + 1);
-  m_set.RewriteRecord(m_POS, m_record);
-  m_screen.showMessage(message);
-  ++m_POS1;
-  advance();
+void PracticeLoop::markKnown(bool byButton) {
+  if (!m_確認中) after(m_flow.KnownKey(byButton));
+}
+
+void PracticeLoop::chooseComparison(int choice) {
+  const ComparisonChoice& chosen = comparisonChoices()[static_cast<size_t>(choice)];
+  m_state.comparison = chosen.settings;
+  m_state.conditions.compareMode = chosen.settings.compareMode;
+  m_state.conditions.compareFlag = chosen.settings.compareFlag;
+  m_screen.showComparison(choice);
+  m_screen.showStatus(StatusPanel::Comparison, chosen.status);
+}
+
+void PracticeLoop::nextComparison() {
+  const auto choices = static_cast<int>(comparisonChoices().size());
+  chooseComparison((comparisonChoiceOf(m_state.comparison) + 1) % choices);
 }
 
 void PracticeLoop::回数カウント() {
-  int& times = m_set.item(m_POS).itemTimes;
+  int& times = m_state.item().itemTimes;
   times = std::min(maxTimes, times + 1);
 }
 

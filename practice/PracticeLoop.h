@@ -2,29 +2,37 @@
 
 #include <QString>
 
-#include "conditions/PracticeConditions.h"
-#include "data/CurrentRecord.h"
-#include "judge/Comparison.h"
-#include "practice/PracticeSet.h"
+#include "practice/AnswerFlow.h"
 #include "practice/QuestionText.h"
+#include "practice/RunState.h"
 
 namespace tavoli {
 
 class Dialogs;
 class PracticeScreen;
 
-/// Asks one 小問 after the other: shows it, judges what was typed, moves its memory state, and
-/// walks on through the items until the learner ends the run.
+/// Asks one 小問 after the other: shows it, has the answer flow judge what was typed, and walks on
+/// through the items until the learner ends the run.
 class PracticeLoop {
  public:
-  PracticeLoop(PracticeSet& set, const CourseChoice& course, const PracticeConditions& conditions,
+  PracticeLoop(PracticeSet& set, const CourseChoice& course, PracticeConditions& conditions,
                PracticeScreen& screen, Dialogs& dialogs);
 
   /// Shows the first question.
   void start();
 
+  /// Any key in the answer box: what the last entry was told goes away.
+  void keyPressed();
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);
+  /// F1: shows the answer of the 小問.
+  void showAnswer();
+  /// F11: the learner knows the 小問. `byButton` says that the button was clicked.
+  void markKnown(bool byButton);
+  /// Compares from now on as the choice says, from 0; the run's conditions keep it.
+  void chooseComparison(int choice);
+  /// Goes on to the next choice of the four.
+  void nextComparison();
 
   /// F6 or the window's close button: asks, and closes the screen on Yes.
   void requestExit();
@@ -33,16 +41,20 @@ class PracticeLoop {
 
   bool exitConfirmed() const { return m_exitConfirmed; }
   /// The present item and 小問, from 1.
-  int POS() const { return m_POS; }
-  int POS1() const { return m_POS1; }
+  int POS() const { return m_state.POS; }
+  int POS1() const { return m_state.POS1; }
   bool 確認中() const { return m_確認中; }
   /// The answer box holds a sentence that is to be corrected.
-  bool correcting() const { return isCorrection(m_record); }
+  bool correcting() const { return isCorrection(m_state.record); }
+  const RunState& state() const { return m_state; }
 
  private:
   /// The step after a change of item or 小問: shows the next admitted 小問, or the whole answer
   /// when none is left.
   void advance();
+  /// Gives the caret back to the answer box; nothing else happens.
+  void stay();
+  void after(AnswerFlow::After result);
   /// Makes POS the current item. False when the run has ended instead.
   bool dispPOS1();
   /// Moves POS1 to the next 小問 whose memory state is admitted. False when none is left; POS1 then
@@ -52,21 +64,12 @@ class PracticeLoop {
   void dispQuestion();
   /// Shows the whole item and waits for Enter.
   void dispAnswerFull();
-  void judge(const QString& typed);
-  void answeredRight();
   void 回数カウント();
 
-  PracticeSet& m_set;
-  const CourseChoice& m_course;
-  const PracticeConditions& m_conditions;
+  RunState m_state;
   PracticeScreen& m_screen;
   Dialogs& m_dialogs;
-  ComparisonSettings m_comparison;
-
-  CurrentRecord m_record;
-  int m_POS = 1;
-  int m_POS1 = 1;
-  int m_shownCount = 0;  ///< how many 小問 of this item have been asked
+  AnswerFlow m_flow;
   bool m_確認中 = false;
   bool m_exitConfirmed = false;
 };

@@ -27,9 +27,18 @@ class PracticeScreen {
   virtual void showQuestion(const MarkedText& text) = 0;
   /// Puts a text into the answer box with the caret behind it.
   virtual void setAnswer(const QString& text) = 0;
+  virtual void focusAnswer() = 0;
   /// The full answer, or what a wrong answer is told.
   virtual void showFullAnswer(const MarkedText& text) = 0;
   virtual void showMessage(const QString& text) = 0;
+  /// The notice of a mini test; an empty text hides it.
+  virtual void showMiniTest(const MarkedText& text) = 0;
+  /// Puts a text into the look-up boxes.
+  virtual void lookUp(const QString& text) = 0;
+  /// Whether F1, the answer on demand, can be used.
+  virtual void enableAnswerKey(bool enabled) = 0;
+  /// Marks one of comparisonChoices(), from 0, as the chosen one.
+  virtual void showComparison(int choice) = 0;
   virtual void showStatus(StatusPanel panel, const QString& text) = 0;
   /// True: the full answer is on show and Enter is awaited. False: the answer box takes typing.
   virtual void awaitConfirmation(bool awaited) = 0;

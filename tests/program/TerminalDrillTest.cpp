@@ -80,9 +80,11 @@ TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
   for (const char16_t* line :
        {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
         u"[状態2] 位置=6／6 000060", u"[表示] ○　正解です。　『うろ覚え』にしました。",
-        u"[正解] wrong again は正解ではありません。", u"[箱] 終了しますか？（:yes / :no）"})
+        u"[正解] {wrong again} は正解ではありません。", u"[箱] 終了しますか？（:yes / :no）"})
     EXPECT_TRUE(outcome.output.contains(QString::fromUtf16(line))) << qPrintable(outcome.output);
-  for (int i = 1; i <= 5; ++i) EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("101"));
+  for (const int i : {1, 3, 4}) EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("101"));
+  for (const int i : {2, 5})
+    EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("001")) << "not at the first try";
   EXPECT_EQ(stored(QStringLiteral("000060")), QStringLiteral("000"));
 
   outcome = run(sentences, QString());

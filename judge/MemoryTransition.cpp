@@ -1,0 +1,66 @@
+#include "judge/MemoryTransition.h"
+
+namespace tavoli {
+
+namespace {
+
+/// Right, or a variant that counts as right.
+bool isRight(const JudgedEntry& e) {
+  return e.ANScomp == Verdict::Right || (e.ANScomp == Verdict::Variant && e.accepted);
+}
+
+/// The circle of a right answer, double for a variant.
+QString circle(const JudgedEntry& e) {
+  return e.ANScomp == Verdict::Variant ? QStringLiteral("◎") : QStringLiteral("○");
+}
+
+MemoryTransition learn(const JudgedEntry& e) {
+  if (!isRight(e)) return {e.state, QString(), NextStep::SameSubQuestion};
+  const QString right = circle(e) + QStringLiteral("　正解です。\n");
+  const bool atFirst = e.tryCount <= 1 && !e.answerShown && !e.timeOver;
+  if (!atFirst) return {e.state, right, NextStep::Repeat};
+  // Only one meaning of a word is rewarded at a visit; the others need no repeats either.
+  if (!e.firstMeaning) return {e.state, right, NextStep::NextSubQuestion};
+  const QString promoted =
+      e.meaning.isEmpty()
+          ? QStringLiteral("○　正解です。　『うろ覚え』にしました。")
+          : QStringLiteral("○　正解です。『うろ覚え』にしました。『 %1 』").arg(e.meaning);
+  return {memoryうろ覚え, promoted, NextStep::NextSubQuestion};
+}
+
+/// The message of a mini test that leaves the state as it is; none for a code that is no state.
+QString keptMessage(QChar state, const QString& circle) {
+  if (state == memory完全)
+    return circle + QStringLiteral("　正解です。　『完全記憶を維持』します。");
+  if (state == memoryうろ覚え)
+    return circle + QStringLiteral("　正解です。　『うろ覚えを維持』します。");
+  return {};
+}
+
+MemoryTransition miniTest(const JudgedEntry& e) {
+  const bool second = e.tryCount >= 2;
+  if (second && (isRight(e) || e.ANScomp == Verdict::Variant))
+    return {e.state, keptMessage(e.state, QStringLiteral("○")), NextStep::NextSubQuestion};
+  if (isRight(e) && e.state == memoryうろ覚え) {
+    return {memory完全, circle(e) + QStringLiteral("　正解です。　『完全記憶』にしました。"),
+            NextStep::NextSubQuestion};
+  }
+  if (isRight(e)) return {e.state, keptMessage(e.state, circle(e)), NextStep::NextSubQuestion};
+  if (second && e.ANScomp == Verdict::Wrong) {
+    return {memory全然, QStringLiteral("『全然』に記憶状態を戻しました。"),
+            NextStep::SameSubQuestion};
+  }
+  return {e.state, QString(), NextStep::SameSubQuestion};
+}
+
+}  // namespace
+
+MemoryTransition memoryTransition(const JudgedEntry& entry) {
+  return entry.state == memory全然 ? learn(entry) : miniTest(entry);
+}
+
+QChar knownTransition(QChar state) {
+  return state == memory全然 ? memoryうろ覚え : state;
+}
+
+}  // namespace tavoli

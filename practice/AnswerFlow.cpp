@@ -1,0 +1,232 @@
+#include "practice/AnswerFlow.h"
+
+#include <algorithm>
+
+#include "data/Text.h"
+#include "practice/PracticeScreen.h"
+#include "practice/QuestionText.h"
+#include "system/Dialogs.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int maxTimes = 99;
+
+const QString notRight = QStringLiteral(" は正解ではありません。");
+
+/// The line that names the mark at the end of an answer.
+QString missingMark(const QString& answer) {
+  if (answer.endsWith(u'.')) return QStringLiteral("終止符\".\"がありません。");
+  if (answer.endsWith(u'?')) return QStringLiteral("疑問符\"?\"がありません。");
+  return QStringLiteral("感嘆符\"!\"がありません。");
+}
+
+}  // namespace
+
+AnswerFlow::AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs)
+    : m_state(state), m_screen(screen), m_dialogs(dialogs) {}
+
+QString AnswerFlow::answer() const {
+  return m_state.record.sentence ? m_state.record.text(m_state.POS1) : m_state.record.英語;
+}
+
+AnswerFlow::After AnswerFlow::enter(const QString& typed) {
+  const bool miniTest = m_state.inMiniTest();
+  if (miniTest) m_screen.showMiniTest(MarkedText());
+  // An entry of nothing but what was given costs nothing.
+  const QString entry = CleanTypedAnswer(typed);
+  if (entry.isEmpty() || (m_state.record.sentence && entry.size() <= m_state.小問().先頭文字数)) {
+    m_screen.setAnswer(answerStart(m_state.record, m_state.POS1));
+    return After::Stay;
+  }
+  ++m_state.tryCount;
+  m_state.復習する = true;
+  const Comparison comparison = COMP(m_state.record, m_state.POS1, entry, m_state.comparison);
+  const MemoryTransition transition = judged(comparison);
+  switch (transition.next) {
+    case NextStep::NextSubQuestion:
+      if (miniTest) guardMemoryCode();
+      return moveOn(transition);
+    case NextStep::Repeat:
+      return repeat(transition);
+    case NextStep::SameSubQuestion:
+      break;
+  }
+  if (miniTest)
+    refuseInMiniTest(comparison, transition);
+  else
+    refuse(comparison);
+  return After::Stay;
+}
+
+MemoryTransition AnswerFlow::judged(const Comparison& comparison) {
+  const bool sentence = m_state.record.sentence;
+  JudgedEntry entry;
+  entry.state = m_state.小問().記;
+  entry.ANScomp = comparison.ANScomp;
+  entry.accepted = comparison.accepted;
+  entry.tryCount = m_state.tryCount;
+  entry.answerShown = m_state.answerShown;
+  entry.timeOver = m_state.timeOver;
+  entry.firstMeaning = sentence || m_state.wordShownCount <= 1;
+  entry.meaning = m_state.小問().日本語;
+  return memoryTransition(entry);
+}
+
+AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition) {
+  SubQuestion& s = m_state.小問();
+  const bool learnt = s.記 == memory全然;
+  s.記 = transition.state;
+  if (m_state.record.sentence) {
+    m_state.repeatsLeft = m_state.conditions.firstRepeatSent;
+  } else {
+    s.小問回数 = std::min(maxTimes, s.小問回数 + 1);
+    if (learnt) m_state.repeatsLeft = 1;
+  }
+  m_state.RewriteRecord();
+  m_screen.showMessage(transition.message);
+  ++m_state.POS1;
+  return After::Advance;
+}
+
+AnswerFlow::After AnswerFlow::repeat(const MemoryTransition& transition) {
+  --m_state.repeatsLeft;
+  if (m_state.repeatsLeft <= 0) return moveOn(transition);
+  m_screen.showMessage(QStringLiteral("あと %1 回練習して下さい。").arg(m_state.repeatsLeft));
+  askAgain();
+  return After::Stay;
+}
+
+void AnswerFlow::refuse(const Comparison& comparison) {
+  switch (comparison.ANScomp) {
+    case Verdict::Variant:
+      tellTolerated(comparison);
+      break;
+    case Verdict::MarkMissing:
+    case Verdict::WrongMark:
+      tellMark(comparison);
+      return;
+    default:
+      ++m_state.tryCount;
+      tellWrong(comparison);
+  }
+  if (!m_state.record.sentence) m_screen.lookUp(comparison.typedAnswer);
+  askAgain();
+}
+
+void AnswerFlow::refuseInMiniTest(const Comparison& comparison,
+                                  const MemoryTransition& transition) {
+  switch (comparison.ANScomp) {
+    case Verdict::Variant:
+      tellTolerated(comparison);
+      break;
+    case Verdict::MarkMissing:
+    case Verdict::WrongMark:
+      // A slip of the mark is forgiven here: the entry does not count.
+      m_state.tryCount = std::max(0, m_state.tryCount - 1);
+      tellMark(comparison);
+      return;
+    default:
+      m_screen.showFullAnswer(plainText(comparison.typedAnswer + notRight +
+                                        QStringLiteral("　試行数 = %1").arg(m_state.tryCount)));
+  }
+  askAgain();
+  if (transition.state == m_state.小問().記) return;
+  m_state.小問().記 = transition.state;
+  m_state.RewriteRecord();
+  m_screen.showMessage(transition.message);
+  m_screen.enableAnswerKey(true);
+}
+
+void AnswerFlow::tellTolerated(const Comparison& comparison) {
+  m_screen.showFullAnswer(plainText(comparison.typedAnswer + QStringLiteral(" も正解ですが、\n") +
+                                    answer() + QStringLiteral(" を覚えてください。")));
+}
+
+void AnswerFlow::tellMark(const Comparison& comparison) {
+  if (comparison.ANScomp == Verdict::MarkMissing) {
+    m_screen.showFullAnswer(
+        plainText(comparison.typedAnswer + notRight + u'\n' + missingMark(answer())));
+  } else {
+    tellWrong(comparison);
+  }
+  m_screen.setAnswer(comparison.typedAnswer);
+}
+
+void AnswerFlow::tellWrong(const Comparison& comparison) {
+  Comparison shown = comparison;
+  widenBlank(shown);
+  MarkedText text = plainText(shown.typedAnswer + notRight);
+  // Where something is missing the stretch lies behind what was typed: there is nothing to colour.
+  const qsizetype end = std::min<qsizetype>(shown.NGP2, shown.typedAnswer.size());
+  if (shown.NGP >= 1 && end >= shown.NGP)
+    text.spans.push_back({MarkedText::Span::Kind::Coloured, shown.NGP - 1, end - shown.NGP + 1});
+  m_screen.showFullAnswer(text);
+}
+
+void AnswerFlow::askAgain() {
+  m_screen.setAnswer(answerStart(m_state.record, m_state.POS1));
+}
+
+void AnswerFlow::guardMemoryCode() const {
+  const QChar code = m_state.record.記(m_state.POS1);
+  if (code == memoryうろ覚え || code == memory完全) return;
+  const bool first = m_state.tryCount <= 1;
+  const QString place = !first                    ? QStringLiteral("２=")
+                        : m_state.record.sentence ? QStringLiteral("=")
+                                                  : QStringLiteral("１=");
+  m_dialogs.show(QStringLiteral("MiniTest 記(POS1)") + place + code);
+}
+
+AnswerFlow::After AnswerFlow::KnownKey(bool byButton) {
+  SubQuestion& s = m_state.小問();
+  const QString text = m_state.record.text(m_state.POS1);
+  const QChar known = knownTransition(s.記);
+  if (known != s.記) {
+    s.記 = known;
+    m_state.RewriteRecord();
+    m_screen.showMessage(m_state.record.sentence
+                             ? QStringLiteral("『うろ覚え』にしました。")
+                             : QStringLiteral("『うろ覚え』にしました。『 %1 』").arg(text));
+  } else {
+    m_screen.showMessage(
+        (byButton ? QStringLiteral("「 %1」") : QStringLiteral("『 %1』")).arg(text) +
+        QStringLiteral("：記憶状態の変化なし。"));
+  }
+  m_screen.showMiniTest(MarkedText());
+  ++m_state.POS1;
+  return After::Advance;
+}
+
+void AnswerFlow::showAnswer() {
+  if (m_state.inMiniTest()) return;
+  m_state.answerShown = true;
+  m_screen.showFullAnswer(
+      plainText(QStringLiteral("正解：") +
+                (m_state.record.sentence ? sentenceAnswerLines(m_state.record)[m_state.POS1 - 1]
+                                         : m_state.record.英語)));
+}
+
+void AnswerFlow::ShowMiniTestNotice() {
+  const QChar code = m_state.小問().記;
+  const bool うろ覚え = code == memoryうろ覚え;
+  if (!うろ覚え && code != memory完全) {
+    m_screen.showMiniTest(MarkedText());
+    m_screen.enableAnswerKey(code == memory全然);
+    return;
+  }
+  const QString rules =
+      うろ覚え
+          ? QStringLiteral("１回目で正解すれば『完全』記憶に変更、％２回目で正解すれば不変、％")
+          : QStringLiteral("１、２回目で正解すれば『完全』を維持、％");
+  m_screen.enableAnswerKey(false);
+  m_screen.showFullAnswer(MarkedText());
+  m_screen.showMiniTest(
+      parseMarks(QStringLiteral("小問Ｎｏ.{%1}％記憶状態（現在『{%2}』）を変化させます。％％%3")
+                     .arg(QString::number(m_state.POS1),
+                          うろ覚え ? QStringLiteral("うろ") : QStringLiteral("完全"), rules) +
+                 QStringLiteral("２回以上間違えば『全然』に変更します。")));
+}
+
+}  // namespace tavoli

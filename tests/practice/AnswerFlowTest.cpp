@@ -1,0 +1,299 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "practice/PracticeLoop.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/RecordingScreen.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+/// A run over given records, driven by the keys of the answer box.
+class Drill {
+ public:
+  explicit Drill(const QStringList& records) {
+    conditions.memorySelect = u'5';
+    for (const QString& record : records) {
+      PracticeItem item;
+      const bool isSentence = record.startsWith(u'問');
+      item.itemEnglish = isSentence ? QStringLiteral("000010") : QStringLiteral("big");
+      item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
+      item.itemRecord = record;
+      set.append(item);
+    }
+  }
+
+  void start() {
+    loop = std::make_unique<PracticeLoop>(set, course, conditions, screen, dialogs);
+    loop->start();
+  }
+
+  void enter(const QString& typed) const { loop->enter(typed); }
+  CurrentRecord stored(int i = 1) const { return set.parsed(i); }
+
+  PracticeSet set;
+  CourseChoice course;
+  PracticeConditions conditions;
+  test::RecordingScreen screen;
+  test::ScriptedDialogs dialogs;
+  std::unique_ptr<PracticeLoop> loop;
+};
+
+/// "I am big." with the contraction "I'm " and the literal "huge" for "big", followed by another
+/// blank.
+QString sentenceWith(QChar code) {
+  return QStringLiteral("問|00") + code + QStringLiteral("009I am big.0000010101050010608") +
+         QStringLiteral("04huge^") + QStringLiteral("000004next00000000^|");
+}
+
+/// "big" with the synonym "large" and two meanings.
+QString wordWith(QChar code) {
+  return QStringLiteral("|large^|") + code + QStringLiteral("00大きい^000偉大な^|");
+}
+
+TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
+  const QString promoted = QStringLiteral("○　正解です。　『うろ覚え』にしました。");
+  const QString promotedWord = QStringLiteral("○　正解です。『うろ覚え』にしました。『 大きい 』");
+  const QString right = QStringLiteral("○　正解です。\n");
+  const QString complete = QStringLiteral("○　正解です。　『完全記憶』にしました。");
+  const QString completeVariant = QStringLiteral("◎　正解です。　『完全記憶』にしました。");
+  const QString keptUro = QStringLiteral("○　正解です。　『うろ覚えを維持』します。");
+  const QString kept = QStringLiteral("○　正解です。　『完全記憶を維持』します。");
+  const QString keptVariant = QStringLiteral("◎　正解です。　『完全記憶を維持』します。");
+  const QString fallen = QStringLiteral("『全然』に記憶状態を戻しました。");
+  // S sentence, W word; keys: r right, v accepted variant, t tolerated, w wrong, m mark missing,
+  // q wrong mark, 1 F1, K F11, T the target time passes.
+  const struct {
+    char kind;
+    QChar from;
+    const char* keys;
+    QChar to;
+    QString message;
+    bool next;
+  } rows[] = {
+      {'S', u'0', "r", u'1', promoted, true},
+      {'S', u'0', "v", u'1', promoted, true},
+      {'S', u'0', "wr", u'0', right, true},
+      {'S', u'0', "wv", u'0', QStringLiteral("◎　正解です。\n"), true},
+      {'S', u'0', "mr", u'0', right, true},
+      {'S', u'0', "qr", u'0', right, true},
+      {'S', u'0', "tr", u'0', right, true},
+      {'S', u'0', "1r", u'0', right, true},
+      {'S', u'0', "w", u'0', QString(), false},
+      {'S', u'0', "t", u'0', QString(), false},
+      {'S', u'0', "K", u'1', QStringLiteral("『うろ覚え』にしました。"), true},
+      {'W', u'0', "r", u'1', promotedWord, true},
+      {'W', u'0', "wr", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
+      {'W', u'0', "wrr", u'0', right, true},
+      {'W', u'0', "1r", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
+      {'W', u'0', "t", u'0', QString(), false},
+      {'W', u'0', "tr", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
+      {'W', u'0', "K", u'1', QStringLiteral("『うろ覚え』にしました。『 大きい 』"), true},
+      {'S', u'1', "r", u'2', complete, true},
+      {'S', u'1', "v", u'2', completeVariant, true},
+      {'S', u'1', "wr", u'1', keptUro, true},
+      {'S', u'1', "wv", u'1', keptUro, true},
+      {'S', u'1', "wt", u'1', keptUro, true},
+      {'S', u'1', "tr", u'1', keptUro, true},
+      {'S', u'1', "tt", u'1', keptUro, true},
+      {'S', u'1', "mr", u'2', complete, true},
+      {'S', u'1', "qr", u'2', complete, true},
+      {'S', u'1', "wmr", u'1', keptUro, true},
+      {'S', u'1', "w", u'1', QString(), false},
+      {'S', u'1', "ww", u'0', fallen, false},
+      {'S', u'1', "tw", u'0', fallen, false},
+      {'S', u'1', "wwr", u'0', right, true},
+      {'S', u'1', "1r", u'2', complete, true},
+      {'S', u'1', "K", u'1', QStringLiteral("『 I am big.』：記憶状態の変化なし。"), true},
+      {'W', u'1', "r", u'2', complete, true},
+      {'W', u'1', "tr", u'1', keptUro, true},
+      {'W', u'1', "tt", u'1', keptUro, true},
+      {'W', u'1', "ww", u'0', fallen, false},
+      {'S', u'2', "r", u'2', kept, true},
+      {'S', u'2', "v", u'2', keptVariant, true},
+      {'S', u'2', "wr", u'2', kept, true},
+      {'S', u'2', "wt", u'2', kept, true},
+      {'S', u'2', "ww", u'0', fallen, false},
+      {'W', u'2', "r", u'2', kept, true},
+      {'W', u'2', "K", u'2', QStringLiteral("『 大きい』：記憶状態の変化なし。"), true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::Message() << row.kind << row.from.toLatin1() << " " << row.keys);
+    const bool isSentence = row.kind == 'S';
+    Drill drill({isSentence ? sentenceWith(row.from) : wordWith(row.from), wordWith(u'0')});
+    drill.start();
+    for (const char* key = row.keys; *key != '\0'; ++key) {
+      switch (*key) {
+        case 'r':
+          drill.enter(isSentence ? QStringLiteral("I am big.") : QStringLiteral("big"));
+          break;
+        case 'v':
+          drill.enter(QStringLiteral("I'm big."));
+          break;
+        case 't':
+          drill.enter(isSentence ? QStringLiteral("I am huge.") : QStringLiteral("large"));
+          break;
+        case 'm':
+          drill.enter(QStringLiteral("I am big"));
+          break;
+        case 'q':
+          drill.enter(QStringLiteral("I am big?"));
+          break;
+        case 'w':
+          drill.enter(QStringLiteral("nonsense"));
+          break;
+        case '1':
+          drill.loop->showAnswer();
+          break;
+        default:
+          drill.loop->markKnown(false);
+      }
+    }
+    EXPECT_EQ(drill.stored().記(1), row.to);
+    EXPECT_EQ(drill.screen.message, row.message);
+    EXPECT_EQ(drill.loop->POS1(), row.next ? 2 : 1);
+    const bool judgedRight = row.next && *row.keys != 'K';
+    EXPECT_EQ(drill.stored().at(1).小問回数, !isSentence && judgedRight ? 1 : 0);
+    EXPECT_TRUE(drill.dialogs.shown.isEmpty());
+  }
+}
+
+TEST(AnswerFlowTest, OnlyOneMeaningIsPromotedAtAVisit) {
+  Drill drill({wordWith(u'0'), wordWith(u'0')});
+  drill.start();
+  drill.enter(QStringLiteral("big"));
+  drill.enter(QStringLiteral("big"));
+  EXPECT_EQ(drill.stored().記(1), memoryうろ覚え);
+  EXPECT_EQ(drill.stored().記(2), memory全然);
+  EXPECT_TRUE(drill.loop->確認中()) << "the second meaning needs one entry";
+}
+
+TEST(AnswerFlowTest, TellsWhatWasWrong) {
+  const QString notRight = QStringLiteral(" は正解ではありません。");
+  Drill drill({sentenceWith(u'0'), wordWith(u'0'), wordWith(u'0')});
+  drill.start();
+  drill.enter(QStringLiteral("I an big."));
+  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("I an big.") + notRight);
+  EXPECT_EQ(drill.screen.red, QStringLiteral("n"));
+  drill.enter(QStringLiteral("I am"));
+  EXPECT_EQ(drill.screen.red, QStringLiteral("m"))
+      << "the last of what fits, where blanks are ignored";
+  drill.enter(QStringLiteral("I am big"));
+  EXPECT_EQ(drill.screen.fullAnswer,
+            QStringLiteral("I am big") + notRight + QStringLiteral("\n終止符\".\"がありません。"));
+  EXPECT_EQ(drill.screen.answer, QStringLiteral("I am big")) << "only the mark is left to type";
+  drill.enter(QStringLiteral("I am big!"));
+  EXPECT_EQ(drill.screen.red, QStringLiteral("!"));
+  drill.enter(QStringLiteral("I am huge ."));
+  EXPECT_EQ(drill.screen.fullAnswer,
+            QStringLiteral("I am huge . も正解ですが、\nI am big. を覚えてください。"));
+  EXPECT_EQ(drill.screen.lookedUp, QString());
+  drill.enter(QStringLiteral("I am big."));
+  drill.enter(QStringLiteral("next"));
+  drill.enter(QString());
+  drill.enter(QStringLiteral("huge"));
+  EXPECT_EQ(drill.screen.lookedUp, QStringLiteral("huge"));
+  EXPECT_EQ(drill.screen.answer, QString());
+  drill.loop->showAnswer();
+  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("正解：big"));
+}
+
+TEST(AnswerFlowTest, AnnouncesAMiniTestAndWithholdsTheAnswer) {
+  Drill drill({sentenceWith(u'1'), wordWith(u'2')});
+  drill.start();
+  EXPECT_EQ(drill.screen.miniTest,
+            QStringLiteral("小問Ｎｏ.1\n記憶状態（現在『うろ』）を変化させます。\n\n"
+                           "１回目で正解すれば『完全』記憶に変更、\n２回目で正解すれば不変、\n"
+                           "２回以上間違えば『全然』に変更します。"));
+  EXPECT_FALSE(drill.screen.answerKey);
+  drill.loop->showAnswer();
+  EXPECT_EQ(drill.screen.fullAnswer, QString());
+  drill.enter(QStringLiteral("wrong"));
+  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("wrong は正解ではありません。　試行数 = 1"));
+  EXPECT_EQ(drill.screen.red, QString());
+  EXPECT_EQ(drill.screen.miniTest, QString()) << "the notice goes with the entry";
+  drill.enter(QStringLiteral("wrong"));
+  EXPECT_TRUE(drill.screen.answerKey) << "back in the learning flow";
+  drill.loop->markKnown(true);
+  drill.loop->markKnown(true);
+  drill.enter(QString());
+  EXPECT_EQ(drill.screen.miniTest,
+            QStringLiteral("小問Ｎｏ.1\n記憶状態（現在『完全』）を変化させます。\n\n"
+                           "１、２回目で正解すれば『完全』を維持、\n"
+                           "２回以上間違えば『全然』に変更します。"));
+  drill.loop->markKnown(true);
+  EXPECT_EQ(drill.screen.message, QStringLiteral("「 大きい」：記憶状態の変化なし。"));
+}
+
+TEST(AnswerFlowTest, AnEntryOfNothingNewCostsNothing) {
+  Drill drill({QStringLiteral("問|030009He is big00000000^|"), wordWith(u'1')});
+  drill.start();
+  EXPECT_EQ(drill.screen.answer, QStringLiteral("He "));
+  for (const char16_t* typed : {u"", u"He ", u"He", u"  "}) drill.enter(QString::fromUtf16(typed));
+  drill.enter(QStringLiteral("He is big"));
+  EXPECT_EQ(drill.stored().記(1), memoryうろ覚え);
+  drill.enter(QString());
+  drill.enter(QStringLiteral(" "));
+  drill.enter(QStringLiteral("big"));
+  EXPECT_EQ(drill.stored(2).記(1), memory完全);
+}
+
+TEST(AnswerFlowTest, ComparesAsChosenAndRemembersIt) {
+  Drill drill({wordWith(u'0'), wordWith(u'0')});
+  drill.conditions.compareFlag = false;
+  drill.start();
+  EXPECT_EQ(drill.screen.comparison, 0);
+  EXPECT_EQ(drill.screen.panels.value(3), QStringLiteral("比較方法 ABCDE＝abcde"));
+  drill.loop->nextComparison();
+  drill.enter(QStringLiteral("BIG"));
+  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("BIG は正解ではありません。"));
+  EXPECT_EQ(drill.conditions.compareMode, u'1');
+  for (int i = 0; i < 3; ++i) drill.loop->nextComparison();
+  EXPECT_EQ(drill.screen.comparison, 0);
+}
+
+TEST(AnswerFlowTest, GuardsACodeThatIsNoState) {
+  Drill drill({wordWith(u'7'), wordWith(u'0')});
+  drill.start();
+  drill.enter(QStringLiteral("big"));
+  EXPECT_EQ(drill.dialogs.shown, QStringList{QStringLiteral("MiniTest 記(POS1)１=7")});
+  EXPECT_EQ(drill.stored().記(1), u'7');
+}
+
+/// Keys pressed at random never reach a guard, and move a state only as the table allows.
+TEST(AnswerFlowTest, RandomKeysKeepTheRules) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  Drill drill({sentenceWith(u'0'), wordWith(u'1'), sentenceWith(u'2'), wordWith(u'0')});
+  drill.start();
+  for (int step = 0; step < 50'000; ++step) {
+    const int POS = drill.loop->POS();
+    const int POS1 = drill.loop->POS1();
+    const QChar before = drill.loop->state().record.記(POS1);
+    const auto key = random() % 8;
+    static const QStringList texts = {QStringLiteral("I am big."), QStringLiteral("I'm huge."),
+                                      QStringLiteral("big"),       QStringLiteral("large"),
+                                      QStringLiteral("I am big"),  QStringLiteral("next")};
+    if (key < 6) {
+      drill.enter(texts[static_cast<qsizetype>(key)]);
+    } else if (key == 6) {
+      drill.loop->showAnswer();
+    } else {
+      drill.loop->markKnown(step % 2 == 0);
+    }
+    if (before.isNull()) continue;
+    const QChar after = drill.stored(POS).記(POS1);
+    const int climbed = after.unicode() - before.unicode();
+    ASSERT_TRUE(climbed == 0 || climbed == 1 || after == memory全然) << "step " << step;
+    if (after == memory全然 && before != memory全然) {
+      ASSERT_EQ(drill.loop->POS1(), POS1) << "a fall asks the same again";
+    }
+    ASSERT_TRUE(drill.dialogs.shown.isEmpty()) << qPrintable(drill.dialogs.shown.first());
+  }
+}
+
+}  // namespace
+}  // namespace tavoli
