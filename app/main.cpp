@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -56,5 +58,10 @@ int main(int argc, char** argv) {
     return start(line);
   }
   const QApplication application(argc, argv);
+  // Qt's own texts: the buttons of boxes and the folder dialog.
+  QTranslator japanese;
+  if (japanese.load(QStringLiteral("qtbase_ja"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(&japanese);
   return start(line);
 }

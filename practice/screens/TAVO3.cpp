@@ -250,6 +250,7 @@ void TAVO3::showStatus(StatusPanel panel, const QString& text) {
 
 void TAVO3::awaitConfirmation(bool awaited) {
   m_answer->setReadOnly(awaited);
+  m_answer->setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。") : QString());
   if (awaited)
     m_fullAnswer->setFocus();
   else
