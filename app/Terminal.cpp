@@ -1,7 +1,5 @@
 #include "app/Terminal.h"
 
-#include <ranges>
-
 namespace tavoli {
 
 namespace {
@@ -12,10 +10,11 @@ const QString areaAnswer = QStringLiteral("回答");
 /// The text with its marks written out as the sources spell them.
 QString withMarks(const MarkedText& marked) {
   QString text = marked.text;
-  for (const MarkedText::Span& span : marked.spans | std::views::reverse) {
+  qsizetype shift = 0;
+  for (const MarkedText::Span& span : marked.spans) {
     const bool underlined = span.kind == MarkedText::Span::Kind::Underlined;
-    text.insert(span.offset + span.length, underlined ? u']' : u'}');
-    text.insert(span.offset, underlined ? u'[' : u'{');
+    text.insert(span.offset + shift++, underlined ? u'[' : u'{');
+    text.insert(span.offset + span.length + shift++, underlined ? u']' : u'}');
   }
   return text;
 }

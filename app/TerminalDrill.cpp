@@ -124,6 +124,8 @@ void TerminalDrill::press(PracticeLoop& loop, const QString& key) {
     loop.requestExit();
   } else if (key == u":F11") {
     loop.markKnown(false);
+  } else if (key == u":menu2") {
+    loop.reshuffle();
   } else if (comparisons.contains(key)) {
     loop.chooseComparison(static_cast<int>(comparisons.indexOf(key)));
   } else if (key == u":quit") {
@@ -132,7 +134,7 @@ void TerminalDrill::press(PracticeLoop& loop, const QString& key) {
     m_terminal.show(
         QStringLiteral("表示"),
         QStringLiteral("%1 というキーはありません。:F1 正解、:F6 終了、:F11 知っている、"
-                       ":menu41～:menu44 比較方法、:quit すぐ終了。")
+                       ":menu2 順不同、:menu41～:menu44 比較方法、:quit すぐ終了。")
             .arg(key));
   }
 }

@@ -4,6 +4,7 @@
 
 #include "practice/PracticeScreen.h"
 #include "system/Dialogs.h"
+#include "system/Random.h"
 
 namespace tavoli {
 
@@ -21,11 +22,13 @@ QString captionOf(const PracticeConditions& conditions) {
 }  // namespace
 
 PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
-                           PracticeConditions& conditions, PracticeScreen& screen, Dialogs& dialogs)
+                           PracticeConditions& conditions, PracticeScreen& screen, Dialogs& dialogs,
+                           Random& random)
     : m_state{set, course, conditions,
               comparisonSettings(conditions.compareMode, conditions.compareFlag)},
       m_screen(screen),
       m_dialogs(dialogs),
+      m_random(random),
       m_flow(m_state, screen, dialogs) {}
 
 void PracticeLoop::start() {
@@ -137,9 +140,14 @@ void PracticeLoop::enter(const QString& typed) {
     after(m_flow.enter(typed));
     return;
   }
+  leaveConfirmation();
+  nextQuestion();
+}
+
+void PracticeLoop::leaveConfirmation() {
+  if (!m_確認中) return;
   m_確認中 = false;
   m_screen.awaitConfirmation(false);
-  nextQuestion();
 }
 
 void PracticeLoop::showAnswer() {
@@ -164,6 +172,20 @@ void PracticeLoop::chooseComparison(int choice) {
 void PracticeLoop::nextComparison() {
   const auto choices = static_cast<int>(comparisonChoices().size());
   chooseComparison((comparisonChoiceOf(m_state.comparison) + 1) % choices);
+}
+
+void PracticeLoop::reshuffle() {
+  const bool wanted = m_dialogs.ask(QStringLiteral("問題の出題を順不同にしますか？"));
+  m_random.reseed();
+  if (!wanted) return;
+  m_screen.showStatus(StatusPanel::Order, QStringLiteral("順不同出題"));
+  if (m_state.set.startIndex == m_state.set.itemCount()) return;
+  m_state.set.reshuffle(m_random);
+  leaveConfirmation();
+  m_screen.showFullAnswer(MarkedText());
+  m_screen.showMessage(QString());
+  m_state.POS = m_state.set.startIndex;
+  if (dispPOS1()) advance();
 }
 
 void PracticeLoop::回数カウント() {

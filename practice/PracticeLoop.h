@@ -11,12 +11,14 @@ namespace tavoli {
 class Dialogs;
 class PracticeScreen;
 
+class Random;
+
 /// Asks one 小問 after the other: shows it, has the answer flow judge what was typed, and walks on
 /// through the items until the learner ends the run.
 class PracticeLoop {
  public:
   PracticeLoop(PracticeSet& set, const CourseChoice& course, PracticeConditions& conditions,
-               PracticeScreen& screen, Dialogs& dialogs);
+               PracticeScreen& screen, Dialogs& dialogs, Random& random);
 
   /// Shows the first question.
   void start();
@@ -33,6 +35,9 @@ class PracticeLoop {
   void chooseComparison(int choice);
   /// Goes on to the next choice of the four.
   void nextComparison();
+
+  /// Asks whether the questions are to come in any order, and on Yes starts over with them mixed.
+  void reshuffle();
 
   /// F6 or the window's close button: asks, and closes the screen on Yes.
   void requestExit();
@@ -64,11 +69,13 @@ class PracticeLoop {
   void dispQuestion();
   /// Shows the whole item and waits for Enter.
   void dispAnswerFull();
+  void leaveConfirmation();
   void 回数カウント();
 
   RunState m_state;
   PracticeScreen& m_screen;
   Dialogs& m_dialogs;
+  Random& m_random;
   AnswerFlow m_flow;
   bool m_確認中 = false;
   bool m_exitConfirmed = false;

@@ -40,7 +40,8 @@ bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
   }
   screen.showStatus(StatusPanel::StartTime,
                     QStringLiteral("開始時刻　") + m_clock.now().toString(QStringLiteral("HH:mm")));
-  m_loop = std::make_unique<PracticeLoop>(m_set, m_course, m_conditions, screen, m_dialogs);
+  m_loop =
+      std::make_unique<PracticeLoop>(m_set, m_course, m_conditions, screen, m_dialogs, m_random);
   m_loop->start();
   return true;
 }

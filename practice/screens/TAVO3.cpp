@@ -131,6 +131,11 @@ void TAVO3::buildLookUp(const QStringList& dictionaries) {
 }
 
 void TAVO3::buildMenus() {
+  QAction* reshuffle = menuBar()->addAction(QStringLiteral("順不同出題"));
+  reshuffle->setObjectName(QStringLiteral("menu2"));
+  connect(reshuffle, &QAction::triggered, this, [this] {
+    if (m_loop) m_loop->reshuffle();
+  });
   QMenu* menu = menuBar()->addMenu(QStringLiteral("比較方法"));
   auto* group = new QActionGroup(this);
   for (const ComparisonChoice& choice : comparisonChoices()) {

@@ -26,7 +26,7 @@ class Drill {
   }
 
   void start() {
-    loop = std::make_unique<PracticeLoop>(set, course, conditions, screen, dialogs);
+    loop = std::make_unique<PracticeLoop>(set, course, conditions, screen, dialogs, random);
     loop->start();
   }
 
@@ -38,6 +38,7 @@ class Drill {
   PracticeConditions conditions;
   test::RecordingScreen screen;
   test::ScriptedDialogs dialogs;
+  test::FakeRandom random;
   std::unique_ptr<PracticeLoop> loop;
 };
 

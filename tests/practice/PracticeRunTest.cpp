@@ -172,6 +172,24 @@ TEST_F(PracticeRunTest, ARefusedExitGoesOn) {
   EXPECT_TRUE(run->loop().exitConfirmed());
 }
 
+TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {
+  open();
+  enter(u"he is");
+  enter(u"student.");
+  dialogs.answers = {false, true};
+  run->loop().reshuffle();
+  EXPECT_TRUE(run->loop().確認中()) << "refused";
+  run->loop().reshuffle();
+  EXPECT_EQ(random.reseeded, 2);
+  EXPECT_EQ(screen.panels.value(8), QStringLiteral("順不同出題"));
+  EXPECT_FALSE(run->loop().確認中());
+  EXPECT_FALSE(screen.awaited);
+  EXPECT_EQ(run->loop().POS(), 1);
+  finish();
+  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field回数), QStringLiteral("01"))
+      << "what was learnt moved along";
+}
+
 TEST_F(PracticeRunTest, NeedsTwoItems) {
   conditions.memorySelect = u'2';
   store.close();

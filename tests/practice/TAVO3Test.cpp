@@ -25,8 +25,9 @@ TEST(TAVO3Test, DrillsWithTheKeyboardAlone) {
   PracticeConditions conditions;
   conditions.firstRepeatWord = 1;
   test::ScriptedDialogs dialogs;
+  test::FakeRandom random;
   TAVO3 window({QStringLiteral("STDIC"), QStringLiteral("JTDIC")});
-  PracticeLoop loop(set, course, conditions, window, dialogs);
+  PracticeLoop loop(set, course, conditions, window, dialogs, random);
   int closed = 0;
   window.connectTo(loop, [&] { ++closed; });
   loop.start();
