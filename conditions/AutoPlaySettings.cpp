@@ -1,0 +1,41 @@
+#include "conditions/AutoPlaySettings.h"
+
+#include <algorithm>
+
+#include "data/Schema.h"
+#include "data/Text.h"
+
+namespace tavoli {
+
+AutoPlaySettings readAutoPlaySettings(TableCursor& rsBDIC) {
+  AutoPlaySettings settings;
+  rsBDIC.Seek(SeekOp::Equal, rowAutoPlay);
+  if (rsBDIC.NoMatch()) {
+    saveAutoPlaySettings(rsBDIC, settings);
+    return settings;
+  }
+  const QString text = rsBDIC.text(field問正コ);
+  settings.autoCount = numberOf(cut(text, 1, 4));
+  settings.autoKeyTime = numberOf(cut(text, 5, 4));
+  settings.autoEnterTime = numberOf(cut(text, 9, 5));
+  settings.timeUpSound = std::clamp(numberOf(cut(text, 14, 1)), 0, 2);
+  return settings;
+}
+
+bool saveAutoPlaySettings(TableCursor& rsBDIC, const AutoPlaySettings& settings) {
+  rsBDIC.Seek(SeekOp::Equal, rowAutoPlay);
+  if (rsBDIC.NoMatch()) {
+    rsBDIC.AddNew();
+    rsBDIC.setValue(field文番, rowAutoPlay);
+    rsBDIC.setValue(field回数, QStringLiteral("67"));
+    rsBDIC.setValue(field記憶, QStringLiteral("2"));
+  } else {
+    rsBDIC.Edit();
+  }
+  rsBDIC.setValue(field問正コ, digits(settings.autoCount, 4) + digits(settings.autoKeyTime, 4) +
+                                   digits(settings.autoEnterTime, 5) +
+                                   digits(settings.timeUpSound, 1));
+  return rsBDIC.Update();
+}
+
+}  // namespace tavoli
