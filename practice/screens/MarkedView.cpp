@@ -1,6 +1,6 @@
 #include "practice/screens/MarkedView.h"
 
-#include <QGuiApplication>
+#include <QEvent>
 #include <QTextCursor>
 
 namespace tavoli {
@@ -17,23 +17,43 @@ QColor markColour(const QPalette& palette) {
 
 MarkedView::MarkedView(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
+  setFocusPolicy(Qt::TabFocus);
 }
 
 void MarkedView::setMarkedText(const MarkedText& marked, Show show) {
+  m_marked = marked;
   setPlainText(marked.text);
+  drawSpans();
+  moveCursor(show == Show::Top ? QTextCursor::Start : QTextCursor::End);
+}
+
+void MarkedView::drawSpans() {
   QTextCursor cursor(document());
-  for (const MarkedText::Span& span : marked.spans) {
+  for (const MarkedText::Span& span : m_marked.spans) {
     cursor.setPosition(static_cast<int>(span.offset));
     cursor.setPosition(static_cast<int>(span.offset + span.length), QTextCursor::KeepAnchor);
     QTextCharFormat format;
-    if (span.kind == MarkedText::Span::Kind::Underlined)
+    if (span.kind == MarkedText::Span::Kind::Underlined) {
       format.setFontUnderline(true);
-    else
+    } else {
       format.setForeground(markColour(palette()));
+      format.setFontWeight(QFont::Bold);  // for those to whom the colour says nothing
+    }
     cursor.mergeCharFormat(format);
   }
-  moveCursor(show == Show::Top ? QTextCursor::Start : QTextCursor::End);
+}
+
+QSize MarkedView::sizeOfLines(int lines) const {
+  const int line = fontMetrics().lineSpacing();
+  const int border = frameWidth() + static_cast<int>(document()->documentMargin());
+  return {8 * line, lines * line + 2 * border};
+}
+
+void MarkedView::changeEvent(QEvent* event) {
+  QTextEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) drawSpans();
 }
 
 }  // namespace tavoli

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+#include "data/MarkedText.h"
+#include "data/TableCursor.h"
+
+namespace tavoli {
+
+/// The word to look up for a click or a selection in a text. Positions count from 0; with a length
+/// of 0, `selectionStart` is the caret, and its word is the run of Latin letters around it. Of a
+/// selection it is what stands before the first character that is no Latin letter. Empty where
+/// there is no word of two letters or more.
+QString wordAt(const QString& text, int selectionStart, int selectionLength);
+
+/// Finds words in one dictionary and tells how their entries are shown. An entry never touches the
+/// record of the question.
+class LookUp {
+ public:
+  /// `dictionary` must outlive the look-up, and nobody else may move it between two steps.
+  explicit LookUp(TableCursor& dictionary) : m_dictionary(dictionary) {}
+
+  /// The entry of that key or else of the next one behind it in key order; the last entry for a key
+  /// behind all of them, and a notice where there is none. An empty text or a number shows nothing.
+  std::optional<MarkedText> find(const QString& text);
+
+  /// The entry behind the last one shown; at the end that one again. Before anything was found, the
+  /// first entry. Nothing when the dictionary is empty.
+  std::optional<MarkedText> next();
+  /// The entry before the last one shown; at the beginning that one again. When nothing is looked
+  /// for (nothing was found yet, or the last text was empty), the last entry.
+  std::optional<MarkedText> previous();
+
+ private:
+  /// Goes back from the learner's own rows and end marks, which are no entries.
+  void leaveReservedRows();
+  std::optional<MarkedText> shown();
+  MarkedText showEntry() const;
+
+  TableCursor& m_dictionary;
+  bool m_onEntry = false;  // whether the cursor stands where a look-up has put it
+  bool m_fromEnd = false;  // whether the box was emptied since the last step
+};
+
+}  // namespace tavoli

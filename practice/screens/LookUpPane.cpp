@@ -1,0 +1,96 @@
+#include "practice/screens/LookUpPane.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QToolButton>
+
+#include "practice/screens/EnglishBox.h"
+
+namespace tavoli {
+
+LookUpPane::LookUpPane(int index, const QString& heading, LookUp& dictionary, QWidget* parent)
+    : QWidget(parent),
+      m_dictionary(dictionary),
+      m_word(new EnglishBox(this)),
+      m_entry(new WordView(this)) {
+  m_word->setObjectName(QStringLiteral("Text3(%1)").arg(index));
+  m_word->setAccessibleName(heading + QStringLiteral("で調べる語"));
+  m_word->setMinimumWidth(m_word->fontMetrics().averageCharWidth() * 8);
+  m_word->installEventFilter(this);
+  connect(m_word, &QLineEdit::textChanged, this,
+          [this](const QString& text) { showResult(m_dictionary.find(text)); });
+
+  m_entry->setObjectName(QStringLiteral("RichTextBox3(%1)").arg(index));
+  m_entry->setAccessibleName(heading + QStringLiteral("の説明"));
+  m_entry->installEventFilter(this);
+  connect(m_entry, &WordView::wordClicked, this, &LookUpPane::wordClicked);
+  if (index == 1)
+    showResult(plainText(QStringLiteral("マウスでクリック又は選択した英語の説明を表示します。")));
+
+  auto* label = new QLabel(heading, this);
+  label->setObjectName(QStringLiteral("Label3(%1)").arg(index));
+  label->setTextFormat(Qt::PlainText);
+  label->setBuddy(m_word);
+  auto* row = new QHBoxLayout;
+  row->addWidget(label);
+  row->addWidget(m_word, 1);
+  row->addWidget(buildUpDown(index));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(row);
+  column->addWidget(m_entry, 1);
+}
+
+QWidget* LookUpPane::buildUpDown(int index) {
+  auto* upDown = new QWidget(this);
+  upDown->setObjectName(QStringLiteral("UpDown1(%1)").arg(index));
+  auto* row = new QHBoxLayout(upDown);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  const auto add = [&](Qt::ArrowType arrow, const QString& name, auto step) {
+    auto* button = new QToolButton(upDown);
+    button->setArrowType(arrow);
+    button->setAutoRepeat(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    connect(button, &QToolButton::clicked, this,
+            [this, step] { showResult((m_dictionary.*step)()); });
+    row->addWidget(button);
+  };
+  add(Qt::UpArrow, QStringLiteral("前の語"), &LookUp::previous);
+  add(Qt::DownArrow, QStringLiteral("次の語"), &LookUp::next);
+  return upDown;
+}
+
+void LookUpPane::setWord(const QString& word) {
+  // After stepping, the same word again leads back to its entry.
+  if (m_word->text() == word)
+    showResult(m_dictionary.find(word));
+  else
+    m_word->setText(word);
+}
+
+void LookUpPane::showResult(const std::optional<MarkedText>& entry) {
+  if (entry) m_entry->setMarkedText(*entry);
+}
+
+bool LookUpPane::keyPressed(const QObject* watched, int key) {
+  if (watched == m_entry && key == Qt::Key_F11) {
+    m_entry->pickWord();
+    return true;
+  }
+  if (watched != m_word || (key != Qt::Key_Up && key != Qt::Key_Down)) return false;
+  showResult(key == Qt::Key_Up ? m_dictionary.previous() : m_dictionary.next());
+  return true;
+}
+
+bool LookUpPane::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress &&
+      keyPressed(watched, static_cast<QKeyEvent*>(event)->key()))
+    return true;
+  return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace tavoli

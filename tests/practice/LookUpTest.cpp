@@ -1,0 +1,275 @@
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include "practice/LookUp.h"
+#include "practice/screens/LookUpPane.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+TEST(WordAtTest, FindsTheWordOfAClickOrASelection) {
+  const struct {
+    const char* name;
+    const char16_t* text;
+    int start;
+    int length;
+    const char16_t* word;
+  } cases[] = {
+      {"caret before a word", u"an apple pie", 3, 0, u"apple"},
+      {"caret inside a word", u"an apple pie", 5, 0, u"apple"},
+      {"caret on the blank behind a word", u"an apple pie", 8, 0, u"apple"},
+      {"caret behind the text", u"an apple pie", 12, 0, u"pie"},
+      {"caret at the beginning", u"an apple pie", 0, 0, u"an"},
+      {"caret on the second of two blanks", u"an  apple", 3, 0, u""},
+      {"caret between Japanese and English", u"林檎apple", 2, 0, u"apple"},
+      {"caret on Japanese behind English", u"apple林檎", 5, 0, u"apple"},
+      {"caret on Japanese", u"apple林檎", 6, 0, u""},
+      {"caret at a line break", u"apple\npie", 5, 0, u"apple"},
+      {"caret on an apostrophe", u"don't", 3, 0, u"don"},
+      {"word of one letter", u"a pie", 0, 0, u""},
+      {"digits are no letters", u"42nd", 1, 0, u""},
+      {"full-width letters are none", u"ａｐｐｌｅ", 2, 0, u""},
+      {"caret outside the text", u"pie", 99, 0, u"pie"},
+      {"empty text", u"", 0, 0, u""},
+      {"selected word", u"an apple pie", 3, 5, u"apple"},
+      {"selected part of a word", u"an apple pie", 4, 3, u"ppl"},
+      {"selected idiom is cut at its blank", u"look after it", 0, 10, u"look"},
+      {"selection that runs into Japanese", u"apple林檎", 0, 7, u"apple"},
+      {"selection that begins with a blank", u"an apple", 2, 6, u""},
+      {"selection without a letter", u"１ 林檎", 0, 4, u""},
+      {"selection of one letter", u"apple", 0, 1, u""},
+      {"selection that goes beyond the text", u"apple", 2, 99, u"ple"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(wordAt(QString::fromUtf16(c.text), c.start, c.length), QString::fromUtf16(c.word));
+  }
+}
+
+class LookUpTest : public testing::Test {
+ protected:
+  LookUpTest() {
+    for (const char16_t* key : {u"may", u"apple", u"～ or so", u"May", u"apple pie", u"café", u"3D",
+                                u"nan", u"zoo", u"zzzzzzzzzzzzzzzzzzzz2"})
+      store.addWord(tableJTDIC, QString::fromUtf16(key),
+                    test::wordRecord({QStringLiteral("意味")}));
+  }
+
+  /// The headword of a shown text; all of a text that is no entry.
+  static QString headOf(const std::optional<MarkedText>& shown) {
+    return shown ? shown->text.section(QStringLiteral("　（"), 0, 0) : QStringLiteral("(nothing)");
+  }
+
+  test::TestStore store;
+  std::unique_ptr<TableCursor> rows = store.database().OpenRecordset(tableJTDIC);
+  LookUp lookUp{*rows};
+};
+
+TEST_F(LookUpTest, FindsTheEntryAtOrBehindAText) {
+  const struct {
+    const char* name;
+    const char16_t* text;
+    const char16_t* found;
+  } cases[] = {
+      {"exact", u"apple", u"apple"},
+      {"idiom by its beginning", u"apple p", u"apple pie"},
+      {"between two entries", u"banana", u"café"},
+      {"other case", u"APPLE", u"apple"},
+      {"the asked-for one of two that differ in case", u"may", u"may"},
+      {"and the other one", u"May", u"May"},
+      {"neither of the two", u"MAY", u"May"},
+      {"symbols first", u"!", u"～ or so"},
+      {"the wave dash of an input method", u"〜 or", u"～ or so"},
+      {"number", u"12", u"(nothing)"},
+      {"signed decimal number", u"-1.5e3", u"(nothing)"},
+      {"a word that begins with a digit", u"3D", u"3D"},
+      {"a word that reads like no number", u"nan", u"nan"},
+      {"empty", u"", u"(nothing)"},
+      {"behind all entries", u"zoom", u"zoo"},
+      {"an end mark", u"zzzzzzzzzzzzzzzzzzzz1", u"zoo"},
+      {"the practice conditions", u"zzzzzzzzzzzzzzzzzzzz2", u"zoo"},
+      {"behind every row", u"zzzzzzzzzzzzzzzzzzzz3", u"zzzzzzzzzzzzzzzzzzzz3：Not found."},
+      {"Japanese", u"林檎", u"zoo"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(headOf(lookUp.find(QString::fromUtf16(c.text))), QString::fromUtf16(c.found));
+  }
+}
+
+TEST_F(LookUpTest, StepsOverAllEntriesAndStaysAtBothEnds) {
+  const QStringList entries = {
+      QStringLiteral("～ or so"),  QStringLiteral("3D"),   QStringLiteral("apple"),
+      QStringLiteral("apple pie"), QStringLiteral("café"), QStringLiteral("May"),
+      QStringLiteral("may"),       QStringLiteral("nan"),  QStringLiteral("zoo")};
+  for (const QString& entry : entries) EXPECT_EQ(headOf(lookUp.next()), entry);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(headOf(lookUp.next()), entries.last());
+  for (auto i = entries.size() - 1; i-- > 0;) EXPECT_EQ(headOf(lookUp.previous()), entries[i]);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(headOf(lookUp.previous()), entries.first());
+  EXPECT_EQ(headOf(lookUp.next()), entries[1]) << "staying does not lose the place";
+}
+
+TEST_F(LookUpTest, StepsFromWhatWasFound) {
+  const struct {
+    const char* name;
+    const char16_t* text;
+    const char16_t* previous;
+    const char16_t* next;
+  } cases[] = {
+      {"in the middle", u"banana", u"apple pie", u"May"},
+      {"between case variants", u"may", u"May", u"nan"},
+      {"at the end marks", u"zzzz", u"nan", u"zoo"},
+      {"up from an empty box leads to the end", u"", u"zoo", u"zoo"},
+      {"not found", u"zzzzzzzzzzzzzzzzzzzz3", u"zoo", u"～ or so"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    lookUp.find(QStringLiteral("nan"));
+    lookUp.find(QString::fromUtf16(c.text));
+    EXPECT_EQ(headOf(lookUp.previous()), QString::fromUtf16(c.previous));
+    lookUp.find(QStringLiteral("nan"));
+    lookUp.find(QString::fromUtf16(c.text));
+    EXPECT_EQ(headOf(lookUp.next()), QString::fromUtf16(c.next));
+  }
+  lookUp.find(QString());
+  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("zoo"));
+  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("nan")) << "then it steps on";
+}
+
+TEST_F(LookUpTest, ADictionaryWithoutEntriesShowsNone) {
+  const auto end = store.database().OpenRecordset(tableSTDIC);
+  LookUp empty(*end);
+  EXPECT_EQ(headOf(empty.next()), QStringLiteral("(nothing)"));
+  EXPECT_EQ(headOf(empty.previous()), QStringLiteral("(nothing)"));
+  EXPECT_EQ(headOf(empty.find(QStringLiteral("[a]"))), QStringLiteral("[a]：Not found."));
+}
+
+TEST_F(LookUpTest, ShowsEntriesToTheLetter) {
+  const struct {
+    const char* name;
+    const char16_t* record;
+    const char16_t* text;
+  } cases[] = {
+      {"full", u"te′st|exam^trial^|000試験^112検査^|名詞。％動詞も",
+       u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n   (exam ＝ trial )\n試験  検査  \n名詞。\n動詞も"},
+      {"without synonyms and comment", u"||200試験^|",
+       u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n試験  \n"},
+      {"marks", u"||000[試]験^|{注}意", u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n試験  \n注意"},
+      {"a meaning that stays empty ends the list", u"||000試験^000^000検査^|",
+       u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n試験  \n"},
+      {"damaged: no list", u"試験", u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n\n試験"},
+      {"damaged: torn off in a list", u"|exam^|000試験^1",
+       u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n   (exam )\n\n000試験^1"},
+      {"damaged: empty", u"", u"test　（ うろ覚え　07　ﾚﾍﾞﾙ 03 ）\n\n"},
+  };
+  store.addWord(tableJTDIC, QStringLiteral("test"), QString(), memoryうろ覚え, 3);
+  const auto writer = store.database().OpenRecordset(tableJTDIC);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    writer->Seek(SeekOp::Equal, QStringLiteral("test"));
+    writer->Edit();
+    writer->setValue(field回数, QStringLiteral("07"));
+    writer->setValue(field発同日コ, QString::fromUtf16(c.record));
+    ASSERT_TRUE(writer->Update());
+    const auto shown = lookUp.find(QStringLiteral("test"));
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->text, QString::fromUtf16(c.text));
+    if (QString::fromUtf8(c.name) == QStringLiteral("marks")) {
+      ASSERT_EQ(shown->spans.size(), 2U);
+      EXPECT_EQ(shown->spans[0].kind, MarkedText::Span::Kind::Underlined);
+      EXPECT_EQ(shown->text.mid(shown->spans[1].offset, shown->spans[1].length),
+                QStringLiteral("注"));
+    }
+  }
+}
+
+TEST_F(LookUpTest, SaysSoWhenTheFileCannotBeRead) {
+  for (int i = 0; i < 400; ++i)
+    store.addWord(tableSTDIC, QStringLiteral("word%1").arg(i), QString(500, u'x'));
+  rows.reset();
+  store.close();
+  QFile file(store.path());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  file.seek(file.size() * 3 / 4);
+  file.write(QByteArray(5'000, '\xAA'));
+  file.close();
+  store.open();
+  const auto damaged = store.database().OpenRecordset(tableSTDIC);
+  ASSERT_TRUE(damaged);
+  LookUp words(*damaged);
+  int unread = 0;
+  for (int i = 0; i < 400; ++i) {
+    const QString word = QStringLiteral("word%1").arg(i);
+    const QString head = headOf(words.find(word));
+    EXPECT_TRUE(head == word || head.startsWith(QStringLiteral("辞書を読めませんでした。")));
+    unread += head != word;
+  }
+  EXPECT_GT(unread, 0);
+  EXPECT_LT(unread, 400);
+}
+
+TEST_F(LookUpTest, PaneShowsWhatIsTypedSteppedToAndClicked) {
+  LookUpPane pane(1, QStringLiteral("中学DB"), lookUp);
+  pane.resize(400, 300);
+  pane.show();
+  auto* box = pane.findChild<QLineEdit*>(QStringLiteral("Text3(1)"));
+  auto* view = pane.findChild<WordView*>(QStringLiteral("RichTextBox3(1)"));
+  const auto head = [&] { return view->toPlainText().section(QStringLiteral("　（"), 0, 0); };
+  EXPECT_EQ(pane.findChild<QLabel*>(QStringLiteral("Label3(1)"))->text(), QStringLiteral("中学DB"));
+  EXPECT_EQ(box->accessibleName(), QStringLiteral("中学DBで調べる語"));
+  EXPECT_EQ(view->toPlainText(),
+            QStringLiteral("マウスでクリック又は選択した英語の説明を表示します。"));
+
+  QTest::keyClicks(box, QStringLiteral("app"));
+  EXPECT_EQ(head(), QStringLiteral("apple"));
+  QTest::keyClick(box, Qt::Key_Down);
+  EXPECT_EQ(head(), QStringLiteral("apple pie"));
+  const auto buttons =
+      pane.findChild<QWidget*>(QStringLiteral("UpDown1(1)"))->findChildren<QToolButton*>();
+  ASSERT_EQ(buttons.size(), 2);
+  QTest::mouseClick(buttons[1], Qt::LeftButton);
+  EXPECT_EQ(head(), QStringLiteral("café"));
+  QTest::mouseClick(buttons[0], Qt::LeftButton);
+  QTest::keyClick(box, Qt::Key_Up);
+  EXPECT_EQ(head(), QStringLiteral("apple"));
+  EXPECT_EQ(box->text(), QStringLiteral("app")) << "stepping leaves the box alone";
+
+  box->clear();
+  EXPECT_EQ(head(), QStringLiteral("apple")) << "an empty box keeps the entry on show";
+  QTest::keyClick(box, Qt::Key_0, Qt::ShiftModifier);
+  QTest::keyClick(box, '~');
+  EXPECT_EQ(box->text(), QStringLiteral("～～"));
+
+  pane.setWord(QStringLiteral("apple pie"));
+  QTest::keyClick(box, Qt::Key_Down);
+  pane.setWord(QStringLiteral("apple pie"));
+  EXPECT_EQ(head(), QStringLiteral("apple pie")) << "the same word again";
+
+  QSignalSpy words(&pane, &LookUpPane::wordClicked);
+  const auto pointAt = [&](int position) {
+    QTextCursor cursor(view->document());
+    cursor.setPosition(position);
+    return view->cursorRect(cursor).center();
+  };
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, pointAt(7));
+  QTest::mousePress(view->viewport(), Qt::LeftButton, {}, pointAt(0));
+  QTest::mouseMove(view->viewport(), pointAt(4));
+  QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, pointAt(4));
+  QTest::mouseClick(view->viewport(), Qt::RightButton, {}, pointAt(7));
+  view->moveCursor(QTextCursor::Start);
+  QTest::keyClick(view, Qt::Key_F11);
+  QStringList reported;
+  for (const QList<QVariant>& arguments : words) reported += arguments[0].toString();
+  EXPECT_EQ(reported,
+            QStringList({QStringLiteral("pie"), QStringLiteral("appl"), QStringLiteral("apple")}));
+}
+
+}  // namespace
+}  // namespace tavoli
