@@ -1,21 +1,12 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 
 #include "conditions/PracticeConditions.h"
 #include "data/LearnerFiles.h"
+#include "practice/RunClock.h"
 
 namespace tavoli {
-
-/// The clock of a run.
-struct RunClock {
-  QDateTime 開始時刻;
-  QDateTime 終了時刻;
-  /// The last moment of activity; gaps from here on count as rest.
-  QDateTime restClock;
-  int 休憩時間 = 0;  ///< seconds
-};
 
 /// What the screens share from program start to program end.
 struct Module1 {

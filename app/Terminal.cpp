@@ -105,7 +105,33 @@ void TerminalPractice::showMiniTest(const MarkedText& text) {
 }
 
 void TerminalPractice::lookUp(const QString& text) {
-  m_terminal.show(QStringLiteral("辞書"), text);
+  for (Dictionary& dictionary : m_dictionaries) {
+    if (const std::optional<MarkedText> entry = dictionary.lookUp.find(text))
+      m_terminal.show(dictionary.heading, withMarks(*entry));
+  }
+}
+
+void TerminalPractice::showTime(const AnswerTime& time) {
+  m_terminal.show(QStringLiteral("時間"),
+                  time.used >= 1 ? QStringLiteral("%1秒　時間切れ").arg(time.seconds) : QString());
+}
+
+void TerminalPractice::showLog(const QStringList& runLog, bool shown) {
+  m_terminal.show(QStringLiteral("経過"), shown ? runLog.join(u'\n') : QString());
+}
+
+void TerminalPractice::showCounts(const RunCounts& counts) {
+  QStringList parts;
+  const QStringList levels = {QStringLiteral("中学"), QStringLiteral("高校"),
+                              QStringLiteral("専門")};
+  for (size_t i = 0; i < counts.words.size(); ++i) {
+    if (counts.words[i] + counts.sentences[i] > 0)
+      parts.append(QStringLiteral("%1 単語・熟語 %2 例文 %3")
+                       .arg(levels[static_cast<qsizetype>(i)])
+                       .arg(counts.words[i])
+                       .arg(counts.sentences[i]));
+  }
+  m_terminal.show(QStringLiteral("回数"), parts.join(QStringLiteral("、")));
 }
 
 void TerminalPractice::showStatus(StatusPanel panel, const QString& text) {

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "app/Login.h"
+#include "practice/PracticeRun.h"
 #include "practice/PracticeScreen.h"
 #include "practice/PracticeSetLoader.h"
 #include "system/Dialogs.h"
@@ -61,7 +62,8 @@ class TerminalLogin final : public LoginScreen {
 /// The practice's screen in the terminal.
 class TerminalPractice final : public PracticeScreen, public LoadProgress {
  public:
-  explicit TerminalPractice(Terminal& terminal) : m_terminal(terminal) {}
+  TerminalPractice(Terminal& terminal, std::vector<Dictionary>& dictionaries)
+      : m_terminal(terminal), m_dictionaries(dictionaries) {}
 
   void showCaption(const QString& text) override;
   void showSource(const QString& text) override;
@@ -72,8 +74,12 @@ class TerminalPractice final : public PracticeScreen, public LoadProgress {
   void showMessage(const QString& text) override;
   void showMiniTest(const MarkedText& text) override;
   void lookUp(const QString& text) override;
-  void enableAnswerKey(bool) override {}
+  void enableKey(FunctionKey, bool) override {}
   void showComparison(int) override {}
+  void showTimeUpSound(int) override {}
+  void showTime(const AnswerTime& time) override;
+  void showLog(const QStringList& runLog, bool shown) override;
+  void showCounts(const RunCounts& counts) override;
   void showStatus(StatusPanel panel, const QString& text) override;
   void awaitConfirmation(bool awaited) override;
   void close() override { closed = true; }
@@ -88,6 +94,7 @@ class TerminalPractice final : public PracticeScreen, public LoadProgress {
 
  private:
   Terminal& m_terminal;
+  std::vector<Dictionary>& m_dictionaries;
   int m_loadTotal = 0;
 };
 

@@ -1,6 +1,8 @@
 #include "app/TerminalDrill.h"
 
 #include <cstdlib>
+#include <functional>
+#include <tuple>
 
 #include "app/Placement.h"
 #include "conditions/ConditionsByName.h"
@@ -88,21 +90,23 @@ void TerminalDrill::showConditions() {
 }
 
 int TerminalDrill::practise() {
-  TerminalPractice screen(m_terminal);
-  PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_files, m_clock,
-                  m_random, m_dialogs);
+  PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
+                  {m_files, m_clock, m_random, m_dialogs, m_speaker});
+  if (!run.openTables()) return EXIT_FAILURE;
+  TerminalPractice screen(m_terminal, run.dictionaries());
   if (!run.open(screen, screen)) return EXIT_FAILURE;
   drive(run.loop(), screen);
   return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-void TerminalDrill::drive(PracticeLoop& loop, const TerminalPractice& screen) {
+void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen) {
   while (!screen.closed) {
     std::optional<QString> line = m_terminal.readLine();
+    loop.tick();
     if (!line) {
       loop.exitAtOnce();
     } else if (line->startsWith(u':') && !line->startsWith(u"::")) {
-      press(loop, *line);
+      press(loop, screen, *line);
     } else {
       if (line->startsWith(u':')) line->remove(0, 1);
       line->replace(u'~', u'～');
@@ -115,28 +119,51 @@ void TerminalDrill::drive(PracticeLoop& loop, const TerminalPractice& screen) {
   }
 }
 
-void TerminalDrill::press(PracticeLoop& loop, const QString& key) {
-  const QStringList comparisons = {QStringLiteral(":menu41"), QStringLiteral(":menu42"),
-                                   QStringLiteral(":menu43"), QStringLiteral(":menu44")};
-  if (key == u":F1") {
-    loop.showAnswer();
-  } else if (key == u":F6") {
-    loop.requestExit();
-  } else if (key == u":F11") {
-    loop.markKnown(false);
-  } else if (key == u":menu2") {
-    loop.reshuffle();
-  } else if (comparisons.contains(key)) {
-    loop.chooseComparison(static_cast<int>(comparisons.indexOf(key)));
-  } else if (key == u":quit") {
-    loop.exitAtOnce();
-  } else {
-    m_terminal.show(
-        QStringLiteral("表示"),
-        QStringLiteral("%1 というキーはありません。:F1 正解、:F6 終了、:F11 知っている、"
-                       ":menu2 順不同、:menu41～:menu44 比較方法、:quit すぐ終了。")
-            .arg(key));
+void TerminalDrill::press(PracticeLoop& loop, TerminalPractice& screen, const QString& key) {
+  const QString look = QStringLiteral(":look ");
+  if (key.startsWith(look)) {
+    screen.lookUp(key.sliced(look.size()));
+    return;
   }
+  using Action = std::function<void(PracticeLoop&)>;
+  static const QList<std::tuple<QString, QString, Action>> keys = {
+      {QStringLiteral(":F1"), QStringLiteral("正解"), &PracticeLoop::showAnswer},
+      {QStringLiteral(":F2"), QStringLiteral("次小問"), &PracticeLoop::nextSubQuestion},
+      {QStringLiteral(":F3"), QStringLiteral("次問題"), &PracticeLoop::nextItem},
+      {QStringLiteral(":F4"), QStringLiteral("前問題"), &PracticeLoop::previousItem},
+      {QStringLiteral(":F6"), QStringLiteral("終了"), &PracticeLoop::requestExit},
+      {QStringLiteral(":F7"), QStringLiteral("レッスン変更"), &PracticeLoop::requestLessonChange},
+      {QStringLiteral(":F11"), QStringLiteral("知っている"),
+       [](PracticeLoop& l) { l.markKnown(false); }},
+      {QStringLiteral(":menu2"), QStringLiteral("順不同出題"), &PracticeLoop::reshuffle},
+      {QStringLiteral(":menu3"), QStringLiteral("練習経過表示"), &PracticeLoop::toggleLog},
+      {QStringLiteral(":menu41"), comparisonChoices()[0].caption,
+       [](PracticeLoop& l) { l.chooseComparison(0); }},
+      {QStringLiteral(":menu42"), comparisonChoices()[1].caption,
+       [](PracticeLoop& l) { l.chooseComparison(1); }},
+      {QStringLiteral(":menu43"), comparisonChoices()[2].caption,
+       [](PracticeLoop& l) { l.chooseComparison(2); }},
+      {QStringLiteral(":menu44"), comparisonChoices()[3].caption,
+       [](PracticeLoop& l) { l.chooseComparison(3); }},
+      {QStringLiteral(":menuTimeUp1"), QStringLiteral("音なし"),
+       [](PracticeLoop& l) { l.chooseTimeUpSound(0); }},
+      {QStringLiteral(":menuTimeUp2"), QStringLiteral("ポン"),
+       [](PracticeLoop& l) { l.chooseTimeUpSound(1); }},
+      {QStringLiteral(":menuTimeUp3"), QStringLiteral("\"Time is up.\" 発音"),
+       [](PracticeLoop& l) { l.chooseTimeUpSound(2); }},
+      {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
+  };
+  QStringList help = {QStringLiteral(":look 語 辞書を引く")};
+  for (const auto& [name, caption, action] : keys) {
+    if (name == key) {
+      action(loop);
+      return;
+    }
+    help.append(name + u' ' + caption);
+  }
+  m_terminal.show(
+      QStringLiteral("表示"),
+      QStringLiteral("%1 というキーはありません。%2").arg(key, help.join(QStringLiteral("、"))));
 }
 
 }  // namespace tavoli

@@ -8,6 +8,7 @@
 #include "app/Module1.h"
 #include "app/Terminal.h"
 #include "practice/PracticeLoop.h"
+#include "speech/Speaker.h"
 #include "system/Clock.h"
 #include "system/Files.h"
 #include "system/Random.h"
@@ -38,14 +39,15 @@ class TerminalDrill {
   void showConditions();
   int practise();
   /// Reads and passes on what the learner enters until the run has ended.
-  void drive(PracticeLoop& loop, const TerminalPractice& screen);
-  void press(PracticeLoop& loop, const QString& key);
+  void drive(PracticeLoop& loop, TerminalPractice& screen);
+  void press(PracticeLoop& loop, TerminalPractice& screen, const QString& key);
 
   Module1& m_module;
   const TerminalOptions& m_options;
   SystemClock m_clock;
   SystemRandom m_random;
   SystemFiles m_files;
+  SilentSpeaker m_speaker;
   Terminal m_terminal;
   TerminalDialogs m_dialogs;
 };

@@ -42,6 +42,7 @@ AnswerFlow::After AnswerFlow::enter(const QString& typed) {
   }
   ++m_state.tryCount;
   m_state.復習する = true;
+  m_state.FK次小問 = false;
   const Comparison comparison = COMP(m_state.record, m_state.POS1, entry, m_state.comparison);
   const MemoryTransition transition = judged(comparison);
   switch (transition.next) {
@@ -136,7 +137,7 @@ void AnswerFlow::refuseInMiniTest(const Comparison& comparison,
   m_state.小問().記 = transition.state;
   m_state.RewriteRecord();
   m_screen.showMessage(transition.message);
-  m_screen.enableAnswerKey(true);
+  m_screen.enableKey(FunctionKey::F1, true);
 }
 
 void AnswerFlow::tellTolerated(const Comparison& comparison) {
@@ -213,15 +214,14 @@ void AnswerFlow::ShowMiniTestNotice() {
   const bool うろ覚え = code == memoryうろ覚え;
   if (!うろ覚え && code != memory完全) {
     m_screen.showMiniTest(MarkedText());
-    m_screen.enableAnswerKey(code == memory全然);
+    m_screen.enableKey(FunctionKey::F1, code == memory全然);
     return;
   }
   const QString rules =
       うろ覚え
           ? QStringLiteral("１回目で正解すれば『完全』記憶に変更、％２回目で正解すれば不変、％")
           : QStringLiteral("１、２回目で正解すれば『完全』を維持、％");
-  m_screen.enableAnswerKey(false);
-  m_screen.showFullAnswer(MarkedText());
+  m_screen.enableKey(FunctionKey::F1, false);
   m_screen.showMiniTest(
       parseMarks(QStringLiteral("小問Ｎｏ.{%1}％記憶状態（現在『{%2}』）を変化させます。％％%3")
                      .arg(QString::number(m_state.POS1),

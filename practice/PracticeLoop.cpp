@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "practice/PracticeScreen.h"
+#include "speech/Speaker.h"
 #include "system/Dialogs.h"
 #include "system/Random.h"
 
@@ -22,14 +23,18 @@ QString captionOf(const PracticeConditions& conditions) {
 }  // namespace
 
 PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
-                           PracticeConditions& conditions, PracticeScreen& screen, Dialogs& dialogs,
-                           Random& random)
+                           PracticeConditions& conditions, RunClock& times,
+                           const LoopServices& services)
     : m_state{set, course, conditions,
               comparisonSettings(conditions.compareMode, conditions.compareFlag)},
-      m_screen(screen),
-      m_dialogs(dialogs),
-      m_random(random),
-      m_flow(m_state, screen, dialogs) {}
+      m_screen(services.screen),
+      m_dialogs(services.dialogs),
+      m_random(services.random),
+      m_speaker(services.speaker),
+      m_flow(m_state, services.screen, services.dialogs),
+      m_answerClock(m_state, services.clock, services.screen, services.speaker),
+      m_restTime(times, services.clock, services.screen),
+      m_report(services.month) {}
 
 void PracticeLoop::start() {
   const PracticeConditions& conditions = m_state.conditions;
@@ -39,14 +44,16 @@ void PracticeLoop::start() {
                           ? QStringLiteral("復習なし")
                           : QStringLiteral("復習は%1問ごとに").arg(conditions.reviewCycle));
   chooseComparison(comparisonChoiceOf(m_state.comparison));
+  chooseTimeUpSound(m_answerClock.timeUpSound);
   m_screen.showStatus(StatusPanel::Order,
                       conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
+  m_screen.showCounts(m_report.counts());
+  m_restTime.begin();
   m_state.POS = m_state.set.startIndex;
-  if (dispPOS1()) advance();
+  goToItem();
 }
 
 bool PracticeLoop::dispPOS1() {
-  m_state.wordShownCount = 0;
   const int itemCount = m_state.set.itemCount();
   if (m_state.POS > itemCount) {
     if (!m_dialogs.ask(QStringLiteral("最後まで終了しました。最初から再開しますか。")) &&
@@ -58,7 +65,9 @@ bool PracticeLoop::dispPOS1() {
   }
   PracticeItem& item = m_state.item();
   m_state.POS1 = 1;
+  m_state.wordShownCount = 0;
   m_state.復習する = false;
+  m_state.FK次小問 = false;
   m_state.repeatsLeft =
       item.isSentence() ? m_state.conditions.firstRepeatSent : m_state.conditions.firstRepeatWord;
   item.itemDirty = true;
@@ -67,6 +76,10 @@ bool PracticeLoop::dispPOS1() {
   m_screen.showStatus(StatusPanel::Position,
                       item.isSentence() ? position + u' ' + item.itemEnglish : position);
   return true;
+}
+
+void PracticeLoop::goToItem() {
+  if (dispPOS1()) advance();
 }
 
 bool PracticeLoop::fnNextExist() {
@@ -80,11 +93,15 @@ bool PracticeLoop::fnNextExist() {
 void PracticeLoop::advance() {
   if (fnNextExist()) {
     dispQuestion();
-    return;
+  } else if (m_state.FK次小問) {
+    // Left by F2 at its last 小問: neither shown nor counted.
+    nextQuestion();
+  } else {
+    // An item of which nothing was asked is only shown.
+    if (m_state.wordShownCount > 0) 回数カウント();
+    guardEmptyRecord();
+    dispAnswerFull();
   }
-  // An item of which nothing was asked is only shown.
-  if (m_state.wordShownCount > 0) 回数カウント();
-  dispAnswerFull();
 }
 
 void PracticeLoop::stay() {
@@ -98,9 +115,14 @@ void PracticeLoop::after(AnswerFlow::After result) {
     stay();
 }
 
+void PracticeLoop::activity() {
+  m_restTime.takeRestTime();
+}
+
 void PracticeLoop::nextQuestion() {
   ++m_state.POS;
-  if (dispPOS1()) advance();
+  m_FK前問題 = false;
+  goToItem();
 }
 
 void PracticeLoop::dispQuestion() {
@@ -108,56 +130,167 @@ void PracticeLoop::dispQuestion() {
   m_state.tryCount = 0;
   m_state.answerShown = false;
   m_state.timeOver = false;
+  m_state.FK次小問 = false;
+  m_FK前問題 = false;
+  m_state.speechKeyCount = 0;
   const PracticeItem& item = m_state.item();
   const CurrentRecord& record = m_state.record;
   const SubQuestion& s = m_state.小問();
   m_screen.showSource(sourceLabel(record, item.itemEnglish, item.itemTable, m_state.course.COURSE));
-  m_screen.showQuestion(parseMarks(record.sentence ? record.問題文 : s.日本語));
+  m_screen.showQuestion(marked(record.sentence ? record.問題文 : s.日本語));
   m_screen.showStatus(
       StatusPanel::Times,
       QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
+  // What was told of the last 小問, its answer perhaps, is not to help with this one.
+  m_screen.showFullAnswer(MarkedText());
   m_screen.setAnswer(answerStart(record, m_state.POS1));
   m_flow.ShowMiniTestNotice();
+  // A mini test has no time limit.
+  if (m_state.inMiniTest())
+    m_answerClock.clear();
+  else
+    m_answerClock.startAnswerTimer();
   m_screen.focusAnswer();
 }
 
 void PracticeLoop::dispAnswerFull() {
   m_確認中 = true;
+  for (const FunctionKey key :
+       {FunctionKey::F1, FunctionKey::F2, FunctionKey::F3, FunctionKey::F11})
+    m_screen.enableKey(key, false);
+  m_answerClock.clear();
   m_screen.showMiniTest(MarkedText());
   m_screen.setAnswer(QString());
-  m_screen.showFullAnswer(parseMarks(fullAnswerText(m_state.record)));
+  m_screen.showFullAnswer(marked(fullAnswerText(m_state.record)));
+  m_speaker.say(spokenAnswer());
   m_screen.awaitConfirmation(true);
 }
 
-void PracticeLoop::keyPressed() {
-  m_screen.showMessage(QString());
+QString PracticeLoop::spokenAnswer() const {
+  if (!m_state.record.sentence) return m_state.record.英語;
+  return sentenceAnswerLines(m_state.record).join(u' ');
 }
 
-void PracticeLoop::enter(const QString& typed) {
-  m_screen.showFullAnswer(MarkedText());
-  m_screen.showMessage(QString());
-  if (!m_確認中) {
-    after(m_flow.enter(typed));
-    return;
-  }
-  leaveConfirmation();
-  nextQuestion();
+bool PracticeLoop::tellDamage() {
+  const QString key = m_state.item().itemTable + m_state.item().itemEnglish;
+  if (m_told.contains(key)) return false;
+  m_told.insert(key);
+  return true;
+}
+
+MarkedText PracticeLoop::marked(const QString& text) {
+  MarkedText result = parseMarks(text);
+  if (result.unpaired && tellDamage())
+    m_dialogs.show(QStringLiteral("下線高輝度エラー：dispComment"));
+  return result;
+}
+
+void PracticeLoop::guardEmptyRecord() {
+  if (m_state.record.小問数 > 0 || !tellDamage()) return;
+  const QString guard = !m_state.record.sentence ? QStringLiteral("Stop32")
+                        : m_FK前問題             ? QStringLiteral("Stop321")
+                                                 : QStringLiteral("Stop31");
+  m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.item().itemEnglish);
 }
 
 void PracticeLoop::leaveConfirmation() {
   if (!m_確認中) return;
   m_確認中 = false;
+  for (const FunctionKey key :
+       {FunctionKey::F1, FunctionKey::F2, FunctionKey::F3, FunctionKey::F11})
+    m_screen.enableKey(key, true);
   m_screen.awaitConfirmation(false);
 }
 
+void PracticeLoop::emptyAreas() {
+  m_screen.showFullAnswer(MarkedText());
+  m_screen.showMessage(QString());
+}
+
+void PracticeLoop::keyPressed() {
+  m_screen.showMessage(QString());
+  ++m_state.speechKeyCount;
+  const int stopAt = m_state.inMiniTest() ? 1 : 2;
+  if (m_state.speechKeyCount == stopAt) m_speaker.stop();
+}
+
+void PracticeLoop::enter(const QString& typed) {
+  activity();
+  emptyAreas();
+  if (m_確認中) {
+    leaveConfirmation();
+    nextQuestion();
+    return;
+  }
+  const int tried = m_state.tryCount;
+  const AnswerFlow::After result = m_flow.enter(typed);
+  if (m_state.tryCount != tried) m_answerClock.stop();
+  after(result);
+}
+
+void PracticeLoop::answerBoxClicked(const QString& typed) {
+  if (m_確認中) {
+    enter(QString());
+    return;
+  }
+  if (!m_state.record.sentence || typed != answerStart(m_state.record, m_state.POS1)) return;
+  m_screen.showMessage(QString());
+  if (!m_state.inMiniTest()) m_answerClock.resume();
+}
+
 void PracticeLoop::showAnswer() {
+  activity();
   if (m_確認中) return;
   m_flow.showAnswer();
+  if (m_state.answerShown) m_speaker.say(spokenAnswer());
   stay();
 }
 
+void PracticeLoop::nextSubQuestion() {
+  activity();
+  if (m_確認中) return;
+  emptyAreas();
+  ++m_state.POS1;
+  m_state.FK次小問 = true;
+  advance();
+}
+
+void PracticeLoop::nextItem() {
+  activity();
+  if (m_確認中) return;
+  emptyAreas();
+  nextQuestion();
+}
+
+void PracticeLoop::previousItem() {
+  activity();
+  leaveConfirmation();
+  emptyAreas();
+  m_state.POS = m_state.POS > 1 ? m_state.POS - 1 : m_state.set.itemCount();
+  m_FK前問題 = true;
+  goToItem();
+}
+
 void PracticeLoop::markKnown(bool byButton) {
-  if (!m_確認中) after(m_flow.KnownKey(byButton));
+  activity();
+  if (m_確認中) return;
+  m_answerClock.stop();
+  after(m_flow.KnownKey(byButton));
+}
+
+void PracticeLoop::tick() {
+  m_answerClock.tick();
+}
+
+void PracticeLoop::toggleLog() {
+  activity();
+  m_logShown = !m_logShown;
+  m_screen.showLog(m_report.runLog(), m_logShown);
+}
+
+void PracticeLoop::chooseTimeUpSound(int choice) {
+  m_answerClock.timeUpSound = choice;
+  m_screen.showTimeUpSound(choice);
 }
 
 void PracticeLoop::chooseComparison(int choice) {
@@ -170,40 +303,65 @@ void PracticeLoop::chooseComparison(int choice) {
 }
 
 void PracticeLoop::nextComparison() {
+  activity();
   const auto choices = static_cast<int>(comparisonChoices().size());
   chooseComparison((comparisonChoiceOf(m_state.comparison) + 1) % choices);
 }
 
 void PracticeLoop::reshuffle() {
   const bool wanted = m_dialogs.ask(QStringLiteral("問題の出題を順不同にしますか？"));
+  activity();
   m_random.reseed();
   if (!wanted) return;
   m_screen.showStatus(StatusPanel::Order, QStringLiteral("順不同出題"));
   if (m_state.set.startIndex == m_state.set.itemCount()) return;
   m_state.set.reshuffle(m_random);
   leaveConfirmation();
-  m_screen.showFullAnswer(MarkedText());
-  m_screen.showMessage(QString());
+  emptyAreas();
   m_state.POS = m_state.set.startIndex;
-  if (dispPOS1()) advance();
+  goToItem();
 }
 
 void PracticeLoop::回数カウント() {
   int& times = m_state.item().itemTimes;
   times = std::min(maxTimes, times + 1);
+  m_report.finish(m_state);
+  m_screen.showCounts(m_report.counts());
+  m_screen.showLog(m_report.runLog(), m_logShown);
 }
 
 void PracticeLoop::requestExit() {
-  if (m_dialogs.ask(QStringLiteral("終了しますか？"))) {
+  const bool confirmed = m_dialogs.ask(QStringLiteral("終了しますか？"));
+  activity();
+  if (confirmed)
     exitAtOnce();
-  } else if (m_確認中) {
-    enter(QString());
+  else
+    exitRefused();
+}
+
+void PracticeLoop::requestLessonChange() {
+  const bool confirmed = m_dialogs.ask(
+      QStringLiteral("このレッスンファイルを終了して別のレッスンファイルに変更しますか"));
+  activity();
+  if (confirmed) {
+    m_backToConditions = true;
+    exitAtOnce();
+  } else {
+    exitRefused();
   }
+}
+
+void PracticeLoop::exitRefused() {
+  if (m_確認中)
+    enter(QString());
+  else
+    stay();
 }
 
 void PracticeLoop::exitAtOnce() {
   if (m_exitConfirmed) return;
   m_exitConfirmed = true;
+  m_answerClock.stop();
   m_screen.close();
 }
 

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
+#include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
 #include "practice/QuestionText.h"
+#include "practice/RunClock.h"
+#include "practice/RunReport.h"
 #include "practice/RunState.h"
 
 namespace tavoli {
@@ -11,14 +15,26 @@ namespace tavoli {
 class Dialogs;
 class PracticeScreen;
 
+class Clock;
 class Random;
+class Speaker;
+
+/// What the loop works with.
+struct LoopServices {
+  PracticeScreen& screen;
+  Dialogs& dialogs;
+  Random& random;
+  const Clock& clock;
+  Speaker& speaker;
+  MonthCounts month = {};  ///< what was counted before this run
+};
 
 /// Asks one 小問 after the other: shows it, has the answer flow judge what was typed, and walks on
 /// through the items until the learner ends the run.
 class PracticeLoop {
  public:
   PracticeLoop(PracticeSet& set, const CourseChoice& course, PracticeConditions& conditions,
-               PracticeScreen& screen, Dialogs& dialogs, Random& random);
+               RunClock& times, const LoopServices& services);
 
   /// Shows the first question.
   void start();
@@ -27,10 +43,26 @@ class PracticeLoop {
   void keyPressed();
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);
+  /// A click into the answer box, which holds `typed`: leaves the full answer when that is on show.
+  void answerBoxClicked(const QString& typed);
+
   /// F1: shows the answer of the 小問.
   void showAnswer();
+  /// F2: the next 小問, unasked.
+  void nextSubQuestion();
+  /// F3: the next item, whatever is left of this one.
+  void nextItem();
+  /// F4: the item before this one; before the first comes the last.
+  void previousItem();
   /// F11: the learner knows the 小問. `byButton` says that the button was clicked.
   void markKnown(bool byButton);
+
+  /// To be called once a second: moves the time strip, and sounds when the target time has passed.
+  void tick();
+  /// Shows or hides the run's log.
+  void toggleLog();
+  /// 0 no sound at the end of the target time, 1 a beep, 2 the spoken sentence.
+  void chooseTimeUpSound(int choice);
   /// Compares from now on as the choice says, from 0; the run's conditions keep it.
   void chooseComparison(int choice);
   /// Goes on to the next choice of the four.
@@ -41,10 +73,15 @@ class PracticeLoop {
 
   /// F6 or the window's close button: asks, and closes the screen on Yes.
   void requestExit();
+  /// F7: asks, and on Yes ends the run so that another lesson can be chosen.
+  void requestLessonChange();
   /// Ends the run without a question.
   void exitAtOnce();
 
+  /// The run is over, by F6 or F7.
   bool exitConfirmed() const { return m_exitConfirmed; }
+  /// It is over by F7: the conditions screen comes back.
+  bool backToConditions() const { return m_backToConditions; }
   /// The present item and 小問, from 1.
   int POS() const { return m_state.POS; }
   int POS1() const { return m_state.POS1; }
@@ -52,6 +89,9 @@ class PracticeLoop {
   /// The answer box holds a sentence that is to be corrected.
   bool correcting() const { return isCorrection(m_state.record); }
   const RunState& state() const { return m_state; }
+  const RunReport& report() const { return m_report; }
+  bool clockRunning() const { return m_answerClock.running(); }
+  int timeUpSound() const { return m_answerClock.timeUpSound; }
 
  private:
   /// The step after a change of item or 小問: shows the next admitted 小問, or the whole answer
@@ -60,8 +100,12 @@ class PracticeLoop {
   /// Gives the caret back to the answer box; nothing else happens.
   void stay();
   void after(AnswerFlow::After result);
+  /// What every key does first: the time since the last one may have been rest.
+  void activity();
   /// Makes POS the current item. False when the run has ended instead.
   bool dispPOS1();
+  /// Goes to POS and shows what is to be asked there.
+  void goToItem();
   /// Moves POS1 to the next 小問 whose memory state is admitted. False when none is left; POS1 then
   /// stands behind the last one.
   bool fnNextExist();
@@ -70,15 +114,33 @@ class PracticeLoop {
   /// Shows the whole item and waits for Enter.
   void dispAnswerFull();
   void leaveConfirmation();
+  void emptyAreas();
+  /// No to the question whether the run is to end.
+  void exitRefused();
   void 回数カウント();
+  /// The text with its marks taken out; tells a record whose marks do not pair once.
+  MarkedText marked(const QString& text);
+  /// A record without any 小問 is told once.
+  void guardEmptyRecord();
+  /// Whether damage of the present item is to be told: the first time only.
+  bool tellDamage();
+  QString spokenAnswer() const;
 
   RunState m_state;
   PracticeScreen& m_screen;
   Dialogs& m_dialogs;
   Random& m_random;
+  Speaker& m_speaker;
   AnswerFlow m_flow;
+  AnswerClock m_answerClock;
+  RestTime m_restTime;
+  RunReport m_report;
+  QSet<QString> m_told;  ///< keys of the items whose damage has been told
+  bool m_logShown = false;
+  bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since
   bool m_確認中 = false;
   bool m_exitConfirmed = false;
+  bool m_backToConditions = false;
 };
 
 }  // namespace tavoli

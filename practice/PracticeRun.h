@@ -3,9 +3,11 @@
 #include <memory>
 #include <optional>
 
+#include "conditions/AutoPlaySettings.h"
 #include "conditions/PracticeConditions.h"
 #include "data/LearnerFiles.h"
 #include "practice/LearningTables.h"
+#include "practice/LookUp.h"
 #include "practice/PracticeLoop.h"
 #include "practice/PracticeSet.h"
 #include "practice/PracticeSetLoader.h"
@@ -17,21 +19,40 @@ class Dialogs;
 class Files;
 class PracticeScreen;
 class Random;
+class Speaker;
+
+/// What a run works with.
+struct RunServices {
+  Files& files;
+  const Clock& clock;
+  Random& random;
+  Dialogs& dialogs;
+  Speaker& speaker;
+};
+
+/// A dictionary as it is offered for looking words up.
+struct Dictionary {
+  QString heading;
+  LookUp lookUp;
+};
 
 /// One practice run from the opening of the tables to the saving of what it changed.
 class PracticeRun {
  public:
   PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
-              PracticeConditions& conditions, Files& files, const Clock& clock, Random& random,
-              Dialogs& dialogs);
+              PracticeConditions& conditions, RunClock& times, const RunServices& services);
   ~PracticeRun();
 
-  /// Loads the set and shows the first question on `screen`. False when there is nothing to
-  /// practise; the learner has then been told, and nothing is ever saved.
+  /// Opens the learner's tables. False when that cannot be done; the learner has then been told.
+  bool openTables();
+  /// The dictionaries of the course to look words up in, from openTables() to close().
+  std::vector<Dictionary>& dictionaries() { return m_dictionaries; }
+
+  /// Loads the set and shows the first question on `screen`; the tables must be open. False when
+  /// there is nothing to practise; the learner has then been told, and nothing is ever saved.
   bool open(PracticeScreen& screen, LoadProgress& progress);
 
   PracticeLoop& loop() { return *m_loop; }
-
   /// Stores the run, once, when its end was confirmed. False when the learner gave up storing it.
   bool close();
 
@@ -39,12 +60,12 @@ class PracticeRun {
   const LearnerFiles& m_learner;
   const CourseChoice& m_course;
   PracticeConditions& m_conditions;
-  Files& m_files;
-  const Clock& m_clock;
-  Random& m_random;
-  Dialogs& m_dialogs;
+  RunClock& m_times;
+  RunServices m_services;
   std::unique_ptr<LearningTables> m_tables;
+  std::vector<Dictionary> m_dictionaries;
   PracticeSet m_set;
+  AutoPlaySettings m_settings;
   std::unique_ptr<PracticeLoop> m_loop;
 };
 

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <array>
 
 #include "data/MarkedText.h"
+#include "progress/MonthCounts.h"
 
 namespace tavoli {
 
@@ -16,6 +20,24 @@ enum class StatusPanel {
   ElapsedTime = 6,
   Times = 7,
   Order = 8
+};
+
+/// The function keys of the practice; each is a button too.
+enum class FunctionKey { F1 = 1, F2 = 2, F3 = 3, F4 = 4, F6 = 6, F7 = 7, F11 = 11 };
+
+/// What the time strip shows.
+struct AnswerTime {
+  bool running = false;  ///< false: the strip is empty
+  int seconds = 0;       ///< since the question was put
+  double used = 0;       ///< share of the target time that has passed, 0 to 1
+};
+
+/// How many questions were finished in this run and this month, by the level of the item: 中学,
+/// 高校, 専門.
+struct RunCounts {
+  std::array<int, 3> words{};
+  std::array<int, 3> sentences{};
+  MonthCounts month;
 };
 
 /// What the practice asks of whatever shows it: a window, a terminal, a test.
@@ -35,10 +57,15 @@ class PracticeScreen {
   virtual void showMiniTest(const MarkedText& text) = 0;
   /// Puts a text into the look-up boxes.
   virtual void lookUp(const QString& text) = 0;
-  /// Whether F1, the answer on demand, can be used.
-  virtual void enableAnswerKey(bool enabled) = 0;
+  virtual void enableKey(FunctionKey key, bool enabled) = 0;
   /// Marks one of comparisonChoices(), from 0, as the chosen one.
   virtual void showComparison(int choice) = 0;
+  /// Marks a time-up sound as the chosen one: 0 none, 1 a beep, 2 the spoken sentence.
+  virtual void showTimeUpSound(int choice) = 0;
+  virtual void showTime(const AnswerTime& time) = 0;
+  /// The run's log, all lines of it, and whether it is on show.
+  virtual void showLog(const QStringList& runLog, bool shown) = 0;
+  virtual void showCounts(const RunCounts& counts) = 0;
   virtual void showStatus(StatusPanel panel, const QString& text) = 0;
   /// True: the full answer is on show and Enter is awaited. False: the answer box takes typing.
   virtual void awaitConfirmation(bool awaited) = 0;

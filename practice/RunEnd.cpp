@@ -53,15 +53,18 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
 RunEnd::RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs)
     : m_learner(learner), m_files(files), m_clock(clock), m_dialogs(dialogs) {}
 
-bool RunEnd::closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set, int POS,
-                      const CourseChoice& course, PracticeConditions& conditions) {
+bool RunEnd::closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set,
+                      const RunResult& run) {
+  PracticeConditions& conditions = run.conditions;
   conditions.firstEnglish = startEntry(set.item(set.startIndex));
-  conditions.lastEnglish = startEntry(set.item(std::clamp(POS, 1, set.itemCount())));
+  conditions.lastEnglish = startEntry(set.item(std::clamp(run.POS, 1, set.itemCount())));
   const auto writeAll = [&] {
     m_complaints.clear();
     for (int i = 1; i <= set.itemCount(); ++i)
       if (set.item(i).itemDirty && !WriteBackItem(*tables, set.item(i))) return false;
-    return saveConditions(tables->rsTDIC(1), conditions) && saveCourse(tables->rsBDIC(), course);
+    return saveConditions(tables->rsTDIC(1), conditions) &&
+           saveCourse(tables->rsBDIC(), run.course) &&
+           saveAutoPlaySettings(tables->rsBDIC(), run.settings);
   };
   while (!tables->database().write(writeAll)) {
     if (!m_dialogs.ask(
@@ -73,12 +76,12 @@ bool RunEnd::closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set, 
   tables.reset();
   for (const QString& complaint : std::as_const(m_complaints)) m_dialogs.show(complaint);
   if (!appendPastConditions(m_files, m_learner.condFileWork,
-                            pastConditionsLine(m_clock.now().date(), course, conditions))) {
+                            pastConditionsLine(m_clock.now().date(), run.course, conditions))) {
     m_dialogs.show(
         QStringLiteral("%1 に今回の練習条件を追加できませんでした。練習結果は保存しました。")
             .arg(m_learner.condFileWork));
   }
-  if (m_learner.placedElsewhere) copyHome();
+  if (m_learner.placedElsewhere) copyHome(run.backToConditions);
   return true;
 }
 
@@ -126,7 +129,7 @@ bool RunEnd::updateDictionaryRow(TableCursor& rows, const PracticeItem& item) {
   return rows.Update();
 }
 
-void RunEnd::copyHome() {
+void RunEnd::copyHome(bool keepTexts) {
   const auto carry = [&](const QString& work, const QString& placed) {
     return !m_files.exists(work) || m_files.copy(work, placed) == FileResult::Ok;
   };
@@ -136,6 +139,7 @@ void RunEnd::copyHome() {
   if (home) {
     // The two texts are fetched anew at the next login; the database stays as the working copy.
     m_files.setModified(m_learner.dbFileWork, m_files.modified(m_learner.dbFilePlaced));
+    if (keepTexts) return;
     m_files.remove(m_learner.historyFileWork);
     m_files.remove(m_learner.condFileWork);
     return;

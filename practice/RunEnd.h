@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "conditions/AutoPlaySettings.h"
 #include "conditions/PracticeConditions.h"
 #include "data/LearnerFiles.h"
 #include "practice/LearningTables.h"
@@ -23,22 +24,31 @@ struct ItemState {
 };
 ItemState itemState(const CurrentRecord& record, const QString& key);
 
+/// How a run ended.
+struct RunResult {
+  int POS;  ///< where
+  const CourseChoice& course;
+  PracticeConditions& conditions;
+  const AutoPlaySettings& settings;
+  /// Another lesson is to follow: the working texts stay.
+  bool backToConditions = false;
+};
+
 /// Stores what a run has changed when it is over.
 class RunEnd {
  public:
   RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs);
 
-  /// Writes all shown items, the conditions and the course in one transaction, closes the tables,
-  /// adds to the past conditions and carries the files home where they are placed elsewhere. `POS`
-  /// is where the run ended. When the tables cannot be written the learner may try again; false
-  /// when nothing was stored in the end.
-  bool closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set, int POS,
-                const CourseChoice& course, PracticeConditions& conditions);
+  /// Writes all shown items, the conditions, the course and the settings in one transaction, closes
+  /// the tables, adds to the past conditions and carries the files home where they are placed
+  /// elsewhere. When the tables cannot be written the learner may try
+  /// again; false when nothing was stored in the end.
+  bool closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set, const RunResult& run);
 
  private:
   bool WriteBackItem(LearningTables& tables, PracticeItem& item);
   bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
-  void copyHome();
+  void copyHome(bool keepTexts);
 
   const LearnerFiles& m_learner;
   Files& m_files;

@@ -24,6 +24,8 @@ struct RunState {
   bool answerShown = false;  ///< F1 was used on this 小問
   bool timeOver = false;     ///< the target time has passed on this 小問
   bool 復習する = false;     ///< the item was really answered
+  bool FK次小問 = false;     ///< the last 小問 was left by F2, and nothing was answered since
+  int speechKeyCount = 0;  ///< keys since the 小問 was shown; the voice stops at one of the first
 
   PracticeItem& item() { return set.item(POS); }
   SubQuestion& 小問() { return record.at(POS1); }

@@ -72,18 +72,24 @@ void WindowFlow::showConditions() {
 void WindowFlow::startPractice() {
   m_module.clock.休憩時間 = 0;
   m_module.clock.restClock = m_clock.now();
-  m_tavo3 = std::make_unique<TAVO3>(prWhichTable(m_module.course));
-  m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
-  m_run = std::make_unique<PracticeRun>(m_module.learner, m_module.course, m_module.conditions,
-                                        m_files, m_clock, m_random, m_dialogs);
-  TAVO7 progress(m_tavo2.get());
-  if (!m_run->open(*m_tavo3, progress)) {
+  m_tavo3.reset();
+  m_run = std::make_unique<PracticeRun>(
+      m_module.learner, m_module.course, m_module.conditions, m_module.clock,
+      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker});
+  if (!m_run->openTables()) {
     m_run.reset();
-    m_tavo3.reset();
     return;
   }
-  m_module.clock.開始時刻 = m_clock.now();
-  m_module.clock.restClock = m_module.clock.開始時刻;
+  m_tavo3 = std::make_unique<TAVO3>(m_module.conditions);
+  m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
+  for (Dictionary& dictionary : m_run->dictionaries())
+    m_tavo3->addLookUp(dictionary.heading, dictionary.lookUp);
+  TAVO7 progress(m_tavo2.get());
+  if (!m_run->open(*m_tavo3, progress)) {
+    m_tavo3.reset();
+    m_run.reset();
+    return;
+  }
   m_tavo3->connectTo(m_run->loop(), [this] { endPractice(); });
   m_tavo3->show();
   m_tavo2->hide();
@@ -93,7 +99,9 @@ void WindowFlow::endPractice() {
   QApplication::setOverrideCursor(Qt::WaitCursor);
   const bool stored = m_run->close();
   QApplication::restoreOverrideCursor();
-  if (stored)
+  if (m_run->loop().backToConditions())
+    showConditions();
+  else if (stored)
     QApplication::quit();
   else
     leave();

@@ -11,6 +11,7 @@
 #include "practice/PracticeRun.h"
 #include "practice/screens/TAVO3.h"
 #include "progress/screens/TAVOstate.h"
+#include "speech/Speaker.h"
 #include "system/Clock.h"
 #include "system/Files.h"
 #include "system/Random.h"
@@ -37,6 +38,7 @@ class WindowFlow {
   SystemFiles m_files;
   SystemClock m_clock;
   SystemRandom m_random;
+  SilentSpeaker m_speaker;
   MessageBoxes m_dialogs;
   std::unique_ptr<TAVO1> m_tavo1;
   std::unique_ptr<Login> m_login;

@@ -1,13 +1,26 @@
 #include "practice/screens/TAVO3.h"
 
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QStatusBar>
 
+#include <chrono>
+#include <utility>
+
+#include "conditions/screens/TAVO5.h"
 #include "practice/PracticeLoop.h"
+#include "practice/screens/AnswerBox.h"
+#include "practice/screens/CountsFrame.h"
+#include "practice/screens/LogView.h"
+#include "practice/screens/LookUpPane.h"
+#include "practice/screens/PracticeKeys.h"
+#include "practice/screens/PracticeMenus.h"
+#include "practice/screens/StatusPanels.h"
+#include "practice/screens/TextMenu.h"
+#include "practice/screens/TimeStrip.h"
+#include "practice/screens/WordView.h"
 
 namespace tavoli {
 
@@ -18,188 +31,157 @@ QFont scaled(QFont font, double factor) {
   return font;
 }
 
-/// Fixed pitch, so that a missing blank shows.
-QFont answerFont(const QFont& like) {
-  QFont font(QStringList{QStringLiteral("ＭＳ ゴシック"), QStringLiteral("IPAGothic"),
-                         QStringLiteral("monospace")});
-  font.setStyleHint(QFont::Monospace);
-  font.setPointSizeF(like.pointSizeF());
-  return font;
-}
-
-/// The keys that type "～" in English: the one that gives "~", and Shift with 0.
-bool isWaveKey(const QKeyEvent& event) {
-  constexpr quint32 scanCodeOf0 = 19;  // of X11 and Wayland, whatever Shift makes of the key
-  const bool shift0 = event.modifiers().testFlag(Qt::ShiftModifier) &&
-                      (event.key() == Qt::Key_0 || event.nativeScanCode() == scanCodeOf0);
-  return shift0 || event.text() == u"~";
+QSplitter* splitter(Qt::Orientation orientation, QWidget* parent) {
+  auto* made = new QSplitter(orientation, parent);
+  made->setChildrenCollapsible(false);
+  return made;
 }
 
 }  // namespace
 
-TAVO3::TAVO3(const QStringList& dictionaries, QWidget* parent) : QMainWindow(parent) {
+TAVO3::TAVO3(PracticeConditions& conditions, QWidget* parent)
+    : QMainWindow(parent), m_conditions(conditions) {
   setCentralWidget(new QWidget(this));
   buildAreas();
   buildAnswer();
-  buildButtons();
-  buildLookUp(dictionaries);
+  m_lookUps = splitter(Qt::Horizontal, this);
+  m_keys =
+      new PracticeKeys([this](FunctionKey key, bool byButton) { pressKey(key, byButton); }, this);
+  m_status = new StatusPanels(
+      [this] {
+        if (loop()) loop()->nextComparison();
+      },
+      this);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(m_status, 1);
   buildMenus();
-  buildStatus();
   arrange();
-  setMinimumSize(640, 480);
+  m_textMenu = new TextMenu(this);
+  m_textMenu->serve(this);
+  connect(&m_seconds, &QTimer::timeout, this, [this] {
+    if (loop()) loop()->tick();
+  });
 }
 
 void TAVO3::buildAreas() {
   m_source = new QLabel(this);
   m_source->setObjectName(QStringLiteral("Label1"));
-  m_question = new MarkedView(this);
+  m_time = new TimeStrip(this);
+  m_time->setObjectName(QStringLiteral("Picture1"));
+  m_question = new WordView(this);
   m_question->setObjectName(QStringLiteral("RichTextBox4"));
   m_question->setAccessibleName(QStringLiteral("問題"));
   m_question->setFont(scaled(font(), 1.5));
-  m_question->setFocusPolicy(Qt::NoFocus);
+  m_counts = new CountsFrame(this);
+  m_counts->setObjectName(QStringLiteral("Frame1"));
+  m_counts->hide();
 
+  m_answer = new AnswerBox(this);
   m_message = new QLabel(this);
   m_message->setObjectName(QStringLiteral("RichTextBox5"));
   m_message->setTextFormat(Qt::PlainText);
   m_message->setWordWrap(true);
   m_message->setFont(scaled(font(), 1.2));
-  m_message->setMinimumHeight(m_message->fontMetrics().height() * 2);
+  m_message->setMinimumHeight(m_message->fontMetrics().lineSpacing() * 2);
   m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
-  m_fullAnswer = new MarkedView(this);
+  m_fullAnswer = new WordView(this);
   m_fullAnswer->setObjectName(QStringLiteral("RichTextBox2"));
   m_fullAnswer->setAccessibleName(QStringLiteral("正解と説明"));
   m_fullAnswer->setFont(scaled(font(), 1.3));
   m_fullAnswer->installEventFilter(this);
-
   m_miniTest = new MarkedView(this);
   m_miniTest->setObjectName(QStringLiteral("RichTextBox6"));
   m_miniTest->setAccessibleName(QStringLiteral("小試験"));
-  m_miniTest->setFocusPolicy(Qt::NoFocus);
   m_miniTest->hide();
+  m_log = new LogView(this);
+  for (const WordView* area : {m_question, m_fullAnswer})
+    connect(area, &WordView::wordClicked, this, &TAVO3::lookUp);
+  connect(m_log, &LogView::wordClicked, this, &TAVO3::lookUp);
 }
 
 void TAVO3::buildAnswer() {
-  m_answer = new QLineEdit(this);
   m_answer->setObjectName(QStringLiteral("Text2"));
   m_answer->setAccessibleName(QStringLiteral("回答"));
-  m_answer->setFont(answerFont(scaled(font(), 1.5)));
-  m_answer->setAttribute(Qt::WA_InputMethodEnabled, false);
-  m_answer->installEventFilter(this);
-}
-
-QPushButton* TAVO3::button(int index, const QString& caption, const QString& tip,
-                           std::function<void(PracticeLoop&)> pressed) {
-  auto* made = new QPushButton(caption, this);
-  made->setObjectName(QStringLiteral("Command1(%1)").arg(index));
-  made->setToolTip(tip);
-  made->setFocusPolicy(Qt::NoFocus);
-  connect(made, &QPushButton::clicked, this, [this, pressed = std::move(pressed)] {
-    if (m_loop) pressed(*m_loop);
+  connect(m_answer, &AnswerBox::keyArrived, this, [this] {
+    if (loop()) loop()->keyPressed();
   });
-  m_buttons.append(made);
-  return made;
-}
-
-void TAVO3::buildButtons() {
-  m_answerButton = button(0, QStringLiteral("正解F1(&Z)"),
-                          QStringLiteral("F1 ｷｰ又は Ａlt ｷｰ ＋ Z ｷｰで正解を表示します。"),
-                          [](PracticeLoop& loop) { loop.showAnswer(); });
-  button(10, QStringLiteral("知っているF11(&L)"), QString(),
-         [](PracticeLoop& loop) { loop.markKnown(true); });
-  button(5, QStringLiteral("終了 F6"), QString(), [](PracticeLoop& loop) { loop.requestExit(); });
-}
-
-void TAVO3::buildLookUp(const QStringList& dictionaries) {
-  m_lookUpRow = new QWidget(this);
-  auto* row = new QHBoxLayout(m_lookUpRow);
-  row->setContentsMargins(0, 0, 0, 0);
-  for (const QString& name : dictionaries) {
-    auto* heading = new QLabel(name, m_lookUpRow);
-    auto* box = new QLineEdit(m_lookUpRow);
-    const auto index = m_lookUps.size();
-    heading->setObjectName(QStringLiteral("Label3(%1)").arg(index));
-    box->setObjectName(QStringLiteral("Text3(%1)").arg(index));
-    box->setAccessibleName(name);
-    box->setAttribute(Qt::WA_InputMethodEnabled, false);
-    box->installEventFilter(this);
-    heading->setBuddy(box);
-    row->addWidget(heading);
-    row->addWidget(box, 1);
-    m_lookUps.append(box);
-  }
+  connect(m_answer, &AnswerBox::entered, this, [this] {
+    if (loop()) loop()->enter(m_answer->text());
+  });
+  connect(m_answer, &AnswerBox::clicked, this, &TAVO3::answerClicked);
 }
 
 void TAVO3::buildMenus() {
-  QAction* reshuffle = menuBar()->addAction(QStringLiteral("順不同出題"));
-  reshuffle->setObjectName(QStringLiteral("menu2"));
-  connect(reshuffle, &QAction::triggered, this, [this] {
-    if (m_loop) m_loop->reshuffle();
+  m_menus = new PracticeMenus(*menuBar());
+  connect(m_menus, &PracticeMenus::repeatsWanted, this, &TAVO3::setRepeats);
+  connect(m_menus, &PracticeMenus::reshuffleWanted, this, [this] {
+    if (loop()) loop()->reshuffle();
   });
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("比較方法"));
-  auto* group = new QActionGroup(this);
-  for (const ComparisonChoice& choice : comparisonChoices()) {
-    QAction* action = menu->addAction(choice.caption);
-    const auto index = static_cast<int>(m_comparisons.size());
-    action->setObjectName(QStringLiteral("menu4%1").arg(index + 1));
-    action->setCheckable(true);
-    group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, index] {
-      if (m_loop) m_loop->chooseComparison(index);
-    });
-    m_comparisons.append(action);
-  }
-}
-
-void TAVO3::buildStatus() {
-  for (int i = 0; i < panelCount; ++i) {
-    auto* panel = new QLabel(this);
-    panel->setObjectName(QStringLiteral("StatusBar1.Panel%1").arg(i + 1));
-    panel->hide();
-    statusBar()->addWidget(panel);
-    m_panels[static_cast<size_t>(i)] = panel;
-  }
-  QLabel* comparison = m_panels[static_cast<size_t>(StatusPanel::Comparison) - 1];
-  comparison->setToolTip(QStringLiteral("クリックすると比較方法が変わります。"));
-  comparison->setCursor(Qt::PointingHandCursor);
-  comparison->installEventFilter(this);
+  connect(m_menus, &PracticeMenus::logToggled, this, [this] {
+    if (loop()) loop()->toggleLog();
+  });
+  connect(m_menus, &PracticeMenus::countsToggled, m_counts, &QWidget::setVisible);
+  connect(m_menus, &PracticeMenus::comparisonChosen, this, [this](int choice) {
+    if (loop()) loop()->chooseComparison(choice);
+  });
+  connect(m_menus, &PracticeMenus::timeUpSoundChosen, this, [this](int choice) {
+    if (loop()) loop()->chooseTimeUpSound(choice);
+  });
 }
 
 void TAVO3::arrange() {
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_source);
+  head->addWidget(m_time, 1);
+  auto* questionRow = new QHBoxLayout;
+  questionRow->addWidget(m_question, 1);
+  questionRow->addWidget(m_counts, 0, Qt::AlignTop);
   auto* label = new QLabel(QStringLiteral("回答"), this);
   label->setObjectName(QStringLiteral("Label2"));
   label->setBuddy(m_answer);
   auto* answerRow = new QHBoxLayout;
   answerRow->addWidget(label);
   answerRow->addWidget(m_answer, 1);
-  auto* explanations = new QHBoxLayout;
-  explanations->addWidget(m_fullAnswer, 3);
-  explanations->addWidget(m_miniTest, 2);
-  auto* buttons = new QHBoxLayout;
-  for (QPushButton* made : std::as_const(m_buttons)) buttons->addWidget(made);
-  buttons->insertStretch(static_cast<int>(m_buttons.size()) - 1, 1);
+
+  auto* rows = splitter(Qt::Vertical, this);
+  auto* asking = new QWidget(rows);
+  auto* askingColumn = new QVBoxLayout(asking);
+  askingColumn->setContentsMargins(0, 0, 0, 0);
+  askingColumn->addLayout(questionRow, 1);
+  askingColumn->addLayout(answerRow);
+  askingColumn->addWidget(m_message);
+  auto* explanations = splitter(Qt::Horizontal, rows);
+  for (QWidget* area : std::initializer_list<QWidget*>{m_fullAnswer, m_miniTest, m_log}) {
+    explanations->addWidget(area);
+    explanations->setStretchFactor(explanations->indexOf(area), 1);
+  }
+  rows->addWidget(m_lookUps);
+  rows->setStretchFactor(0, 3);
+  rows->setStretchFactor(1, 4);
+  rows->setStretchFactor(2, 3);
 
   auto* column = new QVBoxLayout(centralWidget());
-  column->addWidget(m_source);
-  column->addWidget(m_question, 3);
-  column->addLayout(answerRow);
-  column->addWidget(m_message);
-  column->addLayout(explanations, 4);
-  column->addWidget(m_lookUpRow);
-  column->addLayout(buttons);
-  // Along the way of the eyes; buttons take no focus.
-  QWidget* before = m_answer;
-  setTabOrder(before, m_fullAnswer);
-  before = m_fullAnswer;
-  for (QLineEdit* box : std::as_const(m_lookUps)) {
-    setTabOrder(before, box);
-    before = box;
-  }
+  column->addLayout(head);
+  column->addWidget(rows, 1);
+  column->addWidget(m_keys);
+}
+
+void TAVO3::addLookUp(const QString& heading, LookUp& dictionary) {
+  auto* pane = new LookUpPane(static_cast<int>(m_panes.size()), heading, dictionary, m_lookUps);
+  connect(pane, &LookUpPane::wordClicked, this, &TAVO3::lookUp);
+  m_textMenu->serve(pane);
+  m_panes.append(pane);
 }
 
 void TAVO3::connectTo(PracticeLoop& loop, std::function<void()> closed) {
   m_loop = &loop;
   m_closed = std::move(closed);
+  m_seconds.start(std::chrono::seconds(1));
+}
+
+PracticeLoop* TAVO3::loop() const {
+  return m_loop && !m_loop->exitConfirmed() ? m_loop : nullptr;
 }
 
 void TAVO3::showCaption(const QString& text) {
@@ -236,26 +218,43 @@ void TAVO3::showMiniTest(const MarkedText& text) {
 }
 
 void TAVO3::lookUp(const QString& text) {
-  for (QLineEdit* box : std::as_const(m_lookUps)) box->setText(text);
+  for (LookUpPane* pane : std::as_const(m_panes)) pane->setWord(text);
 }
 
-void TAVO3::enableAnswerKey(bool enabled) {
-  m_answerButton->setEnabled(enabled);
+void TAVO3::enableKey(FunctionKey key, bool enabled) {
+  m_keys->enableKey(key, enabled);
 }
 
 void TAVO3::showComparison(int choice) {
-  m_comparisons[choice]->setChecked(true);
+  m_menus->checkComparison(choice);
+}
+
+void TAVO3::showTimeUpSound(int choice) {
+  m_menus->checkTimeUpSound(choice);
+}
+
+void TAVO3::showTime(const AnswerTime& time) {
+  m_time->showTime(time);
+}
+
+void TAVO3::showLog(const QStringList& runLog, bool shown) {
+  m_log->showLog(runLog, shown);
+  m_menus->checkLog(shown);
+}
+
+void TAVO3::showCounts(const RunCounts& counts) {
+  m_counts->showCounts(counts);
 }
 
 void TAVO3::showStatus(StatusPanel panel, const QString& text) {
-  QLabel* label = m_panels[static_cast<size_t>(panel) - 1];
-  label->setText(text);
-  label->setVisible(!text.isEmpty());
+  m_status->showStatus(panel, text);
 }
 
 void TAVO3::awaitConfirmation(bool awaited) {
   m_answer->setReadOnly(awaited);
   m_answer->setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。") : QString());
+  // While an answer is typed, a click on a word of the area leaves the caret in the answer box.
+  m_fullAnswer->setFocusPolicy(awaited ? Qt::StrongFocus : Qt::TabFocus);
   if (awaited)
     m_fullAnswer->setFocus();
   else
@@ -263,6 +262,7 @@ void TAVO3::awaitConfirmation(bool awaited) {
 }
 
 void TAVO3::close() {
+  m_seconds.stop();
   // Whoever asked for the end may still be at work with this window.
   QMetaObject::invokeMethod(
       this,
@@ -275,61 +275,57 @@ void TAVO3::close() {
 
 void TAVO3::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (m_loop && !m_loop->exitConfirmed()) m_loop->requestExit();
+  if (loop()) loop()->requestExit();
 }
 
-bool TAVO3::functionKey(int key) {
-  if (!m_loop || m_loop->exitConfirmed()) return false;
+void TAVO3::pressKey(FunctionKey key, bool byButton) {
+  PracticeLoop* drill = loop();
+  if (!drill) return;
   switch (key) {
-    case Qt::Key_F1:
-      m_loop->showAnswer();
-      return true;
-    case Qt::Key_F6:
-      m_loop->requestExit();
-      return true;
-    case Qt::Key_F11:
-      m_loop->markKnown(false);
-      return true;
-    default:
-      return false;
+    case FunctionKey::F1:
+      return drill->showAnswer();
+    case FunctionKey::F2:
+      return drill->nextSubQuestion();
+    case FunctionKey::F3:
+      return drill->nextItem();
+    case FunctionKey::F4:
+      return drill->previousItem();
+    case FunctionKey::F6:
+      return drill->requestExit();
+    case FunctionKey::F7:
+      return drill->requestLessonChange();
+    case FunctionKey::F11:
+      return drill->markKnown(byButton);
   }
 }
 
 void TAVO3::keyPressEvent(QKeyEvent* event) {
-  if (!functionKey(event->key())) QMainWindow::keyPressEvent(event);
+  if (!m_keys->press(event->key())) QMainWindow::keyPressEvent(event);
 }
 
 bool TAVO3::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonRelease && m_loop &&
-      watched == m_panels[static_cast<size_t>(StatusPanel::Comparison) - 1]) {
-    m_loop->nextComparison();
-    return true;
-  }
-  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
-  const auto& pressed = *static_cast<QKeyEvent*>(event);
-  const bool isEnter = pressed.key() == Qt::Key_Return || pressed.key() == Qt::Key_Enter;
-  if (watched == m_fullAnswer && isEnter) {
-    pressEnter();
-    return true;
-  }
-  if (auto* box = qobject_cast<QLineEdit*>(watched)) return answerKeyPressed(box, pressed);
-  return QMainWindow::eventFilter(watched, event);
-}
-
-bool TAVO3::answerKeyPressed(QLineEdit* box, const QKeyEvent& event) {
-  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (box == m_answer && isEnter) {
-    pressEnter();
-    return true;
-  }
-  if (box == m_answer && m_loop && !event.text().isEmpty()) m_loop->keyPressed();
-  if (!isWaveKey(event)) return false;
-  if (!box->isReadOnly()) box->insert(QStringLiteral("～"));
+  if (watched != m_fullAnswer || event->type() != QEvent::KeyPress)
+    return QMainWindow::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const bool confirming = loop() && loop()->確認中();
+  if (confirming && (key == Qt::Key_Up || key == Qt::Key_Down)) return true;
+  if (key != Qt::Key_Return && key != Qt::Key_Enter)
+    return QMainWindow::eventFilter(watched, event);
+  if (confirming)
+    loop()->enter(QString());
+  else
+    m_answer->setFocus();
   return true;
 }
 
-void TAVO3::pressEnter() {
-  if (m_loop && !m_loop->exitConfirmed()) m_loop->enter(m_answer->text());
+void TAVO3::answerClicked() {
+  if (!loop()) return;
+  if (loop()->correcting()) m_answer->deselect();
+  loop()->answerBoxClicked(m_answer->text());
+}
+
+void TAVO3::setRepeats() {
+  TAVO5(m_conditions, this).exec();
 }
 
 }  // namespace tavoli

@@ -1,29 +1,43 @@
 #pragma once
 
-#include <QAction>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
-#include <QPushButton>
+#include <QSplitter>
+#include <QTimer>
 
-#include <array>
 #include <functional>
 
 #include "practice/PracticeScreen.h"
-#include "practice/screens/MarkedView.h"
 
 namespace tavoli {
 
+class AnswerBox;
+class CountsFrame;
+class LogView;
+class LookUp;
+class LookUpPane;
+class MarkedView;
+class PracticeKeys;
 class PracticeLoop;
+class PracticeMenus;
+class StatusPanels;
+class TextMenu;
+class TimeStrip;
+class WordView;
+struct PracticeConditions;
 
 /// The practice screen.
 class TAVO3 final : public QMainWindow, public PracticeScreen {
   Q_OBJECT
  public:
-  /// `dictionaries` are the names of the course's dictionaries, one look-up box each.
-  explicit TAVO3(const QStringList& dictionaries, QWidget* parent = nullptr);
+  /// The learner changes the numbers of repeats in `conditions` here.
+  explicit TAVO3(PracticeConditions& conditions, QWidget* parent = nullptr);
 
-  /// Keys go to `loop` from now on. `closed` is called once, when the end of the run was confirmed.
+  /// Adds a look-up pane. The dictionary must be there as long as the window is used.
+  void addLookUp(const QString& heading, LookUp& dictionary);
+
+  /// Keys go to `loop` from now on, and its clock ticks. `closed` is called once, when the end of
+  /// the run was confirmed.
   void connectTo(PracticeLoop& loop, std::function<void()> closed);
 
   void showCaption(const QString& text) override;
@@ -35,8 +49,12 @@ class TAVO3 final : public QMainWindow, public PracticeScreen {
   void showMessage(const QString& text) override;
   void showMiniTest(const MarkedText& text) override;
   void lookUp(const QString& text) override;
-  void enableAnswerKey(bool enabled) override;
+  void enableKey(FunctionKey key, bool enabled) override;
   void showComparison(int choice) override;
+  void showTimeUpSound(int choice) override;
+  void showTime(const AnswerTime& time) override;
+  void showLog(const QStringList& runLog, bool shown) override;
+  void showCounts(const RunCounts& counts) override;
   void showStatus(StatusPanel panel, const QString& text) override;
   void awaitConfirmation(bool awaited) override;
   void close() override;
@@ -47,36 +65,36 @@ class TAVO3 final : public QMainWindow, public PracticeScreen {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  static constexpr int panelCount = 8;
-
-  void buildAnswer();
   void buildAreas();
-  void buildButtons();
-  void buildLookUp(const QStringList& dictionaries);
+  void buildAnswer();
   void buildMenus();
-  void buildStatus();
   void arrange();
-  QPushButton* button(int index, const QString& caption, const QString& tip,
-                      std::function<void(PracticeLoop&)> pressed);
-  /// Passes a key on to the loop; false when the key is none of the drill's.
-  bool functionKey(int key);
-  bool answerKeyPressed(QLineEdit* box, const QKeyEvent& event);
-  void pressEnter();
+  /// The loop, or nothing when none is connected or its run is over.
+  PracticeLoop* loop() const;
+  void pressKey(FunctionKey key, bool byButton);
+  void answerClicked();
+  void setRepeats();
 
+  PracticeConditions& m_conditions;
   PracticeLoop* m_loop = nullptr;
   std::function<void()> m_closed;
+  QTimer m_seconds;
+
   QLabel* m_source;
-  MarkedView* m_question;
-  QLineEdit* m_answer;
-  MarkedView* m_fullAnswer;
-  MarkedView* m_miniTest;
+  TimeStrip* m_time;
+  WordView* m_question;
+  CountsFrame* m_counts;
+  AnswerBox* m_answer;
   QLabel* m_message;
-  QWidget* m_lookUpRow;
-  QList<QLineEdit*> m_lookUps;
-  QList<QPushButton*> m_buttons;
-  QPushButton* m_answerButton;
-  QList<QAction*> m_comparisons;
-  std::array<QLabel*, panelCount> m_panels{};
+  WordView* m_fullAnswer;
+  MarkedView* m_miniTest;
+  LogView* m_log;
+  QSplitter* m_lookUps;
+  QList<LookUpPane*> m_panes;
+  PracticeKeys* m_keys;
+  PracticeMenus* m_menus;
+  StatusPanels* m_status;
+  TextMenu* m_textMenu;
 };
 
 }  // namespace tavoli

@@ -1,46 +1,13 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "practice/PracticeLoop.h"
-#include "tests/support/Fakes.h"
+#include "tests/support/Drill.h"
 #include "tests/support/Print.h"
-#include "tests/support/RecordingScreen.h"
-#include "tests/support/TestStore.h"
 
 namespace tavoli {
 namespace {
 
-/// A run over given records, driven by the keys of the answer box.
-class Drill {
- public:
-  explicit Drill(const QStringList& records) {
-    conditions.memorySelect = u'5';
-    for (const QString& record : records) {
-      PracticeItem item;
-      const bool isSentence = record.startsWith(u'問');
-      item.itemEnglish = isSentence ? QStringLiteral("000010") : QStringLiteral("big");
-      item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
-      item.itemRecord = record;
-      set.append(item);
-    }
-  }
-
-  void start() {
-    loop = std::make_unique<PracticeLoop>(set, course, conditions, screen, dialogs, random);
-    loop->start();
-  }
-
-  void enter(const QString& typed) const { loop->enter(typed); }
-  CurrentRecord stored(int i = 1) const { return set.parsed(i); }
-
-  PracticeSet set;
-  CourseChoice course;
-  PracticeConditions conditions;
-  test::RecordingScreen screen;
-  test::ScriptedDialogs dialogs;
-  test::FakeRandom random;
-  std::unique_ptr<PracticeLoop> loop;
-};
+using test::Drill;
 
 /// "I am big." with the contraction "I'm " and the literal "huge" for "big", followed by another
 /// blank.
@@ -208,7 +175,7 @@ TEST(AnswerFlowTest, AnnouncesAMiniTestAndWithholdsTheAnswer) {
             QStringLiteral("小問Ｎｏ.1\n記憶状態（現在『うろ』）を変化させます。\n\n"
                            "１回目で正解すれば『完全』記憶に変更、\n２回目で正解すれば不変、\n"
                            "２回以上間違えば『全然』に変更します。"));
-  EXPECT_FALSE(drill.screen.answerKey);
+  EXPECT_TRUE(drill.screen.disabled.contains(FunctionKey::F1));
   drill.loop->showAnswer();
   EXPECT_EQ(drill.screen.fullAnswer, QString());
   drill.enter(QStringLiteral("wrong"));
@@ -216,7 +183,7 @@ TEST(AnswerFlowTest, AnnouncesAMiniTestAndWithholdsTheAnswer) {
   EXPECT_EQ(drill.screen.red, QString());
   EXPECT_EQ(drill.screen.miniTest, QString()) << "the notice goes with the entry";
   drill.enter(QStringLiteral("wrong"));
-  EXPECT_TRUE(drill.screen.answerKey) << "back in the learning flow";
+  EXPECT_FALSE(drill.screen.disabled.contains(FunctionKey::F1)) << "back in the learning flow";
   drill.loop->markKnown(true);
   drill.loop->markKnown(true);
   drill.enter(QString());

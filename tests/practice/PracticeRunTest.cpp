@@ -38,7 +38,9 @@ class PracticeRunTest : public testing::Test {
 
   void open() {
     store.close();
-    run = std::make_unique<PracticeRun>(learner, course, conditions, files, clock, random, dialogs);
+    run = std::make_unique<PracticeRun>(learner, course, conditions, times,
+                                        RunServices{files, clock, random, dialogs, speaker});
+    ASSERT_TRUE(run->openTables());
     ASSERT_TRUE(run->open(screen, progress));
   }
 
@@ -61,6 +63,8 @@ class PracticeRunTest : public testing::Test {
   test::FakeRandom random;
   test::ScriptedDialogs dialogs;
   test::FakeProgress progress;
+  test::RecordingSpeaker speaker;
+  RunClock times;
   test::RecordingScreen screen;
   std::unique_ptr<PracticeRun> run;
 };
@@ -160,6 +164,21 @@ TEST_F(PracticeRunTest, WrapsRoundOrEndsAtTheEnd) {
   }
 }
 
+TEST_F(PracticeRunTest, KeepsTheTimeUpSoundAndLooksWordsUp) {
+  open();
+  EXPECT_EQ(screen.timeUpSound, 2);
+  ASSERT_EQ(run->dictionaries().size(), 2U);
+  EXPECT_EQ(run->dictionaries()[0].heading, QStringLiteral("中学DB"));
+  EXPECT_TRUE(run->dictionaries()[0]
+                  .lookUp.find(QStringLiteral("app"))
+                  ->text.startsWith(QStringLiteral("apple")));
+  run->loop().chooseTimeUpSound(0);
+  finish();
+  EXPECT_EQ(store.stored(tableBDIC, rowAutoPlay, field問正コ), QStringLiteral("00100050020000"));
+  open();
+  EXPECT_EQ(screen.timeUpSound, 0);
+}
+
 TEST_F(PracticeRunTest, ARefusedExitGoesOn) {
   open();
   enter(u"he is");
@@ -193,7 +212,8 @@ TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {
 TEST_F(PracticeRunTest, NeedsTwoItems) {
   conditions.memorySelect = u'2';
   store.close();
-  PracticeRun aborted(learner, course, conditions, files, clock, random, dialogs);
+  PracticeRun aborted(learner, course, conditions, times, {files, clock, random, dialogs, speaker});
+  ASSERT_TRUE(aborted.openTables());
   EXPECT_FALSE(aborted.open(screen, progress));
   EXPECT_EQ(dialogs.shown.last(),
             QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));

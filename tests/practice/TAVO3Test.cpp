@@ -1,10 +1,23 @@
+#include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QTest>
+#include <QTextBlock>
 
 #include <gtest/gtest.h>
 
+#include "practice/LookUp.h"
 #include "practice/PracticeLoop.h"
+#include "practice/screens/MarkedView.h"
 #include "practice/screens/TAVO3.h"
+#include "practice/screens/TimeStrip.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
@@ -12,57 +25,248 @@
 namespace tavoli {
 namespace {
 
-TEST(TAVO3Test, DrillsWithTheKeyboardAlone) {
-  PracticeSet set;
-  for (const char16_t* word : {u"apple", u"book"}) {
+/// The window over a sentence and two words, driven through its controls.
+class TAVO3Test : public testing::Test {
+ protected:
+  TAVO3Test() {
+    add(QStringLiteral("000120"), tableOfSentences,
+        test::sentenceRecord(
+            QStringLiteral("空所を補いなさい。％[彼]は学生です。％He (   ) a {student}."),
+            {QStringLiteral("is")}));
+    add(QStringLiteral("apple"), u'1', test::wordRecord({QStringLiteral("りんご")}));
+    add(QStringLiteral("book"), u'1', test::wordRecord({QStringLiteral("本")}));
+    conditions.firstRepeatWord = 1;
+    store.addWord(tableJTDIC, QStringLiteral("student"),
+                  test::wordRecord({QStringLiteral("学生")}));
+    window.addLookUp(QStringLiteral("中学DB"), dictionary);
+    window.addLookUp(QStringLiteral("BusinessTOEIC"), dictionary);
+    loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
+                                          LoopServices{window, dialogs, random, clock, speaker});
+    window.connectTo(*loop, [this] { ++closed; });
+    loop->start();
+    window.show();
+    QApplication::setActiveWindow(&window);
+  }
+
+  void add(const QString& key, QChar table, const QString& record) {
     PracticeItem item;
-    item.itemEnglish = QString::fromUtf16(word);
-    item.itemTable = u'1';
-    item.itemRecord = test::wordRecord({QStringLiteral("[意味]")});
+    item.itemEnglish = key;
+    item.itemTable = table;
+    item.itemRecord = record;
     set.append(item);
   }
-  const CourseChoice course;
+  template <class T>
+  T* find(const char16_t* name) {
+    return window.findChild<T*>(QString::fromUtf16(name));
+  }
+  static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+  void type(const QString& text) {
+    QTest::keyClicks(answer, text);
+    press(Qt::Key_Return);
+  }
+
+  PracticeSet set;
+  CourseChoice course;
   PracticeConditions conditions;
-  conditions.firstRepeatWord = 1;
+  RunClock times;
   test::ScriptedDialogs dialogs;
   test::FakeRandom random;
-  TAVO3 window({QStringLiteral("STDIC"), QStringLiteral("JTDIC")});
-  PracticeLoop loop(set, course, conditions, window, dialogs, random);
+  test::FakeClock clock;
+  test::RecordingSpeaker speaker;
+  test::TestStore store;
+  std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
+  LookUp dictionary{*cursor};
+  TAVO3 window{conditions};
+  std::unique_ptr<PracticeLoop> loop;
   int closed = 0;
-  window.connectTo(loop, [&] { ++closed; });
-  loop.start();
-  window.show();
-  QApplication::setActiveWindow(&window);
+  QLineEdit* answer = find<QLineEdit>(u"Text2");
+  MarkedView* question = find<MarkedView>(u"RichTextBox4");
+  MarkedView* fullAnswer = find<MarkedView>(u"RichTextBox2");
+  QLabel* message = find<QLabel>(u"RichTextBox5");
+};
 
-  const auto press = [](auto key) { QTest::keyClick(QApplication::focusWidget(), key); };
-  auto* answer = window.findChild<QLineEdit*>(QStringLiteral("Text2"));
-  auto* fullAnswer = window.findChild<MarkedView*>(QStringLiteral("RichTextBox2"));
+TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   EXPECT_EQ(QApplication::focusWidget(), answer);
-  EXPECT_EQ(window.findChild<MarkedView*>(QStringLiteral("RichTextBox4"))->toPlainText(),
-            QStringLiteral("意味"));
-  QTest::keyClicks(answer, QStringLiteral("aple"));
-  press(Qt::Key_Return);
+  EXPECT_TRUE(question->toPlainText().contains(QStringLiteral("彼は学生です。\nHe (   )")));
+  type(QStringLiteral("is"));
+  EXPECT_EQ(QApplication::focusWidget(), fullAnswer) << "the full answer waits for Enter";
+  EXPECT_TRUE(answer->isReadOnly());
+  press(Qt::Key_Down);
+  press(Qt::Key_F2);
+  press(Qt::Key_F11);
+  EXPECT_EQ(loop->POS(), 1) << "these keys do nothing while the answer is on show";
+  press(Qt::Key_Enter);
+  EXPECT_EQ(loop->POS(), 2);
+  EXPECT_EQ(QApplication::focusWidget(), answer);
+
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("りんご"));
+  type(QStringLiteral("aple"));
   EXPECT_EQ(fullAnswer->toPlainText(), QStringLiteral("aple は正解ではありません。"));
   EXPECT_EQ(answer->text(), QString());
-  QTest::keyClicks(answer, QStringLiteral("apple"));
-  press(Qt::Key_Return);
-  EXPECT_TRUE(window.findChild<QLabel*>(QStringLiteral("RichTextBox5"))
-                  ->text()
-                  .startsWith(QStringLiteral("○　正解です。")));
-  EXPECT_EQ(QApplication::focusWidget(), fullAnswer) << "the full answer waits for Enter";
-  press(Qt::Key_Enter);
-  EXPECT_EQ(loop.POS(), 2);
-  EXPECT_EQ(QApplication::focusWidget(), answer);
+  type(QStringLiteral("apple"));
+  EXPECT_TRUE(message->text().startsWith(QStringLiteral("○　正解です。")));
+  QTest::mouseClick(answer, Qt::LeftButton);
+  EXPECT_EQ(loop->POS(), 3) << "a click into the answer box goes on too";
+  press(Qt::Key_F4);
+  EXPECT_EQ(loop->POS(), 2);
+  window.enableKey(FunctionKey::F3, false);
+  press(Qt::Key_F3);
+  EXPECT_EQ(loop->POS(), 2) << "a key is off together with its button";
+  window.enableKey(FunctionKey::F3, true);
+  press(Qt::Key_F3);
+  EXPECT_EQ(loop->POS(), 3);
 
+  dialogs.asked.clear();
   dialogs.answers = {false, false, true};
   window.QWidget::close();
   EXPECT_TRUE(window.isVisible()) << "closing asks, and was refused";
   press(Qt::Key_F6);
-  QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Command1(5)")), Qt::LeftButton);
+  QTest::mouseClick(find<QPushButton>(u"Command1(5)"), Qt::LeftButton);
   EXPECT_EQ(dialogs.asked, QStringList(3, QStringLiteral("終了しますか？")));
   QApplication::processEvents();
   EXPECT_EQ(closed, 1);
   EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(TAVO3Test, TypesTheWaveByItsKeysInEveryBox) {
+  for (QLineEdit* box : {answer, find<QLineEdit>(u"Text3(1)")}) {
+    box->clear();
+    QTest::keyClick(box, '~');
+    QTest::keyClick(box, Qt::Key_0, Qt::ShiftModifier);
+    EXPECT_EQ(box->text(), QStringLiteral("～～"));
+  }
+}
+
+TEST_F(TAVO3Test, AnyKeyEmptiesTheMessageBeforeItTakesEffect) {
+  window.showMessage(QStringLiteral("前の回答"));
+  QTest::keyClick(answer, Qt::Key_Left);
+  EXPECT_EQ(message->text(), QString());
+}
+
+TEST_F(TAVO3Test, ClicksSelectNothingInASentenceToCorrect) {
+  add(QStringLiteral("000130"), tableOfSentences,
+      test::sentenceRecord(QStringLiteral("次の英文に誤りがあれば訂正しなさい。％He are a boy."),
+                           {QStringLiteral("He is a boy.")}));
+  press(Qt::Key_F4);
+  ASSERT_EQ(answer->text(), QStringLiteral("He are a boy."));
+  const QPoint word(answer->fontMetrics().horizontalAdvance(QStringLiteral("He a")), 12);
+  QTest::mouseDClick(answer, Qt::LeftButton, {}, word);
+  QTest::mouseRelease(answer, Qt::LeftButton, {}, word);
+  EXPECT_FALSE(answer->hasSelectedText());
+  EXPECT_EQ(answer->text(), QStringLiteral("He are a boy."));
+}
+
+TEST_F(TAVO3Test, LooksAClickedWordUpInAllPanes) {
+  QTextCursor at(question->document());
+  at.setPosition(static_cast<int>(question->toPlainText().indexOf(QStringLiteral("student"))) + 2);
+  const QPoint point = question->cursorRect(at).center();
+  QTest::mouseClick(question->viewport(), Qt::LeftButton, {}, point);
+  for (const char16_t* box : {u"Text3(0)", u"Text3(1)"})
+    EXPECT_EQ(find<QLineEdit>(box)->text(), QStringLiteral("student"));
+  EXPECT_TRUE(find<MarkedView>(u"RichTextBox3(0)")->toPlainText().contains(QStringLiteral("学生")));
+  EXPECT_EQ(QApplication::focusWidget(), answer) << "the caret stays with the answer";
+}
+
+TEST_F(TAVO3Test, ShowsTheNewestLinesOfTheLogAndAnyOtherByItsScrollBar) {
+  QStringList lines;
+  for (int i = 1; i <= 200; ++i) lines.append(QStringLiteral("行%1").arg(i));
+  window.resize(800, 600);
+  window.showLog(lines, true);
+  QApplication::processEvents();
+  auto* log = find<MarkedView>(u"RichTextBox1");
+  auto* bar = find<QScrollBar>(u"VScroll1");
+  const auto lineAt = [&](int y) { return log->cursorForPosition({5, y}).block().text(); };
+  EXPECT_EQ(bar->maximum(), 200);
+  EXPECT_EQ(bar->value(), 200);
+  EXPECT_EQ(lineAt(log->viewport()->height() - 2), QStringLiteral("行200"));
+  bar->setValue(50);
+  EXPECT_EQ(lineAt(4), QStringLiteral("行51"));
+  EXPECT_TRUE(find<QAction>(u"menu3")->isChecked());
+  window.showLog(lines, false);
+  EXPECT_FALSE(log->isVisible());
+  EXPECT_EQ(log->toPlainText(), QString());
+}
+
+TEST_F(TAVO3Test, TellsInWordsThatTheTimeIsUp) {
+  auto* strip = find<TimeStrip>(u"Picture1");
+  const struct {
+    AnswerTime time;
+    const char16_t* text;
+  } cases[] = {{{false, 0, 0}, u""}, {{true, 12, 0.5}, u"12"}, {{true, 30, 1}, u"時間切れ　30"}};
+  for (const auto& [time, text] : cases) {
+    window.showTime(time);
+    EXPECT_EQ(strip->text(), QString::fromUtf16(text));
+  }
+}
+
+TEST_F(TAVO3Test, MenusReachTheRunAndItsConditions) {
+  find<QAction>(u"menu42")->trigger();
+  EXPECT_EQ(conditions.compareMode, u'1');
+  QLabel* panel = find<QLabel>(u"StatusBar1.Panel3");
+  QTest::mouseClick(panel, Qt::LeftButton);
+  EXPECT_TRUE(find<QAction>(u"menu43")->isChecked());
+  EXPECT_EQ(panel->text(), comparisonChoices()[2].status);
+  find<QAction>(u"menuTimeUp2")->trigger();
+  EXPECT_EQ(loop->timeUpSound(), 1);
+  find<QAction>(u"menu_DispKaisuu")->trigger();
+  EXPECT_TRUE(find<QGroupBox>(u"Frame1")->isVisible());
+
+  QTimer::singleShot(0, &window, [] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    dialog->findChild<QSpinBox*>(QStringLiteral("UpDown1"))->setValue(5);
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Command3")), Qt::LeftButton);
+  });
+  find<QAction>(u"menu1")->trigger();
+  EXPECT_EQ(conditions.firstRepeatWord, 5);
+}
+
+TEST_F(TAVO3Test, PopUpMenuWorksOnTheClipboard) {
+  const auto open = [](QWidget* text) { Q_EMIT text->customContextMenuRequested({2, 2}); };
+  QApplication::clipboard()->setText(QStringLiteral("was"));
+  open(answer);
+  find<QAction>(u"popMenu13")->trigger();
+  EXPECT_EQ(answer->text(), QStringLiteral("was"));
+  question->selectAll();
+  open(question);
+  EXPECT_FALSE(find<QAction>(u"popMenu11")->isEnabled());
+  EXPECT_FALSE(find<QAction>(u"popMenu13")->isEnabled());
+  find<QAction>(u"popMenu12")->trigger();
+  EXPECT_EQ(QApplication::clipboard()->text(), question->toPlainText());
+  find<QMenu>(u"popMenu1")->hide();
+}
+
+TEST_F(TAVO3Test, EveryControlHasANameForThoseWhoCannotSeeIt) {
+  int controls = 0;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const bool clickable = qobject_cast<QAbstractButton*>(widget) ||
+                           qobject_cast<QScrollBar*>(widget) ||
+                           widget->cursor().shape() == Qt::PointingHandCursor;
+    const bool ownedByAControl = qobject_cast<QAbstractScrollArea*>(widget->parentWidget()) ||
+                                 widget->parentWidget()->objectName().startsWith(u"qt_") ||
+                                 widget->objectName().startsWith(u"qt_");
+    if (ownedByAControl || (!clickable && !(widget->focusPolicy() & Qt::TabFocus))) continue;
+    ++controls;
+    QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(seen, nullptr);
+    EXPECT_FALSE(seen->text(QAccessible::Name).isEmpty())
+        << widget->metaObject()->className() << " " << qPrintable(widget->objectName());
+  }
+  for (const QAction* action : window.findChildren<QAction*>()) {
+    if (action->objectName().isEmpty()) continue;
+    ++controls;
+    EXPECT_FALSE(action->text().isEmpty()) << qPrintable(action->objectName());
+  }
+  EXPECT_GT(controls, 30);
+}
+
+TEST_F(TAVO3Test, FitsTheSmallestScreenWhateverTheStatusLineSays) {
+  for (int panel = 1; panel <= 8; ++panel)
+    window.showStatus(static_cast<StatusPanel>(panel), QString(60, u'練'));
+  window.showMiniTest(plainText(QStringLiteral("小試験")));
+  window.showLog({QStringLiteral("練習経過")}, true);
+  window.resize(800, 600);
+  QApplication::processEvents();
+  EXPECT_EQ(window.size(), QSize(800, 600));
 }
 
 }  // namespace

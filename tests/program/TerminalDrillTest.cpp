@@ -93,6 +93,31 @@ TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
   EXPECT_FALSE(outcome.output.contains(QStringLiteral("[箱]")));
 }
 
+TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
+  const Outcome outcome =
+      run(sentences, QStringLiteral(":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
+                                    ":menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n"));
+  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
+  const QStringList expected = {QStringLiteral("[状態2] 位置=1／6 000010"),
+                                QStringLiteral("[状態2] 位置=2／6 000020"),
+                                QStringLiteral("[状態2] 位置=1／6 000010"),
+                                QStringLiteral("[状態2] 位置=2／6 000020"),
+                                QStringLiteral("[正解] 正解：answer 2"),
+                                QStringLiteral("[経過] -------------- 0001 -------------"),
+                                QStringLiteral("[中学DB] apple：Not found."),
+                                QStringLiteral("[状態3] 比較方法 ABCDE≠abcde"),
+                                QStringLiteral(":F12 というキーはありません。"),
+                                QStringLiteral("[箱] このレッスンファイルを終了して")};
+  qsizetype from = 0;
+  for (const QString& line : expected) {
+    from = outcome.output.indexOf(line, from);
+    ASSERT_GE(from, 0) << qPrintable(line) << " is missing in\n" << qPrintable(outcome.output);
+    from += line.size();
+  }
+  EXPECT_EQ(stored(QStringLiteral("000010")), QStringLiteral("000")) << "left by F2";
+  EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("001")) << "the answer was shown";
+}
+
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
   const Outcome outcome = run({QStringLiteral("--set"), QStringLiteral("COURSE=0"),
                                QStringLiteral("--set"), QStringLiteral("selMethod=4")},

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "practice/PracticeSetLoader.h"
+#include "speech/Speaker.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
 #include "system/Random.h"
@@ -43,6 +44,17 @@ class ScriptedDialogs final : public Dialogs {
   QStringList shown;
   QStringList asked;
   QList<bool> answers;
+};
+
+/// A voice that remembers what it was told.
+class RecordingSpeaker final : public Speaker {
+ public:
+  void say(const QString& text) override { said.append(text); }
+  void stop() override { ++stopped; }
+  void beep() override { ++beeps; }
+  QStringList said;
+  int stopped = 0;
+  int beeps = 0;
 };
 
 /// A load that nobody stops, unless `stopAt` says at which number.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMap>
+#include <QSet>
 
 #include "practice/PracticeScreen.h"
 
@@ -22,7 +23,18 @@ class RecordingScreen final : public PracticeScreen {
   void showMessage(const QString& text) override { message = text; }
   void showMiniTest(const MarkedText& text) override { miniTest = text.text; }
   void lookUp(const QString& text) override { lookedUp = text; }
-  void enableAnswerKey(bool enabled) override { answerKey = enabled; }
+  void enableKey(FunctionKey key, bool enabled) override {
+    if (enabled)
+      disabled.remove(key);
+    else
+      disabled.insert(key);
+  }
+  void showTimeUpSound(int choice) override { timeUpSound = choice; }
+  void showTime(const AnswerTime& shown) override { time = shown; }
+  void showLog(const QStringList& lines, bool shown) override {
+    log = shown ? lines : QStringList();
+  }
+  void showCounts(const RunCounts& shown) override { counts = shown; }
   void showComparison(int choice) override { comparison = choice; }
   void showStatus(StatusPanel panel, const QString& text) override {
     panels[static_cast<int>(panel)] = text;
@@ -31,7 +43,11 @@ class RecordingScreen final : public PracticeScreen {
   void close() override { closed = true; }
 
   QString caption, source, question, answer, fullAnswer, red, message, miniTest, lookedUp;
-  bool answerKey = true;
+  QSet<FunctionKey> disabled;
+  AnswerTime time;
+  QStringList log;
+  RunCounts counts;
+  int timeUpSound = -1;
   int comparison = -1;
   QMap<int, QString> panels;
   bool awaited = false;

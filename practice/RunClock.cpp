@@ -1,0 +1,40 @@
+#include "practice/RunClock.h"
+
+#include "practice/PracticeScreen.h"
+#include "system/Clock.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int restFrom = 60;
+constexpr int secondsPerMinute = 60;
+
+QString minutes(qint64 seconds) {
+  return QString::number(seconds / secondsPerMinute) + QStringLiteral("分");
+}
+
+}  // namespace
+
+RestTime::RestTime(RunClock& run, const Clock& clock, PracticeScreen& screen)
+    : m_run(run), m_clock(clock), m_screen(screen) {}
+
+void RestTime::begin() {
+  m_run.開始時刻 = m_clock.now();
+  m_run.restClock = m_run.開始時刻;
+  m_screen.showStatus(StatusPanel::StartTime, QStringLiteral("開始時刻　") +
+                                                  m_run.開始時刻.toString(QStringLiteral("HH:mm")));
+}
+
+void RestTime::takeRestTime() {
+  const QDateTime now = m_clock.now();
+  const auto gap = static_cast<int>(m_run.restClock.secsTo(now));
+  if (gap >= restFrom) m_run.休憩時間 += gap;
+  m_run.restClock = now;
+  m_screen.showStatus(StatusPanel::RestTime,
+                      QStringLiteral("休憩時間  ") + minutes(m_run.休憩時間));
+  m_screen.showStatus(StatusPanel::ElapsedTime,
+                      QStringLiteral("経過時間  ") + minutes(m_run.開始時刻.secsTo(now)));
+}
+
+}  // namespace tavoli

@@ -1,0 +1,32 @@
+#include "practice/screens/AnswerBox.h"
+
+#include <QKeyEvent>
+
+namespace tavoli {
+
+AnswerBox::AnswerBox(QWidget* parent) : EnglishBox(parent) {
+  QFont fixed(QStringList{QStringLiteral("ＭＳ ゴシック"), QStringLiteral("Noto Sans Mono CJK JP"),
+                          QStringLiteral("IPAGothic"), QStringLiteral("monospace")});
+  fixed.setStyleHint(QFont::Monospace);
+  fixed.setPointSizeF(font().pointSizeF() * 1.5);
+  setFont(fixed);
+}
+
+void AnswerBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35) {
+    event->ignore();
+    return;
+  }
+  Q_EMIT keyArrived();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    Q_EMIT entered();
+  else
+    EnglishBox::keyPressEvent(event);
+}
+
+void AnswerBox::mouseReleaseEvent(QMouseEvent* event) {
+  EnglishBox::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) Q_EMIT clicked();
+}
+
+}  // namespace tavoli

@@ -1,0 +1,49 @@
+#include "practice/screens/CountsFrame.h"
+
+#include <QHeaderView>
+#include <QLayout>
+
+namespace tavoli {
+
+CountsFrame::CountsFrame(QWidget* parent)
+    : QGroupBox(QStringLiteral("練習回数（今回）"), parent), m_table(new QTableWidget(2, 3, this)) {
+  m_table->setObjectName(QStringLiteral("MSFlexGrid1"));
+  m_table->setAccessibleName(title());
+  m_table->setHorizontalHeaderLabels(
+      {QStringLiteral("中学"), QStringLiteral("高校"), QStringLiteral("専門")});
+  m_table->setVerticalHeaderLabels({QStringLiteral("単語・熟語"), QStringLiteral("例文")});
+  m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_table->setSelectionMode(QAbstractItemView::NoSelection);
+  m_table->setFocusPolicy(Qt::NoFocus);
+  m_table->setFrameShape(QFrame::NoFrame);
+  m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  for (QHeaderView* header : {m_table->horizontalHeader(), m_table->verticalHeader()}) {
+    header->setSectionResizeMode(QHeaderView::Fixed);
+    header->setSectionsClickable(false);
+  }
+  const int line = fontMetrics().lineSpacing();
+  m_table->horizontalHeader()->setMinimumSectionSize(3 * line);
+  m_table->horizontalHeader()->setDefaultSectionSize(3 * line);
+  m_table->verticalHeader()->setMinimumSectionSize(line + 4);
+  m_table->verticalHeader()->setDefaultSectionSize(line + 4);
+  m_table->setFixedSize(m_table->verticalHeader()->sizeHint().width() + 9 * line,
+                        m_table->horizontalHeader()->sizeHint().height() + 2 * (line + 4));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(4, 4, 4, 4);
+  column->addWidget(m_table);
+  column->addStretch(1);
+  showCounts({});
+}
+
+void CountsFrame::showCounts(const RunCounts& counts) {
+  const std::array rows{counts.words, counts.sentences};
+  for (size_t row = 0; row < rows.size(); ++row)
+    for (size_t column = 0; column < rows[row].size(); ++column) {
+      auto* cell = new QTableWidgetItem(QString::number(rows[row][column]));
+      cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      m_table->setItem(static_cast<int>(row), static_cast<int>(column), cell);
+    }
+}
+
+}  // namespace tavoli

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QTableWidget>
+
+#include "practice/PracticeScreen.h"
+
+namespace tavoli {
+
+/// How many questions were finished in this run, as a small table.
+class CountsFrame final : public QGroupBox {
+  Q_OBJECT
+ public:
+  explicit CountsFrame(QWidget* parent = nullptr);
+
+  void showCounts(const RunCounts& counts);
+
+ private:
+  QTableWidget* m_table;
+};
+
+}  // namespace tavoli

@@ -1,0 +1,126 @@
+#include "practice/screens/StatusPanels.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace tavoli {
+
+namespace {
+
+constexpr int gap = 2;
+constexpr int inset = 4;
+
+const QString comparisonTip = QStringLiteral("クリックすると比較方法が変わります。");
+
+/// A framed label that ends in "…" where its text has no room.
+class Panel final : public QLabel {
+ public:
+  explicit Panel(QWidget* parent) : QLabel(parent) {
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setTextFormat(Qt::PlainText);
+  }
+
+  int wantedWidth() const {
+    constexpr int rounding = 2;  // a text is measured in whole pixels, and cut by parts of them
+    return fontMetrics().horizontalAdvance(text()) + rounding + 2 * (inset + frameWidth());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    drawFrame(&painter);
+    const QRect inside = contentsRect().adjusted(inset, 0, -inset, 0);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, inside.width()));
+  }
+};
+
+int wantedWidth(const QLabel* panel) {
+  return static_cast<const Panel*>(panel)->wantedWidth();
+}
+
+}  // namespace
+
+StatusPanels::StatusPanels(std::function<void()> nextComparison, QWidget* parent)
+    : QWidget(parent), m_nextComparison(std::move(nextComparison)) {
+  QFont smaller = font();
+  smaller.setPointSizeF(smaller.pointSizeF() * 0.8);
+  setFont(smaller);
+  static const std::array<QString, panelCount> names{
+      QStringLiteral("復習周期"), QStringLiteral("位置"),     QStringLiteral("比較方法"),
+      QStringLiteral("開始時刻"), QStringLiteral("休憩時間"), QStringLiteral("経過時間"),
+      QStringLiteral("練習回数"), QStringLiteral("出題順")};
+  for (size_t i = 0; i < names.size(); ++i) {
+    auto* made = new Panel(this);
+    made->setObjectName(QStringLiteral("StatusBar1.Panel%1").arg(i + 1));
+    made->setAccessibleName(names[i]);
+    made->hide();
+    m_panels[i] = made;
+  }
+  QLabel* comparison = panel(StatusPanel::Comparison);
+  comparison->setCursor(Qt::PointingHandCursor);
+  comparison->installEventFilter(this);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void StatusPanels::showStatus(StatusPanel which, const QString& text) {
+  QLabel* label = panel(which);
+  label->setText(text);
+  label->setToolTip(which == StatusPanel::Comparison ? text + u'\n' + comparisonTip : text);
+  label->setAccessibleDescription(text);
+  label->setVisible(!text.isEmpty());
+  arrange();
+}
+
+QSize StatusPanels::minimumSizeHint() const {
+  return {0, fontMetrics().height() + 2 * gap + 2};
+}
+
+void StatusPanels::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  arrange();
+}
+
+void StatusPanels::arrange() {
+  std::vector<QLabel*> shown;
+  std::vector<int> widths;
+  for (QLabel* label : m_panels) {
+    if (label->text().isEmpty()) continue;
+    shown.push_back(label);
+    widths.push_back(wantedWidth(label));
+  }
+  if (shown.empty()) return;
+  // The greatest width that lets all fit; shorter panels keep theirs.
+  int room = width() - gap * static_cast<int>(shown.size() - 1);
+  std::vector<int> ascending = widths;
+  std::sort(ascending.begin(), ascending.end());
+  int most = ascending.back();
+  for (size_t i = 0; i < ascending.size(); ++i) {
+    const int share = std::max(0, room / static_cast<int>(ascending.size() - i));
+    if (ascending[i] > share) {
+      most = share;
+      break;
+    }
+    room -= ascending[i];
+  }
+  int left = 0;
+  for (size_t i = 0; i < shown.size(); ++i) {
+    const int taken = std::min(widths[i], most);
+    shown[i]->setGeometry(left, 0, taken, height());
+    left += taken + gap;
+  }
+}
+
+bool StatusPanels::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::MouseButtonRelease ||
+      static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+    return QWidget::eventFilter(watched, event);
+  m_nextComparison();
+  return true;
+}
+
+}  // namespace tavoli
