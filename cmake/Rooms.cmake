@@ -42,7 +42,9 @@ function(tavoli_room name)
   file(GLOB screens CONFIGURE_DEPENDS screens/*.cpp screens/*.h)
   if(screens)
     add_library(tavoli_${name}_screens STATIC ${screens})
-    set_target_properties(tavoli_${name}_screens PROPERTIES AUTOMOC ON AUTORCC ON)
+    # The sources are named to moc's step too: it would not notice one that came in by the glob.
+    set_target_properties(tavoli_${name}_screens PROPERTIES AUTOMOC ON AUTORCC ON
+                                                            AUTOGEN_TARGET_DEPENDS "${screens}")
     target_link_libraries(tavoli_${name}_screens PUBLIC tavoli_${name} Qt6::Widgets Qt6::Svg
                                                         Qt6::SvgWidgets)
     target_precompile_headers(tavoli_${name}_screens PRIVATE ${TAVOLI_SCREEN_HEADERS})

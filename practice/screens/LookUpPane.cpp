@@ -48,19 +48,18 @@ QWidget* LookUpPane::buildUpDown(int index) {
   auto* row = new QHBoxLayout(upDown);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
-  const auto add = [&](Qt::ArrowType arrow, const QString& name, auto step) {
+  const auto add = [&](Qt::ArrowType arrow, const QString& name, bool back) {
     auto* button = new QToolButton(upDown);
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setAccessibleName(name);
     button->setToolTip(name);
-    connect(button, &QToolButton::clicked, this,
-            [this, step] { showResult((m_dictionary.*step)()); });
+    connect(button, &QToolButton::clicked, this, [this, back] { stepEntry(back); });
     row->addWidget(button);
   };
-  add(Qt::UpArrow, QStringLiteral("前の語"), &LookUp::previous);
-  add(Qt::DownArrow, QStringLiteral("次の語"), &LookUp::next);
+  add(Qt::UpArrow, QStringLiteral("前の語"), true);
+  add(Qt::DownArrow, QStringLiteral("次の語"), false);
   return upDown;
 }
 
@@ -70,6 +69,10 @@ void LookUpPane::setWord(const QString& word) {
     showResult(m_dictionary.find(word));
   else
     m_word->setText(word);
+}
+
+void LookUpPane::stepEntry(bool back) {
+  showResult(back ? m_dictionary.previous() : m_dictionary.next());
 }
 
 void LookUpPane::showResult(const std::optional<MarkedText>& entry) {
@@ -82,7 +85,7 @@ bool LookUpPane::keyPressed(const QObject* watched, int key) {
     return true;
   }
   if (watched != m_word || (key != Qt::Key_Up && key != Qt::Key_Down)) return false;
-  showResult(key == Qt::Key_Up ? m_dictionary.previous() : m_dictionary.next());
+  stepEntry(key == Qt::Key_Up);
   return true;
 }
 

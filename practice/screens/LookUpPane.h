@@ -30,6 +30,7 @@ class LookUpPane final : public QWidget {
 
  private:
   QWidget* buildUpDown(int index);
+  void stepEntry(bool back);
   /// Shows what a look-up gave; nothing leaves the pane as it is.
   void showResult(const std::optional<MarkedText>& entry);
   bool keyPressed(const QObject* watched, int key);
