@@ -54,10 +54,7 @@ AnswerFlow::After AnswerFlow::enter(const QString& typed) {
     case NextStep::SameSubQuestion:
       break;
   }
-  if (miniTest)
-    refuseInMiniTest(comparison, transition);
-  else
-    refuse(comparison);
+  refuse(comparison, transition);
   return After::Stay;
 }
 
@@ -99,39 +96,28 @@ AnswerFlow::After AnswerFlow::repeat(const MemoryTransition& transition) {
   return After::Stay;
 }
 
-void AnswerFlow::refuse(const Comparison& comparison) {
+void AnswerFlow::refuse(const Comparison& comparison, const MemoryTransition& transition) {
+  const bool miniTest = m_state.inMiniTest();
   switch (comparison.ANScomp) {
     case Verdict::Variant:
       tellTolerated(comparison);
       break;
     case Verdict::MarkMissing:
     case Verdict::WrongMark:
+      // A mini test forgives a slip of the mark: the entry does not count.
+      if (miniTest) --m_state.tryCount;
       tellMark(comparison);
       return;
     default:
-      ++m_state.tryCount;
-      tellWrong(comparison);
+      if (miniTest) {
+        m_screen.showFullAnswer(plainText(comparison.typedAnswer + notRight +
+                                          QStringLiteral("　試行数 = %1").arg(m_state.tryCount)));
+      } else {
+        ++m_state.tryCount;
+        tellWrong(comparison);
+      }
   }
-  if (!m_state.record.sentence) m_screen.lookUp(comparison.typedAnswer);
-  askAgain();
-}
-
-void AnswerFlow::refuseInMiniTest(const Comparison& comparison,
-                                  const MemoryTransition& transition) {
-  switch (comparison.ANScomp) {
-    case Verdict::Variant:
-      tellTolerated(comparison);
-      break;
-    case Verdict::MarkMissing:
-    case Verdict::WrongMark:
-      // A slip of the mark is forgiven here: the entry does not count.
-      m_state.tryCount = std::max(0, m_state.tryCount - 1);
-      tellMark(comparison);
-      return;
-    default:
-      m_screen.showFullAnswer(plainText(comparison.typedAnswer + notRight +
-                                        QStringLiteral("　試行数 = %1").arg(m_state.tryCount)));
-  }
+  if (!miniTest && !m_state.record.sentence) m_screen.lookUp(comparison.typedAnswer);
   askAgain();
   if (transition.state == m_state.小問().記) return;
   m_state.小問().記 = transition.state;

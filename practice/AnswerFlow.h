@@ -35,8 +35,7 @@ class AnswerFlow {
   MemoryTransition judged(const Comparison& comparison);
   After moveOn(const MemoryTransition& transition);
   After repeat(const MemoryTransition& transition);
-  void refuse(const Comparison& comparison);
-  void refuseInMiniTest(const Comparison& comparison, const MemoryTransition& transition);
+  void refuse(const Comparison& comparison, const MemoryTransition& transition);
   void tellTolerated(const Comparison& comparison);
   void tellMark(const Comparison& comparison);
   /// "… は正解ではありません。" with the differing stretch in colour.
