@@ -5,13 +5,22 @@
 
 namespace tavoli {
 
+namespace {
+
+constexpr int rowCount = 4;
+
+}  // namespace
+
 CountsFrame::CountsFrame(QWidget* parent)
-    : QGroupBox(QStringLiteral("練習回数（今回）"), parent), m_table(new QTableWidget(2, 3, this)) {
+    : QGroupBox(QStringLiteral("練習回数（今回、今月）"), parent),
+      m_table(new QTableWidget(rowCount, 3, this)) {
   m_table->setObjectName(QStringLiteral("MSFlexGrid1"));
   m_table->setAccessibleName(title());
   m_table->setHorizontalHeaderLabels(
       {QStringLiteral("中学"), QStringLiteral("高校"), QStringLiteral("専門")});
-  m_table->setVerticalHeaderLabels({QStringLiteral("単語・熟語"), QStringLiteral("例文")});
+  m_table->setVerticalHeaderLabels({QStringLiteral("単語・熟語 今回"),
+                                    QStringLiteral("単語・熟語 今月"), QStringLiteral("例文 今回"),
+                                    QStringLiteral("例文 今月")});
   m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_table->setSelectionMode(QAbstractItemView::NoSelection);
   m_table->setFocusPolicy(Qt::NoFocus);
@@ -28,7 +37,7 @@ CountsFrame::CountsFrame(QWidget* parent)
   m_table->verticalHeader()->setMinimumSectionSize(line + 4);
   m_table->verticalHeader()->setDefaultSectionSize(line + 4);
   m_table->setFixedSize(m_table->verticalHeader()->sizeHint().width() + 9 * line,
-                        m_table->horizontalHeader()->sizeHint().height() + 2 * (line + 4));
+                        m_table->horizontalHeader()->sizeHint().height() + rowCount * (line + 4));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(4, 4, 4, 4);
   column->addWidget(m_table);
@@ -37,7 +46,8 @@ CountsFrame::CountsFrame(QWidget* parent)
 }
 
 void CountsFrame::showCounts(const RunCounts& counts) {
-  const std::array rows{counts.words, counts.sentences};
+  const std::array rows{counts.words, counts.month.words, counts.sentences, counts.month.sentences};
+  static_assert(rows.size() == rowCount);
   for (size_t row = 0; row < rows.size(); ++row)
     for (size_t column = 0; column < rows[row].size(); ++column) {
       auto* cell = new QTableWidgetItem(QString::number(rows[row][column]));

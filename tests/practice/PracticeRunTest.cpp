@@ -179,6 +179,19 @@ TEST_F(PracticeRunTest, KeepsTheTimeUpSoundAndLooksWordsUp) {
   EXPECT_EQ(screen.timeUpSound, 0);
 }
 
+TEST_F(PracticeRunTest, CountsOnFromTheMonth) {
+  QString progressRecord(345, u'0');
+  progressRecord.replace(81, 5, QStringLiteral("00041"));
+  progressRecord.replace(71, 5, QStringLiteral("00007"));
+  store.addSentence(rowProgress, progressRecord);
+  open();
+  enter(u"he is");
+  enter(u"student.");
+  EXPECT_EQ(screen.counts.sentences, (std::array{1, 0, 0}));
+  EXPECT_EQ(screen.counts.month.sentences, (std::array{42, 0, 0}));
+  EXPECT_EQ(screen.counts.month.words, (std::array{0, 7, 0}));
+}
+
 TEST_F(PracticeRunTest, ARefusedExitGoesOn) {
   open();
   enter(u"he is");
