@@ -43,7 +43,7 @@ void keyToNextQuestion(benchmark::State& state) {
   window.resize(1024, 768);
   PracticeLoop loop(set, course, conditions, times, {window, dialogs, random, clock, speaker});
   window.connectTo(loop, [] {});
-  loop.start();
+  loop.start(2);
   window.show();
   QApplication::processEvents();
   for (auto _ : state) {

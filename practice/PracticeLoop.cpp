@@ -36,7 +36,8 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_restTime(times, services.clock, services.screen),
       m_report(services.month) {}
 
-void PracticeLoop::start() {
+void PracticeLoop::start(int timeUpSound) {
+  m_restTime.begin();
   const PracticeConditions& conditions = m_state.conditions;
   m_screen.showCaption(captionOf(conditions));
   m_screen.showStatus(StatusPanel::Review,
@@ -44,11 +45,10 @@ void PracticeLoop::start() {
                           ? QStringLiteral("復習なし")
                           : QStringLiteral("復習は%1問ごとに").arg(conditions.reviewCycle));
   chooseComparison(comparisonChoiceOf(m_state.comparison));
-  chooseTimeUpSound(m_answerClock.timeUpSound);
+  chooseTimeUpSound(timeUpSound);
   m_screen.showStatus(StatusPanel::Order,
                       conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
   m_screen.showCounts(m_report.counts());
-  m_restTime.begin();
   m_state.POS = m_state.set.startIndex;
   goToItem();
 }
@@ -289,11 +289,13 @@ void PracticeLoop::toggleLog() {
 }
 
 void PracticeLoop::chooseTimeUpSound(int choice) {
+  activity();
   m_answerClock.timeUpSound = choice;
   m_screen.showTimeUpSound(choice);
 }
 
 void PracticeLoop::chooseComparison(int choice) {
+  activity();
   const ComparisonChoice& chosen = comparisonChoices()[static_cast<size_t>(choice)];
   m_state.comparison = chosen.settings;
   m_state.conditions.compareMode = chosen.settings.compareMode;
@@ -303,7 +305,6 @@ void PracticeLoop::chooseComparison(int choice) {
 }
 
 void PracticeLoop::nextComparison() {
-  activity();
   const auto choices = static_cast<int>(comparisonChoices().size());
   chooseComparison((comparisonChoiceOf(m_state.comparison) + 1) % choices);
 }

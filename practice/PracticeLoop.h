@@ -36,13 +36,15 @@ class PracticeLoop {
   PracticeLoop(PracticeSet& set, const CourseChoice& course, PracticeConditions& conditions,
                RunClock& times, const LoopServices& services);
 
-  /// Shows the first question.
-  void start();
+  /// Shows the first question. `timeUpSound` as in chooseTimeUpSound.
+  void start(int timeUpSound);
 
   /// Any key in the answer box: what the last entry was told goes away.
   void keyPressed();
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);
+  /// The answer box has lost the focus: a sign of life, like any key.
+  void answerBoxLeft() { activity(); }
   /// A click into the answer box, which holds `typed`: leaves the full answer when that is on show.
   void answerBoxClicked(const QString& typed);
 

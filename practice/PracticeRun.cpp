@@ -57,8 +57,7 @@ bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
       m_set, m_course, m_conditions, m_times,
       LoopServices{screen, m_services.dialogs, m_services.random, m_services.clock,
                    m_services.speaker, readMonthCounts(m_tables->rsBDIC())});
-  m_loop->chooseTimeUpSound(m_settings.timeUpSound);
-  m_loop->start();
+  m_loop->start(m_settings.timeUpSound);
   return true;
 }
 

@@ -24,6 +24,11 @@ void AnswerBox::keyPressEvent(QKeyEvent* event) {
     EnglishBox::keyPressEvent(event);
 }
 
+void AnswerBox::focusOutEvent(QFocusEvent* event) {
+  EnglishBox::focusOutEvent(event);
+  Q_EMIT left();
+}
+
 void AnswerBox::mouseReleaseEvent(QMouseEvent* event) {
   EnglishBox::mouseReleaseEvent(event);
   if (event->button() == Qt::LeftButton) Q_EMIT clicked();

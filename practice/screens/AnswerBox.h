@@ -15,10 +15,13 @@ class AnswerBox final : public EnglishBox {
   void keyArrived();
   void entered();
   void clicked();
+  /// The focus has gone elsewhere.
+  void left();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 };
 
 }  // namespace tavoli

@@ -110,6 +110,9 @@ void TAVO3::buildAnswer() {
     if (loop()) loop()->enter(m_answer->text());
   });
   connect(m_answer, &AnswerBox::clicked, this, &TAVO3::answerClicked);
+  connect(m_answer, &AnswerBox::left, this, [this] {
+    if (loop()) loop()->answerBoxLeft();
+  });
 }
 
 void TAVO3::buildMenus() {

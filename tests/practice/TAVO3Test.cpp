@@ -43,7 +43,7 @@ class TAVO3Test : public testing::Test {
     loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
                                           LoopServices{window, dialogs, random, clock, speaker});
     window.connectTo(*loop, [this] { ++closed; });
-    loop->start();
+    loop->start(2);
     window.show();
     QApplication::setActiveWindow(&window);
   }

@@ -29,7 +29,7 @@ class Drill {
   void start() {
     loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
                                           LoopServices{screen, dialogs, random, clock, speaker});
-    loop->start();
+    loop->start(2);
   }
 
   void enter(const QString& typed) const { loop->enter(typed); }
