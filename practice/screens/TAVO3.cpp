@@ -177,6 +177,11 @@ void TAVO3::addLookUp(const QString& heading, LookUp& dictionary) {
   m_panes.append(pane);
 }
 
+TAVO3::~TAVO3() {
+  // The box loses the focus when it goes, and this window is no practice screen any more by then.
+  m_answer->disconnect(this);
+}
+
 void TAVO3::connectTo(PracticeLoop& loop, std::function<void()> closed) {
   m_loop = &loop;
   m_closed = std::move(closed);

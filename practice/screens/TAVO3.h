@@ -32,6 +32,7 @@ class TAVO3 final : public QMainWindow, public PracticeScreen {
  public:
   /// The learner changes the numbers of repeats in `conditions` here.
   explicit TAVO3(PracticeConditions& conditions, QWidget* parent = nullptr);
+  ~TAVO3() override;
 
   /// Adds a look-up pane. The dictionary must be there as long as the window is used.
   void addLookUp(const QString& heading, LookUp& dictionary);
