@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
 namespace tavoli {
 
 namespace {
@@ -66,8 +68,12 @@ FileResult SystemFiles::copy(const QString& from, const QString& to, bool keepTi
 FileResult SystemFiles::append(const QString& path, const QByteArray& content) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return resultOf(file);
-  return file.write(content) == content.size() && file.flush() ? FileResult::Ok
-                                                               : FileResult::Failed;
+  const qint64 before = file.size();
+  if (file.write(content) == content.size() && file.flush() && fsync(file.handle()) == 0)
+    return FileResult::Ok;
+  // Half a line would be in the way of the next one.
+  file.resize(before);
+  return FileResult::Failed;
 }
 
 FileResult SystemFiles::rename(const QString& from, const QString& to) {

@@ -21,6 +21,7 @@ class Files {
   virtual FileResult write(const QString& path, const QByteArray& content) = 0;
   /// Replaces `to` by a copy of `from`; with `keepTime` the copy bears the original's time.
   virtual FileResult copy(const QString& from, const QString& to, bool keepTime = false) = 0;
+  /// Adds to a file, which is made where it is missing; all of `content` or, on failure, nothing.
   virtual FileResult append(const QString& path, const QByteArray& content) = 0;
   virtual FileResult rename(const QString& from, const QString& to) = 0;
   virtual FileResult remove(const QString& path) = 0;
