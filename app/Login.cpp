@@ -5,6 +5,7 @@
 #include "conditions/ConditionsStore.h"
 #include "data/Schema.h"
 #include "data/Text.h"
+#include "progress/ProgressStore.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
 #include "system/Files.h"
@@ -172,7 +173,16 @@ bool Login::checkPassword(const QString& typedPassword) {
     return false;
   }
   m_module.course = readCourse(*database, m_module.course);
-  return true;
+  return loadFigures(*database);
+}
+
+bool Login::loadFigures(Database& database) {
+  const ProgressOwner owner{m_module.learner.userId, m_module.course.COURSE, m_module.clock};
+  m_module.backupDue = false;
+  return loadProgress(database, owner, m_clock, m_dialogs, m_module.progress, m_module.backupDue) ||
+         fail(QStringLiteral("%1 に学習の進捗を書き込めません。空き容量とフォルダを確かめてから"
+                             "入れ直してください。")
+                  .arg(m_module.learner.dbFileWork));
 }
 
 bool Login::setFirstPassword(std::optional<Database>& database, const QString& typedPassword) {

@@ -28,7 +28,7 @@ class LoginScreen {
 };
 
 /// Turns a typed id into the learner's files: brings them into the working folder, checks or first
-/// sets the password, and makes the backup. Never destroys newer work, and keeps the working copy
+/// sets the password, reads the progress, and makes the backup. Never destroys newer work, and keeps the working copy
 /// for this program as long as the login lives.
 class Login {
  public:
@@ -52,6 +52,8 @@ class Login {
   bool checkPassword(const QString& typedPassword);
   /// Asks a new learner whether the password is right, and stores it. False on No.
   bool setFirstPassword(std::optional<Database>& database, const QString& typedPassword);
+  /// Reads the learner's progress; a new month rolls it over.
+  bool loadFigures(Database& database);
   bool fail(const QString& message);
   void fetchTexts();
   void backUp();

@@ -4,7 +4,8 @@
 
 #include "conditions/PracticeConditions.h"
 #include "data/LearnerFiles.h"
-#include "practice/RunClock.h"
+#include "progress/ProgressCounters.h"
+#include "progress/RunClock.h"
 
 namespace tavoli {
 
@@ -17,6 +18,7 @@ struct Module1 {
   CourseChoice course;
   PracticeConditions conditions;
   RunClock clock;
+  ProgressCounters progress;
   /// The first login of a later month: the database is to be backed up.
   bool backupDue = false;
 };

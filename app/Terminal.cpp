@@ -124,12 +124,12 @@ void TerminalPractice::showCounts(const RunCounts& counts) {
   QStringList parts;
   const QStringList levels = {QStringLiteral("中学"), QStringLiteral("高校"),
                               QStringLiteral("専門")};
-  for (size_t i = 0; i < counts.words.size(); ++i) {
-    if (counts.words[i] + counts.sentences[i] > 0)
+  for (size_t i = 0; i < counts.run.words.size(); ++i) {
+    if (counts.run.words[i] + counts.run.sentences[i] > 0)
       parts.append(QStringLiteral("%1 単語・熟語 %2 例文 %3")
                        .arg(levels[static_cast<qsizetype>(i)])
-                       .arg(counts.words[i])
-                       .arg(counts.sentences[i]));
+                       .arg(counts.run.words[i])
+                       .arg(counts.run.sentences[i]));
   }
   m_terminal.show(QStringLiteral("回数"), parts.join(QStringLiteral("、")));
 }

@@ -91,7 +91,7 @@ void TerminalDrill::showConditions() {
 
 int TerminalDrill::practise() {
   PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
-                  {m_files, m_clock, m_random, m_dialogs, m_speaker});
+                  m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   if (!run.open(screen, screen)) return EXIT_FAILURE;

@@ -34,7 +34,7 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_flow(m_state, services.screen, services.dialogs),
       m_answerClock(m_state, services.clock, services.screen, services.speaker),
       m_restTime(times, services.clock, services.screen),
-      m_report(services.month) {}
+      m_report(services.progress) {}
 
 void PracticeLoop::start(int timeUpSound) {
   m_restTime.begin();

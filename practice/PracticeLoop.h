@@ -6,7 +6,7 @@
 #include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
 #include "practice/QuestionText.h"
-#include "practice/RunClock.h"
+#include "practice/RestTime.h"
 #include "practice/RunReport.h"
 #include "practice/RunState.h"
 
@@ -26,7 +26,7 @@ struct LoopServices {
   Random& random;
   const Clock& clock;
   Speaker& speaker;
-  MonthCounts month = {};  ///< what was counted before this run
+  ProgressCounters progress = {};  ///< what was counted before this run
 };
 
 /// Asks one 小問 after the other: shows it, has the answer flow judge what was typed, and walks on

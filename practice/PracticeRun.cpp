@@ -19,11 +19,12 @@ QString headingOf(const QString& table) {
 
 PracticeRun::PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
                          PracticeConditions& conditions, RunClock& times,
-                         const RunServices& services)
+                         ProgressCounters& progress, const RunServices& services)
     : m_learner(learner),
       m_course(course),
       m_conditions(conditions),
       m_times(times),
+      m_progress(progress),
       m_services(services) {}
 
 PracticeRun::~PracticeRun() = default;
@@ -56,7 +57,7 @@ bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
   m_loop = std::make_unique<PracticeLoop>(
       m_set, m_course, m_conditions, m_times,
       LoopServices{screen, m_services.dialogs, m_services.random, m_services.clock,
-                   m_services.speaker, readMonthCounts(m_tables->rsBDIC())});
+                   m_services.speaker, m_progress});
   m_loop->start(m_settings.timeUpSound);
   return true;
 }
@@ -66,9 +67,12 @@ bool PracticeRun::close() {
   m_dictionaries.clear();
   m_settings.timeUpSound = m_loop->timeUpSound();
   RunEnd end(m_learner, m_services.files, m_services.clock, m_services.dialogs);
-  return end.closeRun(
-      std::move(m_tables), m_set,
-      {m_loop->POS(), m_course, m_conditions, m_settings, m_loop->backToConditions()});
+  const std::optional<ProgressCounters> stored =
+      end.closeRun(std::move(m_tables), m_set,
+                   {m_loop->POS(), m_course, m_conditions, m_settings, m_times,
+                    m_loop->report().progress(), m_loop->backToConditions()});
+  if (stored) m_progress = *stored;
+  return stored.has_value();
 }
 
 }  // namespace tavoli

@@ -36,11 +36,13 @@ struct Dictionary {
   LookUp lookUp;
 };
 
-/// One practice run from the opening of the tables to the saving of what it changed.
+/// One practice run from the opening of the tables to the saving of what it changed, to which the
+/// learner's progress belongs.
 class PracticeRun {
  public:
   PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
-              PracticeConditions& conditions, RunClock& times, const RunServices& services);
+              PracticeConditions& conditions, RunClock& times, ProgressCounters& progress,
+              const RunServices& services);
   ~PracticeRun();
 
   /// Opens the learner's tables. False when that cannot be done; the learner has then been told.
@@ -61,6 +63,7 @@ class PracticeRun {
   const CourseChoice& m_course;
   PracticeConditions& m_conditions;
   RunClock& m_times;
+  ProgressCounters& m_progress;
   RunServices m_services;
   std::unique_ptr<LearningTables> m_tables;
   std::vector<Dictionary> m_dictionaries;

@@ -6,7 +6,6 @@
 #include <array>
 
 #include "data/MarkedText.h"
-#include "progress/MonthCounts.h"
 
 namespace tavoli {
 
@@ -32,12 +31,16 @@ struct AnswerTime {
   double used = 0;       ///< share of the target time that has passed, 0 to 1
 };
 
-/// How many questions were finished in this run and this month, by the level of the item: 中学,
-/// 高校, 専門.
-struct RunCounts {
+/// How many items were finished, by their level: 中学, 高校, 専門.
+struct ItemCounts {
   std::array<int, 3> words{};
   std::array<int, 3> sentences{};
-  MonthCounts month;
+};
+
+/// How many items were finished in this run and, with it, this month.
+struct RunCounts {
+  ItemCounts run;
+  ItemCounts month;
 };
 
 /// What the practice asks of whatever shows it: a window, a terminal, a test.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QStringList>
-
 #include <memory>
 
 #include "conditions/AutoPlaySettings.h"
@@ -9,6 +7,8 @@
 #include "data/LearnerFiles.h"
 #include "practice/LearningTables.h"
 #include "practice/PracticeSet.h"
+#include "progress/ProgressCounters.h"
+#include "progress/RunClock.h"
 
 namespace tavoli {
 
@@ -16,20 +16,15 @@ class Clock;
 class Dialogs;
 class Files;
 
-/// The memory state of a whole item, summed up from its 小問.
-struct ItemState {
-  QChar state = memoryうろ覚え;
-  /// Codes that are no memory state, each with the guard text that names it; empty on sound data.
-  QStringList complaints;
-};
-ItemState itemState(const CurrentRecord& record, const QString& key);
-
 /// How a run ended.
 struct RunResult {
   int POS;  ///< where
   const CourseChoice& course;
   PracticeConditions& conditions;
   const AutoPlaySettings& settings;
+  RunClock& times;
+  /// What was counted before the run and in it, without its time and its effect on the memory.
+  ProgressCounters counted;
   /// Another lesson is to follow: the working texts stay.
   bool backToConditions = false;
 };
@@ -39,22 +34,24 @@ class RunEnd {
  public:
   RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs);
 
-  /// Writes all shown items, the conditions, the course and the settings in one transaction, closes
-  /// the tables, adds to the past conditions and carries the files home where they are placed
-  /// elsewhere. When the tables cannot be written the learner may try
-  /// again; false when nothing was stored in the end.
-  bool closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set, const RunResult& run);
+  /// Stores the run and carries the files home where they are placed elsewhere; gives the learner's
+  /// progress as stored. When the tables cannot be written the learner may try again; nothing when
+  /// nothing was stored in the end.
+  std::optional<ProgressCounters> closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set,
+                                           const RunResult& run);
 
  private:
-  bool WriteBackItem(LearningTables& tables, PracticeItem& item);
-  bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
-  void copyHome(bool keepTexts);
+  /// Writes all shown items, the conditions, the course, the progress and the settings in one
+  /// transaction, closes the tables, and adds to the history and the past conditions.
+  std::optional<ProgressCounters> saveRunEnd(std::unique_ptr<LearningTables> tables,
+                                             PracticeSet& set, const RunResult& run);
+  /// Adds the run's line to the two texts.
+  void appendTexts(const RunResult& run, const QString& progressRecord);
 
   const LearnerFiles& m_learner;
   Files& m_files;
   const Clock& m_clock;
   Dialogs& m_dialogs;
-  QStringList m_complaints;
 };
 
 }  // namespace tavoli

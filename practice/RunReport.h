@@ -4,25 +4,29 @@
 
 #include "practice/PracticeScreen.h"
 #include "practice/RunState.h"
+#include "progress/ProgressCounters.h"
 
 namespace tavoli {
 
 /// What has been done in a run so far: the finished items in words and in numbers.
 class RunReport {
  public:
-  /// `month` is what was counted before this run.
-  explicit RunReport(const MonthCounts& month = {}) { m_counts.month = month; }
+  /// `before` is what was counted before this run.
+  explicit RunReport(const ProgressCounters& before) : m_before(before), m_progress(before) {}
 
   /// Takes the present item of the run down as finished.
   void finish(const RunState& state);
 
   const QStringList& runLog() const { return m_runLog; }
-  const RunCounts& counts() const { return m_counts; }
+  RunCounts counts() const;
+  /// What was counted before this run and in it.
+  const ProgressCounters& progress() const { return m_progress; }
 
  private:
   QStringList m_runLog;
-  RunCounts m_counts;
-  int m_finished = 0;
+  ProgressCounters m_before;
+  ProgressCounters m_progress;
+  int m_今回の練習回数 = 0;
 };
 
 }  // namespace tavoli

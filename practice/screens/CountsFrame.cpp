@@ -46,7 +46,8 @@ CountsFrame::CountsFrame(QWidget* parent)
 }
 
 void CountsFrame::showCounts(const RunCounts& counts) {
-  const std::array rows{counts.words, counts.month.words, counts.sentences, counts.month.sentences};
+  const std::array rows{counts.run.words, counts.month.words, counts.run.sentences,
+                        counts.month.sentences};
   static_assert(rows.size() == rowCount);
   for (size_t row = 0; row < rows.size(); ++row)
     for (size_t column = 0; column < rows[row].size(); ++column) {

@@ -248,7 +248,7 @@ TEST_F(LoginTest, BacksUpOnceAndWhenItIsDue) {
   work_on(work());
   ASSERT_TRUE(login(QStringLiteral("000")));
   EXPECT_EQ(files.read(backup), first);
-  module.backupDue = true;
+  clock.time = clock.time.addMonths(1);
   ASSERT_TRUE(login(QStringLiteral("000")));
   EXPECT_EQ(files.read(backup), files.read(work()));
 }

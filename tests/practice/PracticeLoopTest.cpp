@@ -222,8 +222,8 @@ TEST(PracticeLoopTest, LogsAndCountsWhatIsFinished) {
                          QStringLiteral("問題"), QStringLiteral("one"), QStringLiteral("two"),
                          QStringLiteral("-------------- 0002 -------------"), QStringLiteral("big"),
                          QStringLiteral("大きい  偉大な  ")}));
-  EXPECT_EQ(drill.screen.counts.sentences[0], 1);
-  EXPECT_EQ(drill.screen.counts.words[1], 1);
+  EXPECT_EQ(drill.screen.counts.run.sentences[0], 1);
+  EXPECT_EQ(drill.screen.counts.run.words[1], 1);
   drill.loop->toggleLog();
   EXPECT_TRUE(drill.screen.log.isEmpty());
 }

@@ -4,7 +4,6 @@
 
 #include "practice/PracticeRun.h"
 #include "practice/QuestionText.h"
-#include "practice/RunEnd.h"
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
@@ -38,7 +37,7 @@ class PracticeRunTest : public testing::Test {
 
   void open() {
     store.close();
-    run = std::make_unique<PracticeRun>(learner, course, conditions, times,
+    run = std::make_unique<PracticeRun>(learner, course, conditions, times, figures,
                                         RunServices{files, clock, random, dialogs, speaker});
     ASSERT_TRUE(run->openTables());
     ASSERT_TRUE(run->open(screen, progress));
@@ -65,6 +64,7 @@ class PracticeRunTest : public testing::Test {
   test::FakeProgress progress;
   test::RecordingSpeaker speaker;
   RunClock times;
+  ProgressCounters figures;
   test::RecordingScreen screen;
   std::unique_ptr<PracticeRun> run;
 };
@@ -180,14 +180,12 @@ TEST_F(PracticeRunTest, KeepsTheTimeUpSoundAndLooksWordsUp) {
 }
 
 TEST_F(PracticeRunTest, CountsOnFromTheMonth) {
-  QString progressRecord(345, u'0');
-  progressRecord.replace(81, 5, QStringLiteral("00041"));
-  progressRecord.replace(71, 5, QStringLiteral("00007"));
-  store.addSentence(rowProgress, progressRecord);
+  figures.回数文[中学][0] = 41;
+  figures.回数単熟[高校][0] = 7;
   open();
   enter(u"he is");
   enter(u"student.");
-  EXPECT_EQ(screen.counts.sentences, (std::array{1, 0, 0}));
+  EXPECT_EQ(screen.counts.run.sentences, (std::array{1, 0, 0}));
   EXPECT_EQ(screen.counts.month.sentences, (std::array{42, 0, 0}));
   EXPECT_EQ(screen.counts.month.words, (std::array{0, 7, 0}));
 }
@@ -225,7 +223,8 @@ TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {
 TEST_F(PracticeRunTest, NeedsTwoItems) {
   conditions.memorySelect = u'2';
   store.close();
-  PracticeRun aborted(learner, course, conditions, times, {files, clock, random, dialogs, speaker});
+  PracticeRun aborted(learner, course, conditions, times, figures,
+                      {files, clock, random, dialogs, speaker});
   ASSERT_TRUE(aborted.openTables());
   EXPECT_FALSE(aborted.open(screen, progress));
   EXPECT_EQ(dialogs.shown.last(),
@@ -262,57 +261,6 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
   run.reset();
   store.open();
   EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field記憶), QStringLiteral("0"));
-}
-
-TEST_F(PracticeRunTest, CarriesTheFilesHome) {
-  const QString placed = store.folder() + QStringLiteral("/placed");
-  ASSERT_EQ(files.makeFolder(placed), FileResult::Ok);
-  learner.placedElsewhere = true;
-  learner.dbFilePlaced = placed + QStringLiteral("/TavoDB000.mdb");
-  learner.condFilePlaced = placed + QStringLiteral("/TavoCond000");
-  open();
-  enter(u"he is");
-  finish();
-  EXPECT_EQ(files.read(learner.dbFilePlaced), files.read(store.path()));
-  EXPECT_TRUE(files.exists(learner.condFilePlaced));
-  EXPECT_FALSE(files.exists(learner.condFileWork));
-
-  learner.dbFilePlaced = store.folder() + QStringLiteral("/gone/TavoDB000.mdb");
-  dialogs.shown.clear();
-  open();
-  enter(u"he is");
-  finish();
-  EXPECT_EQ(dialogs.shown.size(), 1) << "told once";
-  EXPECT_TRUE(files.exists(learner.condFileWork)) << "the only copy stays";
-}
-
-TEST(ItemStateTest, SumsUpItsSubQuestions) {
-  const QStringList meanings = {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")};
-  for (const QChar table : {u'B', u'1'}) {
-    for (const QString& a : meanings) {
-      for (const QString& b : meanings) {
-        const QString list =
-            table == u'B'
-                ? QStringLiteral("問|00") + a + QStringLiteral("001a00000000^00") + b +
-                      QStringLiteral("001b00000000^|")
-                : QStringLiteral("||") + a + QStringLiteral("00一^") + b + QStringLiteral("00二^|");
-        const ItemState summed =
-            itemState(ParseRecord(list, QStringLiteral("k"), table), QStringLiteral("k"));
-        const bool any0 = a == u"0" || b == u"0";
-        const bool all0 = a == u"0" && b == u"0";
-        const bool all2 = a == u"2" && b == u"2";
-        const QChar expected = (table == u'B' ? any0 : all0) ? memory全然
-                               : all2                        ? memory完全
-                                                             : memoryうろ覚え;
-        EXPECT_EQ(summed.state, expected) << qPrintable(table + a + b);
-        EXPECT_TRUE(summed.complaints.isEmpty());
-      }
-    }
-  }
-  EXPECT_EQ(
-      itemState(ParseRecord(QStringLiteral("||700一^|"), QString(), u'1'), QStringLiteral("k"))
-          .complaints.size(),
-      2);
 }
 
 TEST(QuestionTextTest, StartsTheAnswerBox) {

@@ -38,7 +38,7 @@ class Drill {
   int finished() const {
     int sum = 0;
     for (size_t i = 0; i < 3; ++i)
-      sum += loop->report().counts().words[i] + loop->report().counts().sentences[i];
+      sum += loop->report().counts().run.words[i] + loop->report().counts().run.sentences[i];
     return sum;
   }
 

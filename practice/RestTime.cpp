@@ -1,4 +1,4 @@
-#include "practice/RunClock.h"
+#include "practice/RestTime.h"
 
 #include "practice/PracticeScreen.h"
 #include "system/Clock.h"

@@ -1,20 +1,11 @@
 #pragma once
 
-#include <QDateTime>
+#include "progress/RunClock.h"
 
 namespace tavoli {
 
 class Clock;
 class PracticeScreen;
-
-/// The times of a run, in the state that all screens share.
-struct RunClock {
-  QDateTime 開始時刻;
-  QDateTime 終了時刻;
-  /// The last moment of activity; a long gap from here on is rest.
-  QDateTime restClock;
-  int 休憩時間 = 0;  ///< seconds
-};
 
 /// Takes the gaps in which the learner was away out of the learning time.
 class RestTime {

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QStringList>
+
+#include "practice/LearningTables.h"
+#include "practice/PracticeSet.h"
+#include "progress/ProgressCounters.h"
+
+namespace tavoli {
+
+/// The memory state of a whole item, summed up from its 小問.
+struct ItemState {
+  QChar state = memoryうろ覚え;
+  /// Codes that are no memory state, each with the guard text that names it; empty on sound data.
+  QStringList complaints;
+};
+ItemState itemState(const CurrentRecord& record, const QString& key);
+
+/// Stores items of a run in their rows, and follows how the learner's memory counts change by it.
+class ItemWriteBack {
+ public:
+  ItemWriteBack(LearningTables& tables, QChar COURSE) : m_tables(tables), m_COURSE(COURSE) {}
+
+  /// Sums the item's state up and stores it with the item's record and count. A row that has gone
+  /// is no failure. False when the row could not be written.
+  bool WriteBackItem(PracticeItem& item);
+
+  const MemoryGrowth& growth() const { return m_growth; }
+  /// What was wrong with the items and their rows, a line each.
+  const QStringList& complaints() const { return m_complaints; }
+
+ private:
+  bool updateSentenceRow(TableCursor& rows, const PracticeItem& item);
+  bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
+  /// The row of `item` is about to get the item's state in the place of its own.
+  void follow(const TableCursor& rows, const PracticeItem& item);
+
+  LearningTables& m_tables;
+  QChar m_COURSE;
+  MemoryGrowth m_growth;
+  QStringList m_complaints;
+};
+
+}  // namespace tavoli

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+namespace tavoli {
+
+/// The study levels, which are the courses too; they number the counters.
+enum Level : size_t { 中学, 高校, 専門 };
+inline constexpr size_t levelCount = 3;
+
+/// The level of a course.
+Level courseLevel(QChar COURSE);
+/// The level of a dictionary by its place, "1" to "3", in the course's look-up order.
+Level wordLevel(QChar COURSE, QChar itemTable);
+/// The level of a sentence by its number; nothing for a number that belongs to none.
+std::optional<Level> sentenceLevel(const QString& 文番);
+
+/// Three numbers: items by memory state (完全, うろ覚え, 全然) or figures by month (今月, 先月,
+/// 先月まで, the last one with 先月 in it).
+using Three = std::array<int, 3>;
+using ByLevel = std::array<Three, levelCount>;
+
+/// The place of a memory code among the three numbers, which stand the other way round; nothing for
+/// a code that is none.
+std::optional<size_t> memoryPlace(QStringView code);
+
+/// What the learner has reached and done.
+struct ProgressCounters {
+  ByLevel 記憶単熟{};  ///< words and idioms of each dictionary by memory state
+  ByLevel 記憶文{};    ///< sentences of each level by memory state
+  ByLevel 時間{};      ///< seconds practised in each course
+  ByLevel 回数単熟{};  ///< items finished from each dictionary, whatever the course
+  ByLevel 回数文{};    ///< sentences finished of each level
+  ByLevel 回数{};      ///< items finished in each course
+
+  bool operator==(const ProgressCounters&) const = default;
+
+  /// Counts a finished item: a sentence where `itemTable` is "B", else a word of that place.
+  void countQuestion(QChar COURSE, QChar itemTable, const QString& itemEnglish);
+  /// A new month: what was 今月 becomes 先月 and joins 先月まで. The memory counts stay.
+  void rollOver();
+};
+
+/// How the memory counts changed in a run.
+struct MemoryGrowth {
+  ByLevel 記憶単熟増{};
+  ByLevel 記憶文増{};
+
+  /// An item has moved from one memory code to another. A dictionary that the course only has as a
+  /// third helper is not counted, except in 専門.
+  void move(QChar COURSE, QChar itemTable, const QString& itemEnglish, const QString& from,
+            const QString& to);
+  /// Adds the growth to the counts. A count that would leave 0 to 32000 becomes 0.
+  void addTo(ProgressCounters& counters) const;
+};
+
+}  // namespace tavoli

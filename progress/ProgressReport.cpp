@@ -1,0 +1,138 @@
+#include "progress/ProgressReport.h"
+
+#include <QLocale>
+
+namespace tavoli {
+
+namespace {
+
+constexpr double secondsPerHour = 3600;
+constexpr int chartsAPage = 6;
+
+QString levelName(Level level) {
+  static const std::array names = {QStringLiteral("中学"), QStringLiteral("高校"),
+                                   QStringLiteral("専門")};
+  return names[level];
+}
+
+/// Thousands are divided by commas.
+QLocale locale() {
+  QLocale locale = QLocale::c();
+  locale.setNumberOptions(QLocale::DefaultNumberOptions);
+  return locale;
+}
+
+QString grouped(int value) {
+  return locale().toString(value);
+}
+
+QString hours(int seconds) {
+  return locale().toString(seconds / secondsPerHour, 'f', 2) + QStringLiteral(" 時間");
+}
+
+/// An empty table by its format string: the column titles, each behind "|" and with ">" where it
+/// stands to the right; behind ";" the corner title and the row titles.
+NumberTable titledTable(const QString& format) {
+  const qsizetype end = format.indexOf(u';');
+  NumberTable table;
+  table.columns = format.first(end).remove(u'>').split(u'|').mid(1);
+  table.rows = format.sliced(end + 1).split(u'|');
+  table.title = table.rows.takeFirst();
+  return table;
+}
+
+void appendRow(NumberTable& table, const Three& numbers, QString (*inWords)(int)) {
+  QStringList& cells = table.cells.emplaceBack();
+  for (const int number : numbers) cells.append(inWords(number));
+}
+
+void appendRows(NumberTable& table, const ByLevel& family, QString (*inWords)(int)) {
+  for (const Three& numbers : family) appendRow(table, numbers, inWords);
+}
+
+void appendSum(NumberTable& table, std::initializer_list<const ByLevel*> families) {
+  Three sum{};
+  for (const ByLevel* family : families)
+    for (const Three& numbers : *family)
+      for (size_t i = 0; i < numbers.size(); ++i) sum[i] += numbers[i];
+  appendRow(table, sum, grouped);
+}
+
+}  // namespace
+
+std::vector<BarChart> ProgressReport::charts(Level level) const {
+  const QStringList memory = {QStringLiteral("完全"), QStringLiteral("うろ"),
+                              QStringLiteral("全然")};
+  const QStringList months = {QStringLiteral("今月"), QStringLiteral("先月")};
+  const struct {
+    QString title;
+    const ByLevel& family;
+    const QStringList& columns;
+  } pages[chartsAPage] = {
+      {QStringLiteral("記憶単熟%1"), m_counters.記憶単熟, memory},
+      {QStringLiteral("記憶文%1"), m_counters.記憶文, memory},
+      {QStringLiteral("時間%1"), m_counters.時間, months},
+      {QStringLiteral("回数%1"), m_counters.回数, months},
+      {QStringLiteral("回数単熟%1DB"), m_counters.回数単熟, months},
+      {QStringLiteral("回数文%1DB"), m_counters.回数文, months},
+  };
+  std::vector<BarChart> charts;
+  // The charts are numbered through the courses first.
+  int number = static_cast<int>(level) + 1;
+  for (const auto& page : pages) {
+    BarChart chart;
+    chart.name = QStringLiteral("MSChart") + QString::number(number);
+    chart.title = page.title.arg(levelName(level));
+    chart.columns = page.columns;
+    chart.inHours = &page.family == &m_counters.時間;
+    const Three& numbers = page.family[level];
+    for (int i = 0; i < page.columns.size(); ++i)
+      chart.values.push_back(numbers[static_cast<size_t>(i)] /
+                             (chart.inHours ? secondsPerHour : 1.0));
+    charts.push_back(chart);
+    number += levelCount;
+  }
+  return charts;
+}
+
+std::vector<NumberTable> ProgressReport::tables() const {
+  return filled({{
+      QStringLiteral("|>完全|>うろ覚え|>全然;　記憶・DB別|単熟・中学DB|単熟・高校DB|単熟・専門DB|"
+                     "　 文・中学DB|　 文・高校DB|　 文・専門DB"),
+      QStringLiteral(
+          "|>今月|>先月|>先月まで;時間・コース別|　中学コース|　高校コース |　専門コース "),
+      QStringLiteral("|>今月|>先月|>先月まで;回数・コース別|　中学コース|　高校コース|　専門コース|"
+                     "　　合    計"),
+      QStringLiteral(
+          "|>今月|>先月|>先月まで;　回数・DB別| 単熟・中学DB| 単熟・高校DB|単熟・専門DB|　 "
+          "文・中学DB|　 文・高校DB|　 文・専門DB|　　合    計"),
+  }});
+}
+
+std::vector<NumberTable> ProgressReport::printedTables() const {
+  return filled({{
+      QStringLiteral("|>完全|>うろ覚え|>全然;記憶・ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|"
+                     "単熟･専門ＤＢ|文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ"),
+      QStringLiteral("|>今月|>先月|>先月まで;時間コース別|中学コース|高校コース|専門コース"),
+      QStringLiteral(
+          "|>今月|>先月|>先月まで;回数コース別|中学コース|高校コース|専門コース|合　　計  "),
+      QStringLiteral("|>今月|>先月|>先月まで;回数･ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|単熟･専門ＤＢ|"
+                     "文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ|合　　計  "),
+  }});
+}
+
+std::vector<NumberTable> ProgressReport::filled(const std::array<QString, 4>& titles) const {
+  std::vector<NumberTable> tables;
+  for (const QString& title : titles) tables.push_back(titledTable(title));
+  appendRows(tables[0], m_counters.記憶単熟, grouped);
+  appendRows(tables[0], m_counters.記憶文, grouped);
+  appendRows(tables[1], m_counters.時間, hours);
+  appendRows(tables[2], m_counters.回数, grouped);
+  appendSum(tables[2], {&m_counters.回数});
+  appendRows(tables[3], m_counters.回数単熟, grouped);
+  appendRows(tables[3], m_counters.回数文, grouped);
+  appendSum(tables[3], {&m_counters.回数単熟, &m_counters.回数文});
+  return tables;
+}
+
+}  // namespace tavoli

@@ -1,0 +1,87 @@
+#include "progress/ProgressStore.h"
+
+#include "data/Database.h"
+#include "data/Schema.h"
+#include "progress/ProgressRecord.h"
+#include "progress/TableSurvey.h"
+#include "system/Clock.h"
+#include "system/Dialogs.h"
+
+namespace tavoli {
+
+namespace {
+
+const QString firstSpecialTable = QStringLiteral("BusinessTOEIC");
+
+bool isLaterMonth(QDate day, QDate before) {
+  return std::pair(day.year(), day.month()) > std::pair(before.year(), before.month());
+}
+
+}  // namespace
+
+void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Clock& clock,
+              Dialogs& dialogs) {
+  RunClock& times = owner.times;
+  const QDateTime now = clock.now();
+  times.終了時刻 = now;
+  const qint64 learnt = times.開始時刻.secsTo(times.終了時刻) - times.休憩時間;
+  if (learnt < 0) {
+    const QString format = QStringLiteral("yyyy/MM/dd HH:mm:ss");
+    dialogs.show(QStringLiteral("DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0\n"
+                                "開始時刻 %1\n休憩時間 %2秒\n現在 %3")
+                     .arg(times.開始時刻.toString(format))
+                     .arg(times.休憩時間)
+                     .arg(now.toString(format)));
+    times.終了時刻 = times.開始時刻;
+    times.休憩時間 = 0;
+  } else {
+    counters.時間[courseLevel(owner.COURSE)][0] += static_cast<int>(learnt);
+  }
+}
+
+bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord) {
+  rsBDIC.Seek(SeekOp::Equal, rowProgress);
+  if (rsBDIC.failed()) return false;
+  if (rsBDIC.NoMatch()) {
+    rsBDIC.AddNew();
+    rsBDIC.setValue(field文番, rowProgress);
+    rsBDIC.setValue(field記憶, QStringLiteral("0"));
+    rsBDIC.setValue(field回数, QStringLiteral("00"));
+  } else {
+    rsBDIC.Edit();
+  }
+  rsBDIC.setValue(field問正コ, progressRecord);
+  return rsBDIC.Update();
+}
+
+bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& clock,
+                  Dialogs& dialogs, ProgressCounters& counters, bool& backupDue) {
+  const auto rsBDIC = database.OpenRecordset(tableBDIC);
+  if (!rsBDIC) return false;
+  rsBDIC->Seek(SeekOp::Equal, rowProgress);
+  if (rsBDIC->failed()) return false;
+  if (rsBDIC->NoMatch()) {
+    counters = ProgressCounters();
+    for (const auto& [table, level] : {std::pair(tableJTDIC, 中学), std::pair(tableSTDIC, 高校),
+                                       std::pair(firstSpecialTable, 専門)}) {
+      const auto rows = database.OpenRecordset(table);
+      if (rows) surveyWordTable(*rows, counters.記憶単熟[level]);
+    }
+    surveySentences(*rsBDIC, counters.記憶文);
+    // A new learner has not learnt yet.
+    owner.times.開始時刻 = clock.now();
+  } else {
+    const StoredProgress stored = parseProgressRecord(rsBDIC->text(field問正コ));
+    counters = stored.counters;
+    if (!stored.previousStart.isValid() ||
+        !isLaterMonth(clock.now().date(), stored.previousStart.date()))
+      return true;
+    counters.rollOver();
+    backupDue = true;
+  }
+  bookTime(owner, counters, clock, dialogs);
+  const QString progressRecord = buildProgressRecord(owner.userId, counters, owner.times);
+  return database.write([&] { return saveProgressRecord(*rsBDIC, progressRecord); });
+}
+
+}  // namespace tavoli

@@ -1,0 +1,283 @@
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+#include <random>
+
+#include "practice/ItemWriteBack.h"
+#include "practice/PracticeSetLoader.h"
+#include "practice/RunEnd.h"
+#include "progress/ProgressRecord.h"
+#include "progress/ProgressStore.h"
+#include "progress/TableSurvey.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+QString packedCodes(bool sentence, const QString& codes) {
+  QString list;
+  for (const QChar code : codes)
+    list += sentence ? QStringLiteral("00") + code + QStringLiteral("001a00000000^")
+                     : code + QStringLiteral("00意味^");
+  return (sentence ? QStringLiteral("問|") : QStringLiteral("||")) + list + u'|';
+}
+
+TEST(ItemStateTest, SumsUpItsSubQuestions) {
+  QStringList combinations = {QString()};
+  for (qsizetype i = 0; i < combinations.size() && combinations[i].size() < 3; ++i)
+    for (const QChar code : {u'0', u'1', u'2', u'7'}) combinations.append(combinations[i] + code);
+  for (const QString& codes : std::as_const(combinations)) {
+    for (const bool sentence : {true, false}) {
+      const QChar table = sentence ? tableOfSentences : QChar(u'1');
+      const ItemState summed =
+          itemState(ParseRecord(packedCodes(sentence, codes), QStringLiteral("k"), table),
+                    QStringLiteral("k"));
+      const bool any0 = codes.contains(u'0');
+      const bool any1 = codes.contains(u'1');
+      const bool any2 = codes.contains(u'2');
+      QChar expected = memoryうろ覚え;
+      if (any2 && !any0 && !any1) expected = memory完全;
+      if (any0 && (sentence || (!any1 && !any2))) expected = memory全然;
+      EXPECT_EQ(summed.state, expected) << sentence << qPrintable(codes);
+      const bool none = !any0 && !any1 && !any2;
+      EXPECT_EQ(summed.complaints.size(), codes.count(u'7') + (none ? 1 : 0)) << qPrintable(codes);
+    }
+  }
+}
+
+/// Files of which some cannot be written.
+class FailingFiles final : public Files {
+ public:
+  bool exists(const QString& path) const override { return real.exists(path); }
+  std::optional<QByteArray> read(const QString& path) const override { return real.read(path); }
+  FileResult write(const QString& path, const QByteArray& content) override {
+    return refused(path) ? FileResult::Failed : real.write(path, content);
+  }
+  FileResult copy(const QString& from, const QString& to, bool keepTime) override {
+    copied.append(to);
+    return refused(to) ? FileResult::Failed : real.copy(from, to, keepTime);
+  }
+  FileResult append(const QString& path, const QByteArray& content) override {
+    return refused(path) ? FileResult::Failed : real.append(path, content);
+  }
+  FileResult rename(const QString& from, const QString& to) override {
+    return real.rename(from, to);
+  }
+  FileResult remove(const QString& path) override { return real.remove(path); }
+  FileResult makeFolder(const QString& path) override { return real.makeFolder(path); }
+  QDateTime modified(const QString& path) const override { return real.modified(path); }
+  bool setModified(const QString& path, const QDateTime& time) override {
+    return real.setModified(path, time);
+  }
+
+  QStringList refusedEnds;
+  QStringList copied;
+
+ private:
+  bool refused(const QString& path) const {
+    return std::any_of(refusedEnds.begin(), refusedEnds.end(),
+                       [&](const QString& end) { return path.endsWith(end); });
+  }
+  SystemFiles real;
+};
+
+class RunEndTest : public testing::Test {
+ protected:
+  RunEndTest() {
+    learner.userId = QStringLiteral("000");
+    learner.dbFileWork = store.path();
+    learner.condFileWork = store.folder() + QStringLiteral("/TavoCond000");
+    learner.historyFileWork = store.folder() + QStringLiteral("/TavoHistory000");
+    course.COURSE = course専門;
+    course.specialTable = QStringLiteral("BusinessTOEIC");
+    times.開始時刻 = clock.time;
+  }
+
+  /// Ends a run over everything that the table, or the sentences, hold, after `change` did its part
+  /// on each item.
+  std::optional<ProgressCounters> run(const QString& selMethod,
+                                      const std::function<void(PracticeItem&)>& change) {
+    store.close();
+    int errorNumber = 0;
+    auto tables = LearningTables::open(store.path(), course, errorNumber);
+    conditions.selMethod = selMethod[0];
+    conditions.memorySelect = u'5';
+    conditions.startMode = u'1';
+    conditions.maxLoadSent = conditions.maxLoadWords = 1000;
+    PracticeSet set = PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
+                          .LoadPracticeSet(startKeyFirst);
+    for (int i = 1; i <= set.itemCount(); ++i) change(set.item(i));
+    dialogs.shown.clear();
+    clock.time = clock.time.addSecs(60);
+    RunEnd end(learner, files, clock, dialogs);
+    const auto stored =
+        end.closeRun(std::move(tables), set, {1, course, conditions, settings, times, figures});
+    store.open();
+    return stored;
+  }
+
+  /// What a survey of all tables finds.
+  ProgressCounters survey() {
+    ProgressCounters found;
+    const auto count = [&](const QString& table, Level level) {
+      surveyWordTable(*store.database().OpenRecordset(table), found.記憶単熟[level]);
+    };
+    count(tableJTDIC, 中学);
+    count(tableSTDIC, 高校);
+    count(QStringLiteral("BusinessTOEIC"), 専門);
+    surveySentences(*store.database().OpenRecordset(tableBDIC), found.記憶文);
+    return found;
+  }
+
+  test::TestStore store;
+  LearnerFiles learner;
+  CourseChoice course;
+  PracticeConditions conditions;
+  AutoPlaySettings settings;
+  FailingFiles files;
+  test::FakeClock clock;
+  test::FakeRandom random;
+  test::ScriptedDialogs dialogs;
+  test::FakeProgress load;
+  RunClock times;
+  ProgressCounters figures;
+};
+
+TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
+  const unsigned seed = std::random_device()();
+  SCOPED_TRACE(seed);
+  std::mt19937 engine(seed);
+  const auto chance = [&](int most) { return std::uniform_int_distribution(0, most)(engine); };
+  const auto codes = [&] {
+    QString text;
+    for (int i = chance(2); i >= 0; --i) text += QChar(u'0' + chance(2));
+    return text;
+  };
+  const auto stateOf = [&](bool sentence, const QString& record) {
+    return itemState(ParseRecord(record, QString(), sentence ? u'B' : u'1'), QString()).state;
+  };
+  store.database().write([&] {
+    for (int i = 0; i < 40; ++i) {
+      for (const QString& table : {tableJTDIC, tableSTDIC, course.specialTable}) {
+        const QString record = packedCodes(false, codes());
+        store.addWord(table, QStringLiteral("word %1").arg(i), record, stateOf(false, record));
+      }
+      const QString record = packedCodes(true, codes());
+      store.addSentence(digits(chance(9), 1) + digits(i, 5), record, stateOf(true, record));
+    }
+    return true;
+  });
+  const QString lesson = store.folder() + QStringLiteral("/lesson.tav");
+  // A lesson that names items twice, and from three dictionaries.
+  files.write(lesson, "word 1\nword 2\nword 1\nword 3\nword 3\n");
+  conditions.lessonFolder = store.folder();
+  conditions.lessonFile = QStringLiteral("lesson.tav");
+  figures = survey();
+  for (int round = 0; round < 30; ++round) {
+    course.COURSE = QChar(u'0' + chance(2));
+    const QString selMethod = QString(u"024"[chance(2)]);
+    const auto stored = run(selMethod, [&](PracticeItem& item) {
+      if (chance(1) == 0) return;
+      item.itemDirty = true;
+      item.itemRecord = packedCodes(item.isSentence(), codes());
+      figures.countQuestion(course.COURSE, item.itemTable, item.itemEnglish);
+    });
+    ASSERT_TRUE(stored);
+    const ProgressCounters found = survey();
+    ASSERT_EQ(stored->記憶単熟, found.記憶単熟) << qPrintable(course.COURSE + selMethod);
+    ASSERT_EQ(stored->記憶文, found.記憶文);
+    EXPECT_EQ(stored->回数単熟, figures.回数単熟);
+    const auto rows = store.database().OpenRecordset(tableBDIC);
+    rows->Seek(SeekOp::Equal, rowProgress);
+    EXPECT_TRUE(parseProgressRecord(rows->text(field問正コ)).counters == *stored);
+    figures = *stored;
+  }
+}
+
+TEST_F(RunEndTest, WritesALineOfHistory) {
+  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")), memory全然);
+  times.休憩時間 = 20;
+  const auto stored = run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; });
+  ASSERT_TRUE(stored);
+  EXPECT_EQ(stored->時間[専門][0], 40);
+  EXPECT_EQ(stored->記憶文[専門], (Three{1, 0, 0})) << "below 0 it begins anew";
+  const QStringList lines = QString::fromUtf8(*files.read(learner.historyFileWork)).split(u'\n');
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_TRUE(lines[0].startsWith(
+      QStringLiteral("000     2BusinessTOE2026/04/0109:002026/04/0109:0100020")));
+  EXPECT_EQ(lines[0].mid(55, 336),
+            store.stored(tableBDIC, rowProgress, field問正コ).value_or(QString()).mid(9));
+  EXPECT_EQ(lines[0].mid(55 + 336), encodeConditions(conditions).mid(9));
+}
+
+TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
+  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("7")), u'9');
+  store.addWord(course.specialTable, QStringLiteral("a"), packedCodes(false, QStringLiteral("7")));
+  ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
+  EXPECT_EQ(dialogs.shown,
+            (QStringList{QStringLiteral("Stop34 900010"), QStringLiteral("Stop36 900010"),
+                         QStringLiteral("Stop37 900010")}));
+  ASSERT_TRUE(run(QStringLiteral("2"), [&](PracticeItem& item) {
+    item.itemDirty = true;
+    item.itemEnglish = QStringLiteral("gone");
+  }));
+  EXPECT_EQ(dialogs.shown,
+            (QStringList{QStringLiteral("Stop38 gone"), QStringLiteral("Stop39 gone"),
+                         QStringLiteral("No Match rsTDIC :##gone##")}));
+}
+
+TEST_F(RunEndTest, KeepsHereWhatDoesNotGetHome) {
+  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")));
+  const QString placed = store.folder() + QStringLiteral("/placed");
+  learner.placedElsewhere = true;
+  learner.dbFilePlaced = placed + QStringLiteral("/TavoDB000.mdb");
+  learner.condFilePlaced = placed + QStringLiteral("/TavoCond000");
+  learner.historyFilePlaced = placed + QStringLiteral("/TavoHistory000");
+  ASSERT_EQ(files.makeFolder(placed), FileResult::Ok);
+  const struct {
+    const char* name;
+    QStringList refused;
+    bool databaseHome, historyHome, conditionsHome;
+  } cases[] = {
+      {"all well", {}, true, true, true},
+      {"no database", {QStringLiteral("placed/TavoDB000.mdb")}, false, true, true},
+      {"no history", {QStringLiteral("placed/TavoHistory000")}, true, false, true},
+      {"no conditions", {QStringLiteral("placed/TavoCond000")}, true, true, false},
+      {"a full disk",
+       {QStringLiteral("TavoDB000.mdb"), QStringLiteral("TavoHistory000"),
+        QStringLiteral("TavoCond000")},
+       false,
+       false,
+       false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    files.refusedEnds.clear();
+    for (const QString& path : {learner.condFileWork, learner.historyFileWork})
+      files.write(path, "earlier\n");
+    for (const QString& path :
+         {learner.dbFilePlaced, learner.condFilePlaced, learner.historyFilePlaced})
+      files.write(path, "old");
+    files.refusedEnds = c.refused;
+    files.copied.clear();
+    ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
+    EXPECT_EQ(files.read(learner.dbFilePlaced) == files.read(store.path()), c.databaseHome);
+    EXPECT_EQ(files.read(learner.historyFilePlaced) == "old", !c.historyHome);
+    EXPECT_EQ(files.read(learner.condFilePlaced) == "old", !c.conditionsHome);
+    EXPECT_EQ(files.exists(learner.historyFileWork), !c.historyHome);
+    EXPECT_EQ(files.exists(learner.condFileWork), !c.conditionsHome);
+    EXPECT_EQ(files.copied.count(learner.historyFilePlaced), c.historyHome ? 1 : 2);
+    const bool allHome = c.databaseHome && c.historyHome && c.conditionsHome;
+    EXPECT_EQ(dialogs.shown.count(QStringLiteral("練習結果を配置場所に戻せませんでした。結果はこの"
+                                                 "機械の %1 に残っています。")
+                                      .arg(store.folder())),
+              allHome ? 0 : 1);
+  }
+}
+
+}  // namespace
+}  // namespace tavoli

@@ -1,0 +1,303 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "progress/ProgressRecord.h"
+#include "progress/ProgressReport.h"
+#include "progress/ProgressStore.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+/// Every counter below its bound, at random.
+ProgressCounters randomCounters(std::mt19937& engine, int maxCount, int maxTime) {
+  ProgressCounters counters;
+  const auto fill = [&](ByLevel& family, int most) {
+    for (Three& numbers : family)
+      for (int& number : numbers) number = std::uniform_int_distribution(0, most)(engine);
+  };
+  for (ByLevel* family :
+       {&counters.記憶単熟, &counters.記憶文, &counters.回数単熟, &counters.回数文, &counters.回数})
+    fill(*family, maxCount);
+  fill(counters.時間, maxTime);
+  return counters;
+}
+
+TEST(ProgressRecordTest, ComesBackFromItsText) {
+  const unsigned seed = std::random_device()();
+  SCOPED_TRACE(seed);
+  std::mt19937 engine(seed);
+  RunClock times;
+  times.開始時刻 = QDateTime(QDate(2026, 12, 31), QTime(23, 58));
+  times.終了時刻 = QDateTime(QDate(2027, 1, 1), QTime(0, 3));
+  for (int round = 0; round < 200; ++round) {
+    const ProgressCounters counters = randomCounters(engine, 99999, 999999999);
+    const QString record = buildProgressRecord(QStringLiteral("花子"), counters, times);
+    ASSERT_EQ(record.size(), 345);
+    EXPECT_TRUE(record.startsWith(QStringLiteral("花子      2")));
+    EXPECT_TRUE(record.endsWith(QStringLiteral("2026/12/3123:582027/01/0100:03")));
+    const StoredProgress stored = parseProgressRecord(record);
+    EXPECT_TRUE(stored.counters == counters);
+    EXPECT_EQ(stored.previousStart, times.開始時刻);
+  }
+}
+
+TEST(ProgressRecordTest, HasFixedPlaces) {
+  ProgressCounters counters;
+  counters.記憶単熟[中学] = {1, 2, 3};
+  counters.記憶文[専門][0] = 6;
+  counters.時間[高校][1] = 1234567890;
+  counters.回数[専門][2] = 123456;
+  const QString record = buildProgressRecord(QString(), counters, RunClock());
+  EXPECT_EQ(record.mid(9, 5), QStringLiteral("00001"));
+  EXPECT_EQ(record.mid(111, 5), QStringLiteral("00002"));
+  EXPECT_EQ(record.mid(213, 5), QStringLiteral("00003"));
+  EXPECT_EQ(record.mid(9 + 25, 5), QStringLiteral("00006"));
+  EXPECT_EQ(record.mid(111 + 39, 9), QStringLiteral("999999999")) << "no room for more";
+  EXPECT_EQ(record.mid(213 + 97, 5), QStringLiteral("99999"));
+}
+
+TEST(ProgressRecordTest, ReadsZerosWhereThereIsNoNumber) {
+  RunClock times;
+  times.開始時刻 = times.終了時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0));
+  std::mt19937 engine(1);
+  const ProgressCounters full = randomCounters(engine, 99999, 99999);
+  QString record = buildProgressRecord(QStringLiteral("000"), full, times);
+  record.replace(9, 5, QStringLiteral("1x345"));
+  record.replace(14, 5, QStringLiteral(" -123"));
+  const StoredProgress damaged = parseProgressRecord(record.first(300));
+  EXPECT_EQ(damaged.counters.記憶単熟[中学][0], 0);
+  EXPECT_EQ(damaged.counters.記憶単熟[高校][0], 0);
+  EXPECT_EQ(damaged.counters.記憶単熟[専門], full.記憶単熟[専門]) << "the next one has its place";
+  EXPECT_EQ(damaged.counters.回数[専門][2], 0) << "the text ends before it";
+  EXPECT_FALSE(damaged.previousStart.isValid());
+}
+
+TEST(ProgressCountersTest, CountEveryItemInItsCourseAndItsLevel) {
+  const struct {
+    const char* name;
+    QChar COURSE;
+    QChar itemTable;
+    const char16_t* key;
+    Level course;
+    std::optional<Level> words, sentences;
+  } cases[] = {
+      {"中学, first", u'0', u'1', u"a", 中学, 中学, {}},
+      {"中学, second", u'0', u'2', u"a", 中学, 高校, {}},
+      {"高校, first", u'1', u'1', u"a", 高校, 高校, {}},
+      {"高校, second", u'1', u'2', u"a", 高校, 中学, {}},
+      {"専門, first", u'2', u'1', u"a", 専門, 専門, {}},
+      {"専門, second", u'2', u'2', u"a", 専門, 高校, {}},
+      {"専門, third", u'2', u'3', u"a", 専門, 中学, {}},
+      {"sentence 0", u'2', u'B', u"000010", 専門, {}, 中学},
+      {"sentence 4", u'0', u'B', u"499999", 中学, {}, 中学},
+      {"sentence 5", u'0', u'B', u"500000", 中学, {}, 高校},
+      {"sentence 8", u'1', u'B', u"899999", 高校, {}, 高校},
+      {"sentence 9", u'1', u'B', u"900000", 高校, {}, 専門},
+      {"sentence without a number", u'1', u'B', u"x00000", 高校, {}, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const QString key = QString::fromUtf16(c.key);
+    ProgressCounters expected;
+    expected.回数[c.course][0] = 1;
+    if (c.words) expected.回数単熟[*c.words][0] = 1;
+    if (c.sentences) expected.回数文[*c.sentences][0] = 1;
+    ProgressCounters counters;
+    counters.countQuestion(c.COURSE, c.itemTable, key);
+    EXPECT_TRUE(counters == expected);
+
+    // 全然 to 完全: from the last number to the first.
+    ProgressCounters learnt;
+    learnt.記憶単熟.fill({0, 0, 1});
+    learnt.記憶文.fill({0, 0, 1});
+    ProgressCounters grown = learnt;
+    const bool sentence = c.itemTable == u'B';
+    (sentence ? grown.記憶文[c.sentences.value_or(専門)]
+              : grown.記憶単熟[c.words.value_or(専門)]) = {1, 0, 0};
+    MemoryGrowth growth;
+    growth.move(c.COURSE, c.itemTable, key, QStringLiteral("0"), QStringLiteral("2"));
+    growth.move(c.COURSE, c.itemTable, key, QStringLiteral("7"), QStringLiteral("2"));
+    growth.addTo(learnt);
+    EXPECT_TRUE(learnt == grown);
+  }
+}
+
+TEST(ProgressCountersTest, AMemoryCountOutOfRangeBecomesZero) {
+  ProgressCounters counters;
+  counters.記憶単熟[中学] = {32000, 0, 5};
+  MemoryGrowth growth;
+  growth.move(u'0', u'1', QString(), QStringLiteral("1"), QStringLiteral("2"));
+  growth.addTo(counters);
+  EXPECT_EQ(counters.記憶単熟[中学], (Three{0, 0, 5}));
+}
+
+class ProgressStoreTest : public testing::Test {
+ protected:
+  bool load() {
+    times.開始時刻 = clock.time;
+    clock.time = clock.time.addSecs(40);
+    backupDue = false;
+    counters = {};
+    return loadProgress(store.database(), {userId, COURSE, times}, clock, dialogs, counters,
+                        backupDue);
+  }
+  QString storedRecord() {
+    return store.stored(tableBDIC, rowProgress, field問正コ).value_or(QString());
+  }
+
+  test::TestStore store;
+  test::FakeClock clock;
+  test::ScriptedDialogs dialogs;
+  QString userId = QStringLiteral("000");
+  QChar COURSE = u'1';
+  RunClock times;
+  ProgressCounters counters;
+  bool backupDue = false;
+};
+
+TEST_F(ProgressStoreTest, CountsTheTablesForANewLearner) {
+  store.addWord(tableJTDIC, QStringLiteral("a"), QString(), memory全然);
+  store.addWord(tableJTDIC, QStringLiteral("b"), QString(), memory完全);
+  store.addWord(tableJTDIC, QStringLiteral("c"), QString(), u'7');
+  store.addWord(tableSTDIC, QStringLiteral("a"), QString(), memoryうろ覚え);
+  store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("a"), QString(), memory完全);
+  for (const char16_t* 文番 : {u"000010", u"499999", u"500000", u"899999", u"900000", u"x00000"})
+    store.addSentence(QString::fromUtf16(文番), QString(), memoryうろ覚え);
+  store.addSentence(QStringLiteral("zzz"), QString());
+  store.addSentence(rowPassword, QString());
+  ASSERT_TRUE(load());
+  ProgressCounters expected;
+  expected.記憶単熟[中学] = {1, 0, 1};
+  expected.記憶単熟[高校] = {0, 1, 0};
+  expected.記憶単熟[専門] = {1, 0, 0};
+  expected.記憶文[中学] = {0, 2, 0};
+  expected.記憶文[高校] = {0, 2, 0};
+  expected.記憶文[専門] = {0, 1, 0};
+  EXPECT_TRUE(counters == expected) << "and no time yet";
+  EXPECT_FALSE(backupDue);
+  EXPECT_EQ(storedRecord()[8], u'2');
+  EXPECT_EQ(store.stored(tableBDIC, rowProgress, field回数), QStringLiteral("00"));
+  ASSERT_TRUE(load());
+  EXPECT_TRUE(counters == expected) << "found again";
+}
+
+TEST_F(ProgressStoreTest, RollsOverInALaterMonthOnly) {
+  const struct {
+    const char* name;
+    QDate last, now;
+    bool rolls;
+  } cases[] = {
+      {"the same day", {2026, 4, 1}, {2026, 4, 1}, false},
+      {"the month's last day", {2026, 4, 1}, {2026, 4, 30}, false},
+      {"the next month's first day", {2026, 4, 30}, {2026, 5, 1}, true},
+      {"the year's end", {2026, 12, 31}, {2027, 1, 1}, true},
+      {"two months skipped", {2026, 11, 30}, {2027, 2, 1}, true},
+      {"the clock put back", {2026, 4, 1}, {2026, 3, 31}, false},
+      {"put back by a year, to a later month's name", {2026, 4, 1}, {2025, 12, 1}, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    ProgressCounters before;
+    before.回数[高校] = {5, 3, 10};
+    before.回数文[中学] = {1, 0, 0};
+    before.時間[高校] = {100, 7, 20};
+    before.記憶文[中学] = {4, 5, 6};
+    RunClock last;
+    last.開始時刻 = last.終了時刻 = QDateTime(c.last, QTime(23, 59));
+    const auto rows = store.database().OpenRecordset(tableBDIC);
+    ASSERT_TRUE(saveProgressRecord(*rows, buildProgressRecord(userId, before, last)));
+    clock.time = QDateTime(c.now, QTime(0, 0));
+    ASSERT_TRUE(load());
+    EXPECT_EQ(backupDue, c.rolls);
+    ProgressCounters expected = before;
+    if (c.rolls) {
+      expected.回数[高校] = {0, 5, 15};
+      expected.回数文[中学] = {0, 1, 1};
+      expected.時間[高校] = {40, 100, 120};  // and the seconds since the program's start
+    }
+    EXPECT_TRUE(counters == expected);
+    EXPECT_TRUE(parseProgressRecord(storedRecord()).counters == expected);
+    ASSERT_TRUE(load());
+    EXPECT_TRUE(counters == expected) << "a second login of the month";
+    EXPECT_FALSE(backupDue);
+  }
+}
+
+TEST_F(ProgressStoreTest, ARecordWithoutADateStaysInItsMonth) {
+  ASSERT_TRUE(load());
+  const auto rows = store.database().OpenRecordset(tableBDIC);
+  QString record = storedRecord();
+  record.replace(315, 10, QStringLiteral("2026/99/99"));
+  ASSERT_TRUE(saveProgressRecord(*rows, record));
+  clock.time = clock.time.addMonths(3);
+  ASSERT_TRUE(load());
+  EXPECT_FALSE(backupDue);
+}
+
+TEST_F(ProgressStoreTest, BooksTheTimeWithoutTheRest) {
+  times.開始時刻 = clock.time;
+  times.休憩時間 = 100;
+  clock.time = clock.time.addSecs(700);
+  COURSE = u'2';
+  bookTime({userId, COURSE, times}, counters, clock, dialogs);
+  EXPECT_EQ(counters.時間[専門], (Three{600, 0, 0}));
+  EXPECT_EQ(times.終了時刻, clock.time);
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+
+  clock.time = times.開始時刻.addSecs(-1);
+  bookTime({userId, COURSE, times}, counters, clock, dialogs);
+  EXPECT_EQ(counters.時間[専門], (Three{600, 0, 0})) << "the clock was put back";
+  EXPECT_EQ(times.終了時刻, times.開始時刻);
+  EXPECT_EQ(times.休憩時間, 0);
+  ASSERT_EQ(dialogs.shown.size(), 1);
+  EXPECT_TRUE(dialogs.shown[0].startsWith(
+      QStringLiteral("DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0")));
+}
+
+TEST(ProgressReportTest, NamesAndFormatsWhatItShows) {
+  ProgressCounters counters;
+  counters.記憶単熟[高校] = {1234567, 2, 3};
+  counters.時間[専門] = {5400, 36, 4000000};
+  counters.回数[中学] = {10, 20, 30};
+  counters.回数[高校] = {1, 2, 3};
+  counters.回数文[専門] = {7, 8, 9};
+  counters.回数単熟[中学] = {1000, 0, 0};
+  const ProgressReport report(counters);
+
+  const BarChart words = report.charts(高校)[0];
+  EXPECT_EQ(words.name, QStringLiteral("MSChart2"));
+  EXPECT_EQ(words.title, QStringLiteral("記憶単熟高校"));
+  EXPECT_EQ(words.columns.size(), 3);
+  EXPECT_EQ(words.values, (std::vector<double>{1234567, 2, 3}));
+  const BarChart time = report.charts(専門)[2];
+  EXPECT_EQ(time.name, QStringLiteral("MSChart9"));
+  EXPECT_EQ(time.values, (std::vector<double>{1.5, 0.01})) << "hours; 先月まで has no bar";
+  EXPECT_EQ(report.charts(専門)[5].name, QStringLiteral("MSChart18"));
+  EXPECT_EQ(report.charts(専門)[5].title, QStringLiteral("回数文専門DB"));
+
+  const std::vector<NumberTable> tables = report.tables();
+  ASSERT_EQ(tables.size(), 4U);
+  const QList<qsizetype> heights = {6, 3, 4, 7};
+  for (int i = 0; i < 4; ++i) {
+    const NumberTable& table = tables[static_cast<size_t>(i)];
+    EXPECT_EQ(table.rows.size(), heights[i]);
+    EXPECT_EQ(table.cells.size(), heights[i]);
+  }
+  EXPECT_EQ(tables[0].title, QStringLiteral("　記憶・DB別"));
+  EXPECT_EQ(tables[0].rows[3], QStringLiteral("　 文・中学DB"));
+  EXPECT_EQ(tables[0].cells[1][0], QStringLiteral("1,234,567"));
+  EXPECT_EQ(tables[1].cells[2],
+            (QStringList{QStringLiteral("1.50 時間"), QStringLiteral("0.01 時間"),
+                         QStringLiteral("1,111.11 時間")}));
+  EXPECT_EQ(tables[2].cells[3],
+            (QStringList{QStringLiteral("11"), QStringLiteral("22"), QStringLiteral("33")}));
+  EXPECT_EQ(tables[3].cells[6],
+            (QStringList{QStringLiteral("1,007"), QStringLiteral("8"), QStringLiteral("9")}));
+  EXPECT_EQ(report.printedTables()[3].rows[6], QStringLiteral("合　　計  "));
+}
+
+}  // namespace
+}  // namespace tavoli
