@@ -131,6 +131,12 @@ void openDatabase(const QString& path, std::optional<Database>& database, int& e
   }
 }
 
+QStringList specialTables(const Database& database) {
+  QStringList tables = database.TableDefs();
+  tables.removeIf([](const QString& table) { return !isSpecialTable(table); });
+  return tables;
+}
+
 std::optional<Database> createDatabase(const QString& path) {
   if (QFile::exists(path)) return std::nullopt;
   try {

@@ -55,6 +55,9 @@ class Database {
 /// of openError; `database` is empty unless it is 0.
 void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber);
 
+/// The specialist dictionaries of a database, in the order in which they were made.
+QStringList specialTables(const Database& database);
+
 /// A new file with no table; nothing when it cannot be made. An existing file is an error.
 std::optional<Database> createDatabase(const QString& path);
 

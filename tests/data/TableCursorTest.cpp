@@ -162,6 +162,16 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
   }
 }
 
+TEST(OpenDatabaseTest, ListsTheSpecialistDictionariesOnly) {
+  TestStore store;
+  EXPECT_EQ(specialTables(store.database()), QStringList{QStringLiteral("BusinessTOEIC")});
+  for (const char16_t* table : {u"MSysObjects", u"USysOwn", u"医学MSys", u"Anatomy"})
+    ASSERT_TRUE(store.database().createTable(QString::fromUtf16(table)));
+  EXPECT_EQ(specialTables(store.database()),
+            QStringList({QStringLiteral("BusinessTOEIC"), QStringLiteral("医学MSys"),
+                         QStringLiteral("Anatomy")}));
+}
+
 TEST(OpenDatabaseTest, DamageInTheMiddleOpensButIsNotSound) {
   TestStore store;
   for (int i = 0; i < 400; ++i) store.addSentence(digits(i, 6), QString(500, QChar(u'a' + i % 26)));
