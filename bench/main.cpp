@@ -6,14 +6,14 @@
 #include <string>
 
 // Every measurement "x" has a twin "x/bare" that does the same work without us; what counts is the
-// ratio of the two in one run.
+// ratio of the two in one run, in time of the processor.
 namespace {
 
 class RatioReporter final : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
     ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs) m_times[run.benchmark_name()] = run.GetAdjustedRealTime();
+    for (const Run& run : runs) m_times[run.benchmark_name()] = run.GetAdjustedCPUTime();
   }
 
   void printRatios() const {

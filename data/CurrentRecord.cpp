@@ -41,13 +41,20 @@ SubQuestion parseAnswer(QStringView element) {
   return answer;
 }
 
-QString packAnswer(const SubQuestion& answer) {
-  return digits(answer.先頭文字数, 2) + answer.記 + digits(static_cast<int>(answer.正.size()), 3) +
-         answer.正 + answer.同 + elementMark;
+void packAnswer(const SubQuestion& answer, QString& list) {
+  list += digits(answer.先頭文字数, 2);
+  list += answer.記;
+  list += digits(static_cast<int>(answer.正.size()), 3);
+  list += answer.正;
+  list += answer.同;
+  list += elementMark;
 }
 
-QString packMeaning(const SubQuestion& meaning) {
-  return meaning.記 + digits(meaning.小問回数, 2) + meaning.日本語 + elementMark;
+void packMeaning(const SubQuestion& meaning, QString& list) {
+  list += meaning.記;
+  list += digits(meaning.小問回数, 2);
+  list += meaning.日本語;
+  list += elementMark;
 }
 
 }  // namespace
@@ -84,12 +91,27 @@ CurrentRecord ParseRecord(const QString& recordText, const QString& key, QChar t
 }
 
 QString packRecord(const CurrentRecord& record) {
-  QString list;
-  for (const SubQuestion& s : record.小問) list += record.sentence ? packAnswer(s) : packMeaning(s);
-  if (record.sentence) return record.問題文 + fieldMark + list + fieldMark + record.コメント;
-  QString synonyms;
-  for (const QString& synonym : record.同) synonyms += synonym + elementMark;
-  return record.発音 + fieldMark + synonyms + fieldMark + list + fieldMark + record.コメント;
+  QString text;
+  constexpr int usualLength = 256;
+  text.reserve(usualLength);
+  text += record.sentence ? record.問題文 : record.発音;
+  text += fieldMark;
+  if (!record.sentence) {
+    for (const QString& synonym : record.同) {
+      text += synonym;
+      text += elementMark;
+    }
+    text += fieldMark;
+  }
+  for (const SubQuestion& s : record.小問) {
+    if (record.sentence)
+      packAnswer(s, text);
+    else
+      packMeaning(s, text);
+  }
+  text += fieldMark;
+  text += record.コメント;
+  return text;
 }
 
 QString BuildPronunciationText(const QString& 発音, const QString& shownBefore) {

@@ -60,13 +60,36 @@ QStringList Database::TableDefs() const {
   return names;
 }
 
-std::unique_ptr<TableCursor> Database::OpenRecordset(const QString& table) {
+std::unique_ptr<TableCursor> Database::OpenRecordset(const QString& table,
+                                                     const QStringList& fields) {
   try {
     if (!m_connection->tableExists(table.toStdString())) return nullptr;
-    auto cursor = std::make_unique<TableCursor>(*m_connection, table);
+    auto cursor = std::make_unique<TableCursor>(*m_connection, table, fields);
     return cursor->failed() ? nullptr : std::move(cursor);
   } catch (const SQLite::Exception&) {
     return nullptr;
+  }
+}
+
+bool Database::scanCodes(const QString& table, const QString& field,
+                         const std::function<void(char initial, char code)>& visit) const {
+  const auto asciiOrNone = [](char c) { return c > 0 ? c : '\0'; };
+  try {
+    if (!m_connection->tableExists(table.toStdString())) return false;
+    const QString key = keyField(table);
+    const QString sql = QStringLiteral("SELECT %1,%2 FROM %3 ORDER BY %4,%1,rowid")
+                            .arg(key, field, schema::quoted(table), schema::orderColumn);
+    SQLite::Statement rows(*m_connection, sql.toStdString());
+    while (rows.executeStep()) {
+      const char* keyText = rows.getColumn(0).getText();
+      if (isReservedKey(keyText)) break;
+      const char* code = rows.getColumn(1).getText();
+      visit(asciiOrNone(keyText[0]),
+            code[0] != '\0' && code[1] == '\0' ? asciiOrNone(code[0]) : '\0');
+    }
+    return true;
+  } catch (const SQLite::Exception&) {
+    return false;
   }
 }
 
@@ -111,8 +134,8 @@ void openDatabase(const QString& path, std::optional<Database>& database, int& e
     return;
   }
   try {
-    auto connection = std::make_unique<SQLite::Database>(path.toStdString(), SQLite::OPEN_READWRITE,
-                                                         busyMilliseconds);
+    auto connection = std::make_unique<SQLite::Database>(
+        path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     // SQLite reads the file only when it must: this makes it look.
     const int fileVersion = numberOfPragma(*connection, "user_version");
     if (sqlite3_db_readonly(connection->getHandle(), "main") == 1) {
@@ -141,7 +164,8 @@ std::optional<Database> createDatabase(const QString& path) {
   if (QFile::exists(path)) return std::nullopt;
   try {
     auto connection = std::make_unique<SQLite::Database>(
-        path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, busyMilliseconds);
+        path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
+        busyMilliseconds);
     schema::stamp(*connection);
     return Database(std::move(connection));
   } catch (const SQLite::Exception&) {

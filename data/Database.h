@@ -34,8 +34,14 @@ class Database {
   /// The names of all tables, in the order in which they were made.
   QStringList TableDefs() const;
   /// A cursor on the table's first row in key order; nothing when the table is missing or is no
-  /// table of a personal database.
-  std::unique_ptr<TableCursor> OpenRecordset(const QString& table);
+  /// table of a personal database. With `fields` it reads only these and the key, and is faster.
+  std::unique_ptr<TableCursor> OpenRecordset(const QString& table, const QStringList& fields = {});
+
+  /// Walks over a table in one pass, up to its reserved rows: `visit` gets the first character of
+  /// each key and the one character of `field`, 0 where the key begins with no ASCII character or
+  /// the field does not hold one ASCII character. False when the table could not be read.
+  bool scanCodes(const QString& table, const QString& field,
+                 const std::function<void(char initial, char code)>& visit) const;
 
   /// Does all the work's writing in one transaction: all of it is kept, or, when the work returns
   /// false or a write fails, nothing. Returns whether it was kept.

@@ -8,6 +8,10 @@ bool isReservedKey(const QString& key) {
   return key.startsWith(QStringLiteral("zzzz"), Qt::CaseInsensitive);
 }
 
+bool isReservedKey(const char* key) {
+  return qstrnicmp(key, "zzzz", 4) == 0;
+}
+
 bool isSpecialTable(const QString& table) {
   return table != tableBDIC && table != tableJTDIC && table != tableSTDIC &&
          !table.startsWith(QStringLiteral("USys")) && !table.startsWith(QStringLiteral("MSys"));

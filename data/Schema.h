@@ -35,6 +35,8 @@ inline const QString rowConditions = QStringLiteral("zzzzzzzzzzzzzzzzzzzz2");
 /// Keys that begin with "zzzz" hold the learner's own rows and end marks. They stand behind all
 /// content in key order.
 bool isReservedKey(const QString& key);
+/// The same for a key in UTF-8.
+bool isReservedKey(const char* key);
 
 /// True for every table of a personal database that is a specialist dictionary: all but BDIC,
 /// JTDIC, STDIC and those whose name begins with "USys" or "MSys".

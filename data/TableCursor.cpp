@@ -10,12 +10,15 @@ using schema::keyOrder;
 using schema::orderColumn;
 using schema::quoted;
 
-TableCursor::TableCursor(SQLite::Database& database, const QString& table)
-    : m_database(database), m_table(table), m_keyField(keyField(table)) {
+TableCursor::TableCursor(SQLite::Database& database, const QString& table,
+                         const QStringList& fields)
+    : m_database(database), m_table(table), m_keyField(keyField(table)), m_fields(m_keyField) {
   SQLite::Statement columns(
       database, QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table)).toStdString());
-  while (columns.executeStep())
-    m_fields.append(QString::fromUtf8(columns.getColumn("name").getText()));
+  while (columns.executeStep()) {
+    const QString field = QString::fromUtf8(columns.getColumn("name").getText());
+    if (field != m_keyField && (fields.isEmpty() || fields.contains(field))) m_fields.append(field);
+  }
   MoveFirst();
 }
 
@@ -37,9 +40,12 @@ QString TableCursor::sqlOf(Query query) const {
     case Query::Last:
       order = descending;
       break;
+    case Query::Exact:
+      where = keyIs.arg(orderColumn, QStringLiteral("="), key) +
+              QStringLiteral(" AND %1=?1").arg(m_keyField);
+      break;
     case Query::Equal:
       where = keyIs.arg(orderColumn, QStringLiteral("="), key);
-      order = QStringLiteral("%1<>?1,%2").arg(m_keyField, ascending);
       break;
     case Query::AtOrAfter:
       where = keyIs.arg(orderColumn, QStringLiteral(">="), key);
@@ -88,10 +94,11 @@ void TableCursor::step() {
     for (int i = 0; i < m_fields.size(); ++i) {
       const SQLite::Column column = m_walk->getColumn(i + 1);
       Field& field = m_row[static_cast<size_t>(i)];
-      if (column.isNull())
-        field.reset();
+      const char* text = column.getText(nullptr);
+      if (text)
+        field = QString::fromUtf8(text, column.getBytes());
       else
-        field = QString::fromUtf8(column.getText(), column.getBytes());
+        field.reset();
     }
     m_place = Place::OnRow;
   } catch (const SQLite::Exception&) {
@@ -110,19 +117,29 @@ void TableCursor::stopWalk() {
 void TableCursor::Seek(SeekOp op, const QString& key) {
   stopWalk();
   m_failed = false;
+  if (op == SeekOp::Equal) {
+    seekEqual(key);
+    return;
+  }
   const bool backward = op == SeekOp::AtOrBefore;
-  const Query query = op == SeekOp::Equal ? Query::Equal
-                      : backward          ? Query::AtOrBefore
-                                          : Query::AtOrAfter;
-  SQLite::Statement& statement = prepared(query);
+  SQLite::Statement& statement = prepared(backward ? Query::AtOrBefore : Query::AtOrAfter);
   statement.bind(1, key.toStdString());
   start(statement, backward ? Direction::Backward : Direction::Forward);
   m_noMatch = !hasRow();
-  // The order of an equal match is its own: later moves must start from the row that it found.
-  if (op == SeekOp::Equal) {
+}
+
+void TableCursor::seekEqual(const QString& key) {
+  const std::string text = key.toStdString();
+  for (const Query query : {Query::Exact, Query::Equal}) {
+    SQLite::Statement& statement = prepared(query);
+    statement.bind(1, text);
+    start(statement, Direction::Forward);
+    // The statement yields matches only: later moves must start from the row that it found.
     stopWalk();
-    if (m_noMatch) m_place = Place::Nowhere;
+    if (hasRow() || m_failed) break;
   }
+  m_noMatch = !hasRow();
+  if (m_noMatch) m_place = Place::Nowhere;
 }
 
 void TableCursor::MoveFirst() {
@@ -160,66 +177,93 @@ void TableCursor::move(Direction direction) {
 }
 
 QString TableCursor::key() const {
-  return text(m_keyField);
+  return hasRow() ? m_row.front().value_or(QString()) : QString();
 }
 
-Field TableCursor::value(const QString& field) const {
+const Field& TableCursor::value(const QString& field) const {
+  static const Field null;
   const qsizetype index = m_fields.indexOf(field);
-  if (!hasRow() || index < 0) return std::nullopt;
+  if (!hasRow() || index < 0) return null;
   return m_row[static_cast<size_t>(index)];
 }
 
 void TableCursor::AddNew() {
   m_pending = Pending::Adding;
+  m_changedFields.clear();
   m_changes.clear();
 }
 
 void TableCursor::Edit() {
   m_pending = hasRow() ? Pending::Editing : Pending::None;
+  m_changedFields.clear();
   m_changes.clear();
 }
 
 void TableCursor::setValue(const QString& field, const Field& value) {
-  m_changes[field] = value;
+  const qsizetype known = m_changedFields.indexOf(field);
+  if (known >= 0) {
+    m_changes[static_cast<size_t>(known)] = value;
+    return;
+  }
+  m_changedFields.append(field);
+  m_changes.push_back(value);
+}
+
+SQLite::Statement& TableCursor::preparedUpdate() {
+  if (!m_update || m_updateFields != m_changedFields) {
+    QStringList assignments;
+    for (const QString& field : std::as_const(m_changedFields))
+      assignments.append(quoted(field) + QStringLiteral("=?"));
+    const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid=?")
+                            .arg(quoted(m_table), assignments.join(u','));
+    m_update = std::make_unique<SQLite::Statement>(m_database, sql.toStdString());
+    m_updateFields = m_changedFields;
+  }
+  m_update->reset();
+  return *m_update;
 }
 
 bool TableCursor::Update() {
   const Pending pending = std::exchange(m_pending, Pending::None);
   if (pending == Pending::None) return false;
   stopWalk();
-  try {
-    QStringList names;
-    QStringList places;
-    const QStringList changed = m_changes.keys();
-    for (const QString& field : changed) {
-      names.append(quoted(field));
-      places.append(QStringLiteral("?"));
-    }
-    QString sql;
-    if (pending == Pending::Adding) {
-      sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                .arg(quoted(m_table), names.join(u','), places.join(u','));
-    } else {
-      sql = QStringLiteral("UPDATE %1 SET %2=? WHERE rowid=%3")
-                .arg(quoted(m_table), names.join(QStringLiteral("=?,")))
-                .arg(m_rowId);
-    }
-    SQLite::Statement statement(m_database, sql.toStdString());
-    for (int i = 0; i < changed.size(); ++i) {
-      const Field& value = m_changes[changed[i]];
+  const auto places = static_cast<int>(m_changes.size());
+  std::vector<std::string> texts(m_changes.size());
+  const auto bindChanges = [&](SQLite::Statement& statement) {
+    for (int i = 0; i < places; ++i) {
+      const Field& value = m_changes[static_cast<size_t>(i)];
+      std::string& text = texts[static_cast<size_t>(i)];
       if (value)
-        statement.bind(i + 1, value->toStdString());
+        statement.bindNoCopy(i + 1, text = value->toStdString());
       else
         statement.bind(i + 1);
     }
-    statement.exec();
+  };
+  try {
+    if (pending == Pending::Editing) {
+      SQLite::Statement& statement = preparedUpdate();
+      bindChanges(statement);
+      statement.bind(places + 1, static_cast<int64_t>(m_rowId));
+      statement.exec();
+    } else {
+      QStringList names;
+      for (const QString& field : std::as_const(m_changedFields)) names.append(quoted(field));
+      const QString marks = QStringList(places, QStringLiteral("?")).join(u',');
+      SQLite::Statement statement(m_database, QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                                                  .arg(quoted(m_table), names.join(u','), marks)
+                                                  .toStdString());
+      bindChanges(statement);
+      statement.exec();
+    }
   } catch (const SQLite::Exception&) {
     m_failed = true;
     return false;
   }
   if (pending == Pending::Editing) {
-    for (auto change = m_changes.cbegin(); change != m_changes.cend(); ++change)
-      m_row[static_cast<size_t>(m_fields.indexOf(change.key()))] = change.value();
+    for (int i = 0; i < places; ++i) {
+      const qsizetype index = m_fields.indexOf(m_changedFields[i]);
+      if (index >= 0) m_row[static_cast<size_t>(index)] = m_changes[static_cast<size_t>(i)];
+    }
   }
   return true;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -28,7 +27,8 @@ enum class SeekOp { Equal, AtOrAfter, AtOrBefore };
 /// sets failed(), until the next Seek, MoveFirst or MoveLast.
 class TableCursor {
  public:
-  TableCursor(SQLite::Database& database, const QString& table);
+  /// With `fields` only these and the key are read, the others count as NULL; all may be written.
+  TableCursor(SQLite::Database& database, const QString& table, const QStringList& fields = {});
   ~TableCursor();
   TableCursor(const TableCursor&) = delete;
   TableCursor& operator=(const TableCursor&) = delete;
@@ -47,8 +47,8 @@ class TableCursor {
   bool hasRow() const { return m_place == Place::OnRow; }
   /// The key of the current row; empty when there is none.
   QString key() const;
-  /// NULL where there is no current row.
-  Field value(const QString& field) const;
+  /// NULL where there is no current row. Stands until the cursor moves.
+  const Field& value(const QString& field) const;
   /// The same with "" for NULL.
   QString text(const QString& field) const { return value(field).value_or(QString()); }
 
@@ -67,13 +67,17 @@ class TableCursor {
   enum class Direction { Forward, Backward };
   enum class Pending { None, Adding, Editing };
 
-  enum class Query { First, Last, Equal, AtOrAfter, AtOrBefore, After, Before };
-  static constexpr size_t queryCount = 7;
+  enum class Query { First, Last, Exact, Equal, AtOrAfter, AtOrBefore, After, Before };
+  static constexpr size_t queryCount = 8;
 
   /// The text of a query; ?1 is a key, ?2 a row id.
   QString sqlOf(Query query) const;
   /// The query's statement, made at its first use.
   SQLite::Statement& prepared(Query query);
+  /// The statement that changes these fields of a row; the last one is kept, since rows are mostly
+  /// changed alike. Its last place is the row id's.
+  SQLite::Statement& preparedUpdate();
+  void seekEqual(const QString& key);
   /// Runs a row-yielding statement to its first row and makes it the walk that moves go on with.
   void start(SQLite::Statement& statement, Direction direction);
   void step();
@@ -83,7 +87,7 @@ class TableCursor {
   SQLite::Database& m_database;
   QString m_table;
   QString m_keyField;
-  QStringList m_fields;
+  QStringList m_fields;  ///< those that are read, the key first
   std::array<std::unique_ptr<SQLite::Statement>, queryCount> m_statements;
 
   SQLite::Statement* m_walk = nullptr;
@@ -95,7 +99,10 @@ class TableCursor {
   std::vector<Field> m_row;
 
   Pending m_pending = Pending::None;
-  QHash<QString, Field> m_changes;
+  QStringList m_changedFields;
+  std::vector<Field> m_changes;
+  QStringList m_updateFields;
+  std::unique_ptr<SQLite::Statement> m_update;
 };
 
 }  // namespace tavoli

@@ -44,7 +44,7 @@ QString cutFrom(QStringView text, qsizetype position) {
 }
 
 int numberOf(QStringView text) {
-  return QLocale::c().toInt(numberStart(text, false));
+  return numberStart(text, false).toInt();
 }
 
 double realOf(QStringView text) {
@@ -52,7 +52,7 @@ double realOf(QStringView text) {
 }
 
 QString digits(int value, int digits) {
-  return QStringLiteral("%1").arg(value, digits, 10, QLatin1Char('0'));
+  return QString::number(value).rightJustified(digits, u'0');
 }
 
 QString fixedWidth(QStringView text, int width) {

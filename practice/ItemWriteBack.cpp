@@ -34,25 +34,35 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
   return result;
 }
 
+ItemWriteBack::ItemWriteBack(Database& database, const CourseChoice& course)
+    : m_COURSE(course.COURSE), m_rsBDIC(database.OpenRecordset(tableBDIC, {field記憶})) {
+  for (const QString& table : prWhichTable(course))
+    m_rsTDIC.push_back(database.OpenRecordset(table, {field記憶}));
+}
+
 bool ItemWriteBack::WriteBackItem(PracticeItem& item) {
   const ItemState summed =
       itemState(ParseRecord(item.itemRecord, item.itemEnglish, item.itemTable), item.itemEnglish);
   m_complaints += summed.complaints;
   item.itemMemory = summed.state;
-  if (item.isSentence()) return updateSentenceRow(m_tables.rsBDIC(), item);
-  return updateDictionaryRow(m_tables.rsTDIC(item.itemTable.unicode() - u'0'), item);
+  TableCursor* rows = item.isSentence()
+                          ? m_rsBDIC.get()
+                          : m_rsTDIC[static_cast<size_t>(item.itemTable.unicode() - u'1')].get();
+  if (!rows) return false;
+  return item.isSentence() ? updateSentenceRow(*rows, item) : updateDictionaryRow(*rows, item);
 }
 
 void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item) {
   // The row's own state, not the one that was loaded: a lesson may name an item twice, and then the
   // second one finds what the first has left.
-  const QString old = rows.text(field記憶);
+  const QString code = rows.text(field記憶);
+  const QChar old = code.size() == 1 ? code[0] : QChar();
   if (!memoryPlace(old)) {
     m_complaints.append(
         (item.isSentence() ? QStringLiteral("Stop37 ") : QStringLiteral("Stop3B ")) +
         item.itemEnglish);
   }
-  m_growth.move(m_COURSE, item.itemTable, item.itemEnglish, old, QString(item.itemMemory));
+  m_growth.move(m_COURSE, item.itemTable, item.itemEnglish, old, item.itemMemory);
 }
 
 bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& item) {

@@ -2,7 +2,11 @@
 
 #include <QStringList>
 
-#include "practice/LearningTables.h"
+#include <memory>
+#include <vector>
+
+#include "conditions/PracticeConditions.h"
+#include "data/Database.h"
 #include "practice/PracticeSet.h"
 #include "progress/ProgressCounters.h"
 
@@ -19,7 +23,8 @@ ItemState itemState(const CurrentRecord& record, const QString& key);
 /// Stores items of a run in their rows, and follows how the learner's memory counts change by it.
 class ItemWriteBack {
  public:
-  ItemWriteBack(LearningTables& tables, QChar COURSE) : m_tables(tables), m_COURSE(COURSE) {}
+  /// The tables of the course must be in `database`.
+  ItemWriteBack(Database& database, const CourseChoice& course);
 
   /// Sums the item's state up and stores it with the item's record and count. A row that has gone
   /// is no failure. False when the row could not be written.
@@ -35,8 +40,9 @@ class ItemWriteBack {
   /// The row of `item` is about to get the item's state in the place of its own.
   void follow(const TableCursor& rows, const PracticeItem& item);
 
-  LearningTables& m_tables;
   QChar m_COURSE;
+  std::unique_ptr<TableCursor> m_rsBDIC;
+  std::vector<std::unique_ptr<TableCursor>> m_rsTDIC;  ///< by place, from "1"
   MemoryGrowth m_growth;
   QStringList m_complaints;
 };

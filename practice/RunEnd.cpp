@@ -54,7 +54,7 @@ std::optional<ProgressCounters> RunEnd::saveRunEnd(std::unique_ptr<LearningTable
   QString progressRecord;
   ProgressCounters stored;
   const auto writeAll = [&] {
-    ItemWriteBack items(*tables, run.course.COURSE);
+    ItemWriteBack items(tables->database(), run.course);
     for (int i = 1; i <= set.itemCount(); ++i)
       if (set.item(i).itemDirty && !items.WriteBackItem(set.item(i))) return false;
     complaints = items.complaints();

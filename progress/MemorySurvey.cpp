@@ -17,12 +17,16 @@ MemorySurvey::MemorySurvey(const QString& dbFileWork, ProgressCounters& counters
       m_screen(screen) {}
 
 void MemorySurvey::surveyWords(Level level) {
-  survey(level == 中学 ? tableJTDIC : tableSTDIC,
-         [&](TableCursor& rows) { surveyWordTable(rows, m_counters.記憶単熟[level]); });
+  survey([&](const Database& database) {
+    return surveyWordTable(database, level == 中学 ? tableJTDIC : tableSTDIC,
+                           m_counters.記憶単熟[level]);
+  });
 }
 
 void MemorySurvey::surveySentences() {
-  survey(tableBDIC, [&](TableCursor& rows) { tavoli::surveySentences(rows, m_counters.記憶文); });
+  survey([&](const Database& database) {
+    return tavoli::surveySentences(database, m_counters.記憶文);
+  });
 }
 
 void MemorySurvey::surveySpecial(const QString& table) {
@@ -39,22 +43,24 @@ void MemorySurvey::surveySpecial(const QString& table) {
                        .arg(m_specialTable));
     return;
   }
-  survey(m_specialTable,
-         [&](TableCursor& rows) { surveyWordTable(rows, m_counters.記憶単熟[専門]); });
+  survey([&](const Database& opened) {
+    return surveyWordTable(opened, m_specialTable, m_counters.記憶単熟[専門]);
+  });
 }
 
-void MemorySurvey::survey(const QString& table, const std::function<void(TableCursor&)>& count) {
+void MemorySurvey::survey(const std::function<bool(const Database&)>& count) {
   if (!m_dialogs.ask(QStringLiteral("調査・更新をしますか？"))) return;
   m_screen.setBusy(true);
   std::optional<Database> database;
   int dbOpenError = 0;
   openDatabase(m_dbFileWork, database, dbOpenError);
-  const auto rows = database ? database->OpenRecordset(table) : nullptr;
-  if (rows) count(*rows);
+  const ProgressCounters before = m_counters;
+  const bool counted = database && count(*database);
   m_screen.setBusy(false);
-  if (!rows) {
-    m_dialogs.show(
-        QStringLiteral("%1 の %2 を読めないので、調査できませんでした。").arg(m_dbFileWork, table));
+  if (!counted) {
+    m_counters = before;
+    m_dialogs.show(QStringLiteral("%1 を読めないので、調査できませんでした。数値は元のままです。")
+                       .arg(m_dbFileWork));
     return;
   }
   m_screen.DispAchieve();

@@ -8,8 +8,8 @@
 
 namespace tavoli {
 
+class Database;
 class Dialogs;
-class TableCursor;
 
 /// What the survey asks of the screen that shows the figures.
 class SurveyScreen {
@@ -39,8 +39,8 @@ class MemorySurvey {
   void surveySpecial(const QString& table);
 
  private:
-  /// Asks, and on Yes counts a table with `count`.
-  void survey(const QString& table, const std::function<void(TableCursor&)>& count);
+  /// Asks, and on Yes counts with `count`; when that fails the figures stay what they were.
+  void survey(const std::function<bool(const Database&)>& count);
 
   const QString& m_dbFileWork;
   ProgressCounters& m_counters;

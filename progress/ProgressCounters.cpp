@@ -10,6 +10,10 @@ constexpr QChar tableOfSentences = u'B';
 constexpr QChar thirdPlace = u'3';
 constexpr int maxMemoryCount = 32000;
 
+std::optional<Level> levelOf(const QString& 文番) {
+  return sentenceLevel(文番.isEmpty() ? QChar() : 文番[0]);
+}
+
 }  // namespace
 
 Level courseLevel(QChar COURSE) {
@@ -23,23 +27,22 @@ Level wordLevel(QChar COURSE, QChar itemTable) {
                [static_cast<size_t>(std::clamp(itemTable.unicode() - u'1', 0, 2))];
 }
 
-std::optional<Level> sentenceLevel(const QString& 文番) {
-  const QChar first = 文番.isEmpty() ? QChar() : 文番[0];
-  if (first < u'0' || first > u'9') return std::nullopt;
-  if (first < u'5') return 中学;
-  return first < u'9' ? 高校 : 専門;
+std::optional<Level> sentenceLevel(QChar initial) {
+  if (initial < u'0' || initial > u'9') return std::nullopt;
+  if (initial < u'5') return 中学;
+  return initial < u'9' ? 高校 : 専門;
 }
 
-std::optional<size_t> memoryPlace(QStringView code) {
-  if (code.size() != 1 || code[0] < u'0' || code[0] > u'2') return std::nullopt;
-  return static_cast<size_t>(u'2' - code[0].unicode());
+std::optional<size_t> memoryPlace(QChar code) {
+  if (code < u'0' || code > u'2') return std::nullopt;
+  return static_cast<size_t>(u'2' - code.unicode());
 }
 
 void ProgressCounters::countQuestion(QChar COURSE, QChar itemTable, const QString& itemEnglish) {
   ++回数[courseLevel(COURSE)][0];
   if (itemTable != tableOfSentences) {
     ++回数単熟[wordLevel(COURSE, itemTable)][0];
-  } else if (const std::optional<Level> level = sentenceLevel(itemEnglish)) {
+  } else if (const std::optional<Level> level = levelOf(itemEnglish)) {
     ++回数文[*level][0];
   }
 }
@@ -54,14 +57,14 @@ void ProgressCounters::rollOver() {
   }
 }
 
-void MemoryGrowth::move(QChar COURSE, QChar itemTable, const QString& itemEnglish,
-                        const QString& from, const QString& to) {
+void MemoryGrowth::move(QChar COURSE, QChar itemTable, const QString& itemEnglish, QChar from,
+                        QChar to) {
   const std::optional<size_t> source = memoryPlace(from);
   const std::optional<size_t> target = memoryPlace(to);
   if (!source || !target) return;
   const bool sentence = itemTable == tableOfSentences;
   if (!sentence && itemTable == thirdPlace && courseLevel(COURSE) != 専門) return;
-  Three& counts = sentence ? 記憶文増[sentenceLevel(itemEnglish).value_or(専門)]
+  Three& counts = sentence ? 記憶文増[levelOf(itemEnglish).value_or(専門)]
                            : 記憶単熟増[wordLevel(COURSE, itemTable)];
   --counts[*source];
   ++counts[*target];

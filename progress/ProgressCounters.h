@@ -3,20 +3,25 @@
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 namespace tavoli {
 
 /// The study levels, which are the courses too; they number the counters.
-enum Level : size_t { 中学, 高校, 専門 };
-inline constexpr size_t levelCount = 3;
+using Level = std::size_t;
+inline constexpr Level 中学 = 0;
+inline constexpr Level 高校 = 1;
+inline constexpr Level 専門 = 2;
+inline constexpr std::size_t levelCount = 3;
 
 /// The level of a course.
 Level courseLevel(QChar COURSE);
 /// The level of a dictionary by its place, "1" to "3", in the course's look-up order.
 Level wordLevel(QChar COURSE, QChar itemTable);
-/// The level of a sentence by its number; nothing for a number that belongs to none.
-std::optional<Level> sentenceLevel(const QString& 文番);
+/// The level of a sentence by the first character of its number; nothing for one that belongs to
+/// none.
+std::optional<Level> sentenceLevel(QChar initial);
 
 /// Three numbers: items by memory state (完全, うろ覚え, 全然) or figures by month (今月, 先月,
 /// 先月まで, the last one with 先月 in it).
@@ -25,7 +30,7 @@ using ByLevel = std::array<Three, levelCount>;
 
 /// The place of a memory code among the three numbers, which stand the other way round; nothing for
 /// a code that is none.
-std::optional<size_t> memoryPlace(QStringView code);
+std::optional<size_t> memoryPlace(QChar code);
 
 /// What the learner has reached and done.
 struct ProgressCounters {
@@ -51,8 +56,7 @@ struct MemoryGrowth {
 
   /// An item has moved from one memory code to another. A dictionary that the course only has as a
   /// third helper is not counted, except in 専門.
-  void move(QChar COURSE, QChar itemTable, const QString& itemEnglish, const QString& from,
-            const QString& to);
+  void move(QChar COURSE, QChar itemTable, const QString& itemEnglish, QChar from, QChar to);
   /// Adds the growth to the counts. A count that would leave 0 to 32000 becomes 0.
   void addTo(ProgressCounters& counters) const;
 };

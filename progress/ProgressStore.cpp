@@ -62,12 +62,11 @@ bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& c
   if (rsBDIC->failed()) return false;
   if (rsBDIC->NoMatch()) {
     counters = ProgressCounters();
-    for (const auto& [table, level] : {std::pair(tableJTDIC, 中学), std::pair(tableSTDIC, 高校),
-                                       std::pair(firstSpecialTable, 専門)}) {
-      const auto rows = database.OpenRecordset(table);
-      if (rows) surveyWordTable(*rows, counters.記憶単熟[level]);
-    }
-    surveySentences(*rsBDIC, counters.記憶文);
+    // A table that is not there counts nothing.
+    surveyWordTable(database, tableJTDIC, counters.記憶単熟[中学]);
+    surveyWordTable(database, tableSTDIC, counters.記憶単熟[高校]);
+    surveyWordTable(database, firstSpecialTable, counters.記憶単熟[専門]);
+    surveySentences(database, counters.記憶文);
     // A new learner has not learnt yet.
     owner.times.開始時刻 = clock.now();
   } else {

@@ -1,26 +1,24 @@
 #include "progress/TableSurvey.h"
 
+#include "data/Database.h"
 #include "data/Schema.h"
-#include "data/TableCursor.h"
 
 namespace tavoli {
 
-void surveyWordTable(TableCursor& rows, Three& memory) {
+bool surveyWordTable(const Database& database, const QString& table, Three& memory) {
   memory = {};
-  for (rows.MoveFirst(); rows.hasRow() && !isReservedKey(rows.key()); rows.MoveNext())
-    if (const auto place = memoryPlace(rows.text(field記憶))) ++memory[*place];
+  return database.scanCodes(table, field記憶, [&](char, char code) {
+    if (const auto place = memoryPlace(QChar::fromLatin1(code))) ++memory[*place];
+  });
 }
 
-void surveySentences(TableCursor& rsBDIC, ByLevel& memory) {
+bool surveySentences(const Database& database, ByLevel& memory) {
   memory = {};
-  const QString end = QStringLiteral("zzz");
-  for (rsBDIC.MoveFirst(); rsBDIC.hasRow(); rsBDIC.MoveNext()) {
-    const QString 文番 = rsBDIC.key();
-    if (文番.startsWith(end, Qt::CaseInsensitive)) break;
-    const std::optional<Level> level = sentenceLevel(文番);
-    const auto place = memoryPlace(rsBDIC.text(field記憶));
+  return database.scanCodes(tableBDIC, field記憶, [&](char initial, char code) {
+    const auto level = sentenceLevel(QChar::fromLatin1(initial));
+    const auto place = memoryPlace(QChar::fromLatin1(code));
     if (level && place) ++memory[*level][*place];
-  }
+  });
 }
 
 }  // namespace tavoli

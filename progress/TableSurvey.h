@@ -4,13 +4,14 @@
 
 namespace tavoli {
 
-class TableCursor;
+class Database;
 
 /// Counts the rows of a dictionary anew by their memory state, up to its reserved rows. A row whose
-/// state is none counts nowhere; what cannot be read is not counted.
-void surveyWordTable(TableCursor& rows, Three& memory);
+/// state is none counts nowhere, nor does what cannot be read. False when the table could not be
+/// read to its end.
+bool surveyWordTable(const Database& database, const QString& table, Three& memory);
 
 /// The same for the sentences of each level.
-void surveySentences(TableCursor& rsBDIC, ByLevel& memory);
+bool surveySentences(const Database& database, ByLevel& memory);
 
 }  // namespace tavoli

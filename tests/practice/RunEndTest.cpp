@@ -124,12 +124,12 @@ class RunEndTest : public testing::Test {
   ProgressCounters survey() {
     ProgressCounters found;
     const auto count = [&](const QString& table, Level level) {
-      surveyWordTable(*store.database().OpenRecordset(table), found.記憶単熟[level]);
+      surveyWordTable(store.database(), table, found.記憶単熟[level]);
     };
     count(tableJTDIC, 中学);
     count(tableSTDIC, 高校);
     count(QStringLiteral("BusinessTOEIC"), 専門);
-    surveySentences(*store.database().OpenRecordset(tableBDIC), found.記憶文);
+    surveySentences(store.database(), found.記憶文);
     return found;
   }
 

@@ -118,8 +118,8 @@ TEST(ProgressCountersTest, CountEveryItemInItsCourseAndItsLevel) {
     (sentence ? grown.記憶文[c.sentences.value_or(専門)]
               : grown.記憶単熟[c.words.value_or(専門)]) = {1, 0, 0};
     MemoryGrowth growth;
-    growth.move(c.COURSE, c.itemTable, key, QStringLiteral("0"), QStringLiteral("2"));
-    growth.move(c.COURSE, c.itemTable, key, QStringLiteral("7"), QStringLiteral("2"));
+    growth.move(c.COURSE, c.itemTable, key, u'0', u'2');
+    growth.move(c.COURSE, c.itemTable, key, u'7', u'2');
     growth.addTo(learnt);
     EXPECT_TRUE(learnt == grown);
   }
@@ -129,7 +129,7 @@ TEST(ProgressCountersTest, AMemoryCountOutOfRangeBecomesZero) {
   ProgressCounters counters;
   counters.記憶単熟[中学] = {32000, 0, 5};
   MemoryGrowth growth;
-  growth.move(u'0', u'1', QString(), QStringLiteral("1"), QStringLiteral("2"));
+  growth.move(u'0', u'1', QString(), u'1', u'2');
   growth.addTo(counters);
   EXPECT_EQ(counters.記憶単熟[中学], (Three{0, 0, 5}));
 }
