@@ -28,8 +28,8 @@ class LoginScreen {
 };
 
 /// Turns a typed id into the learner's files: brings them into the working folder, checks or first
-/// sets the password, reads the progress, and makes the backup. Never destroys newer work, and keeps the working copy
-/// for this program as long as the login lives.
+/// sets the password, reads the progress, and makes the backup. Never destroys newer work, and
+/// keeps the working copy for this program as long as the login lives.
 class Login {
  public:
   Login(Module1& module, Files& files, const Clock& clock, Dialogs& dialogs, LoginScreen& screen);

@@ -49,8 +49,10 @@ void WindowFlow::showState() {
   font.setPointSizeF(font.pointSizeF() * loginLayout(screen).scale);
   QApplication::setFont(font);
   m_state = std::make_unique<TAVOstate>(
-      m_module.learner.userId, [this] { showConditions(); }, [this] { leave(); });
-  m_state->show();
+      ProgressSources{m_module.learner.userId, m_module.learner.dbFileWork, m_module.course.COURSE,
+                      m_module.course.specialTable, m_module.progress, m_clock, m_dialogs, m_paper},
+      [this] { showConditions(); }, [this] { leave(); });
+  m_state->showMaximized();
   m_tavo1->hide();
 }
 

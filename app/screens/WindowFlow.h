@@ -16,6 +16,7 @@
 #include "system/Files.h"
 #include "system/Random.h"
 #include "system/screens/MessageBoxes.h"
+#include "system/screens/PagedPaper.h"
 
 namespace tavoli {
 
@@ -40,6 +41,7 @@ class WindowFlow {
   SystemRandom m_random;
   SilentSpeaker m_speaker;
   MessageBoxes m_dialogs;
+  PagedPaper m_paper;
   std::unique_ptr<TAVO1> m_tavo1;
   std::unique_ptr<Login> m_login;
   std::unique_ptr<TAVOstate> m_state;

@@ -1,41 +1,202 @@
 #include "progress/screens/TAVOstate.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QDir>
+#include <QFileDialog>
 #include <QLayout>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 
 #include <utility>
 
+#include "data/Database.h"
+#include "progress/screens/PrintedReport.h"
+#include "progress/screens/ProgressLayout.h"
+#include "system/Clock.h"
+#include "system/Dialogs.h"
+#include "system/PageSurface.h"
+#include "system/Paper.h"
+#include "system/screens/ChoiceDialog.h"
+
 namespace tavoli {
 
-TAVOstate::TAVOstate(const QString& userId, std::function<void()> next, std::function<void()> leave,
-                     QWidget* parent)
-    : QMainWindow(parent), m_next(std::move(next)), m_leave(std::move(leave)) {
-  setWindowTitle(QStringLiteral("学習の進捗 - Tavoli"));
+namespace {
+
+constexpr int tablesTab = levelCount;
+constexpr double programPoints = 11;
+constexpr double buttonPoints = 14;
+
+QString noteOf(Level level) {
+  if (level == 中学)
+    return QStringLiteral(
+        "（注）回数単熟中学DB，回数文中学DB　：高校ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがある"
+        "。");
+  if (level == 高校)
+    return QStringLiteral(
+        "（注）回数単熟高校DB，回数文高校DB　：中学ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがある"
+        "。");
+  return {};
+}
+
+}  // namespace
+
+TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
+                     std::function<void()> leave, QWidget* parent)
+    : QMainWindow(parent),
+      m_sources(sources),
+      m_report(sources.counters),
+      m_survey(sources.dbFileWork, sources.counters, sources.specialTable, sources.dialogs, *this),
+      m_tabs(new QTabWidget(this)),
+      m_tablesPage(new TablesPage),
+      m_command1(makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"))),
+      m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("終了"))),
+      m_next(std::move(next)),
+      m_leave(std::move(leave)) {
+  setWindowTitle(QStringLiteral("先月までの状況と今月の状況"));
+  choosePdf = [this] {
+    return QFileDialog::getSaveFileName(this, QStringLiteral("PDFファイルに保存"),
+                                        QDir::homePath() + QStringLiteral("/Tavoli進捗.pdf"),
+                                        QStringLiteral("PDF (*.pdf)"));
+  };
+  const QStringList captions = {QStringLiteral("中学"), QStringLiteral("高校"),
+                                QStringLiteral("専門")};
+  for (const Level level : {中学, 高校, 専門}) {
+    m_chartPages[level] = new ChartPage(noteOf(level));
+    m_tabs->addTab(m_chartPages[level], captions[static_cast<int>(level)]);
+  }
+  m_tabs->addTab(m_tablesPage, QStringLiteral("中高専"));
+  m_tabs->setObjectName(QStringLiteral("TabStrip1"));
+
   auto* centre = new QWidget(this);
-  auto* greeting =
-      new QLabel(QStringLiteral("ユーザーID %1 でログインしました。").arg(userId), centre);
-  auto* next_ = new QPushButton(QStringLiteral("次へ"), centre);
-  next_->setObjectName(QStringLiteral("Command1"));
-  next_->setDefault(true);
-  next_->setAutoDefault(true);
-  connect(next_, &QPushButton::clicked, this, [this] {
-    m_leave = nullptr;
-    std::exchange(m_next, nullptr)();
-  });
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  buttons->addWidget(m_command1);
+  buttons->addWidget(m_command2);
+  buttons->addStretch(1);
   auto* column = new QVBoxLayout(centre);
-  column->addStretch(1);
-  column->addWidget(greeting, 0, Qt::AlignCenter);
-  column->addStretch(1);
-  column->addWidget(next_, 0, Qt::AlignRight);
+  column->addWidget(m_tabs, 1);
+  column->addLayout(buttons);
   setCentralWidget(centre);
-  resize(fontMetrics().height() * 55, fontMetrics().height() * 38);
-  next_->setFocus();
+  makeMenus();
+
+  connect(m_command1, &QPushButton::clicked, this, [this] {
+    m_leave = nullptr;
+    if (m_next) std::exchange(m_next, nullptr)();
+  });
+  connect(m_command2, &QPushButton::clicked, this, &QWidget::close);
+  DispAchieve();
+  m_tabs->setCurrentIndex(static_cast<int>(courseLevel(m_sources.COURSE)));
+  connect(m_tabs, &QTabWidget::currentChanged, this, &TAVOstate::drawPage);
+  drawPage();
+  m_command1->setFocus();
+}
+
+QPushButton* TAVOstate::makeButton(const QString& name, const QString& caption) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  button->setAutoDefault(true);
+  QFont font = button->font();
+  font.setPointSizeF(font.pointSizeF() * buttonPoints / programPoints);
+  button->setFont(font);
+  return button;
+}
+
+void TAVOstate::makeMenus() {
+  QAction* print =
+      menuBar()->addAction(QStringLiteral("◆記憶状態の印刷"), this, &TAVOstate::printReport);
+  print->setObjectName(QStringLiteral("menu2"));
+  QMenu* survey = menuBar()->addMenu(QStringLiteral("◆記憶状態の調査・更新"));
+  survey->setObjectName(QStringLiteral("menu1"));
+  survey->addAction(QStringLiteral("中学単熟"), this, [this] { m_survey.surveyWords(中学); })
+      ->setObjectName(QStringLiteral("menu11"));
+  survey->addAction(QStringLiteral("高校単熟"), this, [this] { m_survey.surveyWords(高校); })
+      ->setObjectName(QStringLiteral("menu12"));
+  survey->addAction(QStringLiteral("専門単熟"), this, &TAVOstate::chooseSpecialist)
+      ->setObjectName(QStringLiteral("menu13"));
+  survey->addAction(QStringLiteral("文"), this, [this] { m_survey.surveySentences(); })
+      ->setObjectName(QStringLiteral("menu14"));
+}
+
+void TAVOstate::DispAchieve() {
+  m_stale.fill(true);
+  drawPage();
+}
+
+void TAVOstate::drawPage() {
+  const auto page = static_cast<size_t>(m_tabs->currentIndex());
+  if (!std::exchange(m_stale[page], false)) return;
+  if (page == tablesTab)
+    m_tablesPage->showTables(m_report.tables(), m_sources.specialTable);
+  else
+    m_chartPages[page]->showCharts(m_report.charts(page));
+}
+
+void TAVOstate::showTables() {
+  m_tabs->setCurrentIndex(tablesTab);
+}
+
+void TAVOstate::setBusy(bool busy) {
+  if (busy) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    repaint();
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+  setEnabled(!busy);
+}
+
+void TAVOstate::chooseSpecialist() {
+  std::optional<Database> database;
+  int dbOpenError = 0;
+  openDatabase(m_sources.dbFileWork, database, dbOpenError);
+  const QStringList entries = database ? specialTables(*database) : QStringList();
+  database.reset();
+  ChoiceDialog tavo9(
+      {QStringLiteral("専門ＤＢの指定"), QStringLiteral("専門ＤＢを選択して下さい。"), entries,
+       m_sources.specialTable},
+      this);
+  tavo9.setObjectName(QStringLiteral("TAVO9"));
+  if (tavo9.exec() == QDialog::Accepted) m_survey.surveySpecial(tavo9.chosen());
+}
+
+void TAVOstate::printReport() {
+  const bool with専門 = m_tabs->currentIndex() == static_cast<int>(専門);
+  const QString title = windowTitle();
+  const auto draw = [&](PageSurface& page) {
+    drawReport(page, m_report,
+               {m_sources.userId, m_sources.specialTable, m_sources.clock.now(), with専門});
+  };
+  if (m_sources.paper.hasPrinter()) {
+    if (m_sources.paper.print(title, draw)) return;
+    m_sources.dialogs.show(
+        QStringLiteral("プリンタで印刷できませんでした。代わりにPDFファイルに保存できます。"));
+  }
+  const QString path = choosePdf();
+  if (path.isEmpty()) return;
+  m_sources.dialogs.show(
+      (m_sources.paper.writePdf(path, title, draw)
+           ? QStringLiteral("%1 に保存しました。")
+           : QStringLiteral("%1 に保存できませんでした。別の場所を選んで下さい。"))
+          .arg(path));
+}
+
+void TAVOstate::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  const ProgressLayout layout = progressLayout(screen()->size().height());
+  // The type grows with the screen, and the buttons with it.
+  const double scale = font().pointSizeF() / programPoints;
+  for (QPushButton* button : {m_command1, m_command2}) {
+    button->setMinimumHeight(qRound(layout.buttonHeight * scale));
+    button->setMinimumWidth(qRound(layout.buttonHeight * scale * 4));
+  }
+  m_tablesPage->setTopMargin(layout.tablesTopMargin);
 }
 
 void TAVOstate::closeEvent(QCloseEvent* event) {
   event->accept();
+  m_next = nullptr;
   if (m_leave) std::exchange(m_leave, nullptr)();
 }
 

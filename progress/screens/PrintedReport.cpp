@@ -1,0 +1,80 @@
+#include "progress/screens/PrintedReport.h"
+
+#include <QImage>
+#include <QRectF>
+
+#include "progress/screens/BarChartDrawing.h"
+#include "system/PageSurface.h"
+
+namespace tavoli {
+
+namespace {
+
+// All in twips.
+constexpr double chartWidth = 3500;
+constexpr double chartHeight = 2500;
+constexpr double chartsLeft = 800;
+constexpr double chartsTop = 600;
+constexpr int chartsARow = 3;
+constexpr int chartRows = 4;
+constexpr double headingLeft = 4000;
+constexpr double headingTop = 500;
+constexpr double tablesTop = chartRows * chartHeight + 300 + 600;
+constexpr double rowPitch = 200;
+constexpr double titleLeft = 2900;
+constexpr double columnEnds[] = {5900, 7400, 8900};
+constexpr double margin = 100;
+constexpr double specialLeft = 8950;
+constexpr int specialRow = 6;
+
+void drawCharts(PageSurface& page, const std::vector<BarChart>& charts, int firstRow) {
+  for (size_t i = 0; i < charts.size(); ++i) {
+    const auto place = static_cast<int>(i);
+    const QRectF rect(chartsLeft + place % chartsARow * chartWidth,
+                      chartsTop + (firstRow + place / chartsARow) * chartHeight, chartWidth,
+                      chartHeight);
+    page.drawPicture(rect, chartPicture(charts[i], rect.size()));
+  }
+}
+
+void drawFrame(PageSurface& page, double top, double bottom) {
+  const double left = titleLeft - margin;
+  const double right = columnEnds[2];
+  for (const double y : {top, bottom}) page.drawLine(left, y, right, y);
+  for (const double x : {left, right}) page.drawLine(x, top, x, bottom);
+}
+
+/// Returns where the table ends.
+double drawTable(PageSurface& page, double top, const NumberTable& table) {
+  double y = top;
+  const auto drawRow = [&](const QString& title, const QStringList& cells) {
+    page.drawText(titleLeft, y, title);
+    for (int i = 0; i < cells.size(); ++i)
+      page.drawText(columnEnds[i] - margin - page.textWidth(cells[i]), y, cells[i]);
+    y += rowPitch;
+  };
+  drawRow(table.title, table.columns);
+  for (int row = 0; row < table.rows.size(); ++row) drawRow(table.rows[row], table.cells[row]);
+  // The characters fill the rows: the rule keeps off the first one.
+  constexpr double gap = 20;
+  drawFrame(page, top - gap, y);
+  return y;
+}
+
+}  // namespace
+
+void drawReport(PageSurface& page, const ProgressReport& report, const ReportHeading& heading) {
+  constexpr double points = 10;
+  page.setFont({PageFont::Face::Mincho, points});
+  drawCharts(page, report.charts(heading.with専門 ? 専門 : 中学), 0);
+  drawCharts(page, report.charts(高校), 2);
+  page.drawText(
+      headingLeft, headingTop,
+      QStringLiteral("―― %1―― UID=%2")
+          .arg(heading.time.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")), heading.userId));
+  page.drawText(specialLeft, tablesTop + specialRow * rowPitch, heading.specialTable);
+  double y = tablesTop;
+  for (const NumberTable& table : report.printedTables()) y = drawTable(page, y, table) + margin;
+}
+
+}  // namespace tavoli

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace tavoli {
+
+/// Measures of the progress screen that go by the height of the screen in pixels.
+struct ProgressLayout {
+  int buttonHeight;     ///< in pixels
+  int tablesTopMargin;  ///< in pixels
+};
+
+ProgressLayout progressLayout(int screenHeight);
+
+}  // namespace tavoli
