@@ -86,10 +86,9 @@ TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
     if (m_next) std::exchange(m_next, nullptr)();
   });
   connect(m_command2, &QPushButton::clicked, this, &QWidget::close);
-  DispAchieve();
   m_tabs->setCurrentIndex(static_cast<int>(courseLevel(m_sources.COURSE)));
   connect(m_tabs, &QTabWidget::currentChanged, this, &TAVOstate::drawPage);
-  drawPage();
+  DispAchieve();
   m_command1->setFocus();
 }
 

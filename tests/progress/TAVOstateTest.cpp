@@ -1,0 +1,211 @@
+#include <QApplication>
+#include <QChartView>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "progress/screens/BarChartDrawing.h"
+#include "progress/screens/ProgressLayout.h"
+#include "progress/screens/TAVOstate.h"
+#include "system/screens/PagedPaper.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Pdf.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+/// A printer that can be switched off or made to refuse; files are written as ever.
+class FakePaper final : public Paper {
+ public:
+  bool hasPrinter() const override { return printer; }
+  bool print(const QString&, const DrawDocument&) override {
+    ++printed;
+    return !refuses;
+  }
+  bool writePdf(const QString& path, const QString& title, const DrawDocument& draw) override {
+    return files.writePdf(path, title, draw);
+  }
+  bool printer = false;
+  bool refuses = false;
+  int printed = 0;
+  PagedPaper files;
+};
+
+class TAVOstateTest : public testing::Test {
+ protected:
+  TAVOstateTest() {
+    store.addWord(tableJTDIC, QStringLiteral("a"), QString(), memoryうろ覚え);
+    store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("a"), QString(), memory完全);
+    store.addSentence(QStringLiteral("600000"), QString());
+    dbFileWork = store.path();
+    counters.記憶単熟[中学] = {7, 8, 9};
+  }
+
+  void open(QChar COURSE) {
+    window = std::make_unique<TAVOstate>(
+        ProgressSources{userId, dbFileWork, COURSE, specialTable, counters, clock, dialogs, paper},
+        [this] { ++next; }, [this] { ++left; });
+    window->choosePdf = [this] { return pdf; };
+    window->show();
+    QApplication::setActiveWindow(window.get());
+  }
+  void choose(const char* action) { window->findChild<QAction*>(QLatin1String(action))->trigger(); }
+  int tab() const { return window->findChild<QTabWidget*>()->currentIndex(); }
+  QString cell(const char* grid, int row, int column) const {
+    return window->findChild<QTableWidget*>(QLatin1String(grid))->item(row, column)->text();
+  }
+
+  test::TestStore store;
+  QString userId = QStringLiteral("花子");
+  QString dbFileWork;
+  QString specialTable;
+  ProgressCounters counters;
+  test::FakeClock clock;
+  test::ScriptedDialogs dialogs;
+  FakePaper paper;
+  QString pdf = store.folder() + QStringLiteral("/report.pdf");
+  std::unique_ptr<TAVOstate> window;
+  int next = 0;
+  int left = 0;
+};
+
+TEST_F(TAVOstateTest, BeginsWithTheCourseAndGoesOnByEnter) {
+  for (const int course : {0, 1, 2}) {
+    open(QChar(u'0' + course));
+    EXPECT_EQ(tab(), course);
+  }
+  EXPECT_EQ(window->focusWidget()->objectName(), QStringLiteral("Command1"));
+  EXPECT_EQ(window->findChildren<QChartView*>().size(), 6) << "others are drawn when they are seen";
+  EXPECT_TRUE(window->findChild<QChartView*>(QStringLiteral("MSChart18")));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(next, 1);
+  window->close();
+  EXPECT_EQ(left, 0) << "it goes on with the next window";
+
+  open(u'0');
+  QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("Command2")), Qt::LeftButton);
+  EXPECT_EQ(left, 1);
+}
+
+TEST_F(TAVOstateTest, SurveysATableOnYes) {
+  const QString question = QStringLiteral("調査・更新をしますか？");
+  const QString done = QStringLiteral("調査は終了しました。練習プログラムの終了時に更新されます。");
+  open(u'0');
+  dialogs.answers = {false};
+  choose("menu11");
+  EXPECT_EQ(dialogs.asked, QStringList{question});
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+  EXPECT_EQ(counters.記憶単熟[中学], (Three{7, 8, 9}));
+  EXPECT_EQ(tab(), 0);
+
+  choose("menu11");
+  EXPECT_EQ(counters.記憶単熟[中学], (Three{0, 1, 0}));
+  EXPECT_EQ(dialogs.shown, QStringList{done});
+  EXPECT_EQ(tab(), 3);
+  EXPECT_EQ(cell("MSFlexGrid1", 1, 2), QStringLiteral("1"));
+  EXPECT_TRUE(window->isEnabled());
+  EXPECT_FALSE(QApplication::overrideCursor());
+
+  choose("menu14");
+  EXPECT_EQ(counters.記憶文[高校], (Three{0, 0, 1}));
+  EXPECT_EQ(cell("MSFlexGrid1", 5, 3), QStringLiteral("1")) << "drawn anew";
+}
+
+TEST_F(TAVOstateTest, ASpecialistDictionaryIsChosenFirst) {
+  const auto answer = [&](const QString& key) {
+    QTimer::singleShot(0, window.get(), [this, key] {
+      auto* dialog = window->findChild<QDialog*>(QStringLiteral("TAVO9"));
+      auto* list = dialog->findChild<QComboBox*>();
+      EXPECT_EQ(list->count(), 1);
+      QTest::mouseClick(dialog->findChild<QPushButton*>(key), Qt::LeftButton);
+    });
+    choose("menu13");
+  };
+  open(u'0');
+  answer(QStringLiteral("Command2"));
+  EXPECT_TRUE(dialogs.asked.isEmpty());
+  answer(QStringLiteral("Command1"));
+  EXPECT_EQ(specialTable, QStringLiteral("BusinessTOEIC"));
+  EXPECT_EQ(counters.記憶単熟[専門], (Three{1, 0, 0}));
+  EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("Text1"))->text(), specialTable);
+
+  specialTable = QStringLiteral("gone");
+  answer(QStringLiteral("Command1"));
+  EXPECT_EQ(
+      dialogs.shown.last(),
+      QStringLiteral("専門単熟DB gone が見つかりません。「中学／高校／専門の選択」で指定し直し"
+                     "てください。"));
+}
+
+TEST_F(TAVOstateTest, AFailedSurveyKeepsTheFigures) {
+  open(u'0');
+  dbFileWork = store.folder() + QStringLiteral("/gone.mdb");
+  choose("menu11");
+  EXPECT_EQ(counters.記憶単熟[中学], (Three{7, 8, 9}));
+  EXPECT_EQ(dialogs.shown.size(), 1);
+  EXPECT_TRUE(dialogs.shown[0].startsWith(dbFileWork));
+}
+
+TEST_F(TAVOstateTest, PrintsOnePage) {
+  counters.時間[専門] = {3600, 0, 360000};
+  specialTable = QStringLiteral("BusinessTOEIC");
+  open(u'2');
+  choose("menu2");
+  const QString text = test::textOfPdf(pdf, {QStringLiteral("-layout")});
+  EXPECT_EQ(text.count(u'\f'), 1);
+  for (const char16_t* part :
+       {u"2026/04/01 09:00:00", u"UID=花子", u"記憶・ＤＢ別", u"BusinessTOEIC", u"100.00 時間"})
+    EXPECT_TRUE(text.contains(QString::fromUtf16(part))) << qPrintable(text);
+  EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("%1 に保存しました。").arg(pdf)});
+
+  dialogs.shown.clear();
+  paper.printer = true;
+  choose("menu2");
+  EXPECT_EQ(paper.printed, 1);
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+  paper.refuses = true;
+  pdf = store.folder() + QStringLiteral("/gone/report.pdf");
+  choose("menu2");
+  EXPECT_EQ(dialogs.shown.size(), 2) << "the printer refuses, and so does the folder";
+  pdf.clear();
+  choose("menu2");
+  EXPECT_EQ(dialogs.shown.size(), 3) << "thought better of it";
+}
+
+TEST(ProgressDrawingTest, AxesAreWholeAndHaveRoom) {
+  const struct {
+    double largest;
+    int top, step;
+  } cases[] = {{0, 1, 1},
+               {0.4, 1, 1},
+               {1, 2, 1},
+               {4, 5, 1},
+               {63, 80, 20},
+               {100, 150, 50},
+               {17000, 20000, 5000},
+               {99999, 150000, 50000}};
+  for (const auto& c : cases) {
+    const WholeAxis axis = wholeAxis(c.largest);
+    EXPECT_EQ(axis.top, c.top) << c.largest;
+    EXPECT_EQ(axis.step, c.step) << c.largest;
+  }
+}
+
+TEST(ProgressDrawingTest, MarginsGoByTheScreen) {
+  for (const auto& [height, margin] : {std::pair(480, 0), std::pair(600, 6), std::pair(768, 40),
+                                       std::pair(1080, 66), std::pair(2160, 40)})
+    EXPECT_EQ(progressLayout(height).tablesTopMargin, margin) << height;
+  EXPECT_EQ(progressLayout(600).buttonHeight, 30);
+  EXPECT_EQ(progressLayout(768).buttonHeight, 40);
+}
+
+}  // namespace
+}  // namespace tavoli
