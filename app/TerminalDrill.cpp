@@ -9,6 +9,7 @@
 #include "conditions/ConditionsStore.h"
 #include "conditions/ConditionsText.h"
 #include "practice/PracticeRun.h"
+#include "progress/ProgressReport.h"
 
 namespace tavoli {
 
@@ -25,6 +26,7 @@ int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
   Login rules(m_module, m_files, m_clock, m_dialogs, screen);
   if (!login(rules, screen)) return EXIT_FAILURE;
+  showProgress();
   if (!chooseConditions()) {
     rules.leaveWithoutRun();
     return badArguments;
@@ -80,6 +82,18 @@ bool TerminalDrill::chooseConditions() {
   }
   showConditions();
   return true;
+}
+
+void TerminalDrill::showProgress() {
+  QStringList lines;
+  for (const NumberTable& table : ProgressReport(m_module.progress).tables()) {
+    const auto line = [&](const QString& title, const QStringList& cells) {
+      lines.append(title.trimmed() + u'：' + cells.join(QStringLiteral(" / ")));
+    };
+    line(table.title, table.columns);
+    for (int row = 0; row < table.rows.size(); ++row) line(table.rows[row], table.cells[row]);
+  }
+  m_terminal.show(QStringLiteral("進捗"), lines.join(u'\n'));
 }
 
 void TerminalDrill::showConditions() {

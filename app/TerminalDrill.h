@@ -35,6 +35,8 @@ class TerminalDrill {
 
  private:
   bool login(Login& login, TerminalLogin& screen);
+  /// The tables of the progress screen.
+  void showProgress();
   bool chooseConditions();
   void showConditions();
   int practise();
