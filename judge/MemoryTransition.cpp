@@ -10,13 +10,13 @@ bool isRight(const JudgedEntry& e) {
 }
 
 /// The circle of a right answer, double for a variant.
-QString circle(const JudgedEntry& e) {
-  return e.ANScomp == Verdict::Variant ? QStringLiteral("◎") : QStringLiteral("○");
+QString circle(Verdict verdict) {
+  return verdict == Verdict::Variant ? QStringLiteral("◎") : QStringLiteral("○");
 }
 
 MemoryTransition learn(const JudgedEntry& e) {
   if (!isRight(e)) return {e.state, QString(), NextStep::SameSubQuestion};
-  const QString right = circle(e) + QStringLiteral("　正解です。\n");
+  const QString right = praise(e.ANScomp);
   const bool atFirst = e.tryCount <= 1 && !e.answerShown && !e.timeOver;
   if (!atFirst) return {e.state, right, NextStep::Repeat};
   // Only one meaning of a word is rewarded at a visit; the others need no repeats either.
@@ -42,10 +42,12 @@ MemoryTransition miniTest(const JudgedEntry& e) {
   if (second && (isRight(e) || e.ANScomp == Verdict::Variant))
     return {e.state, keptMessage(e.state, QStringLiteral("○")), NextStep::NextSubQuestion};
   if (isRight(e) && e.state == memoryうろ覚え) {
-    return {memory完全, circle(e) + QStringLiteral("　正解です。　『完全記憶』にしました。"),
+    return {memory完全,
+            circle(e.ANScomp) + QStringLiteral("　正解です。　『完全記憶』にしました。"),
             NextStep::NextSubQuestion};
   }
-  if (isRight(e)) return {e.state, keptMessage(e.state, circle(e)), NextStep::NextSubQuestion};
+  if (isRight(e))
+    return {e.state, keptMessage(e.state, circle(e.ANScomp)), NextStep::NextSubQuestion};
   if (second && e.ANScomp == Verdict::Wrong) {
     return {memory全然, QStringLiteral("『全然』に記憶状態を戻しました。"),
             NextStep::SameSubQuestion};
@@ -54,6 +56,10 @@ MemoryTransition miniTest(const JudgedEntry& e) {
 }
 
 }  // namespace
+
+QString praise(Verdict verdict) {
+  return circle(verdict) + QStringLiteral("　正解です。\n");
+}
 
 MemoryTransition memoryTransition(const JudgedEntry& entry) {
   return entry.state == memory全然 ? learn(entry) : miniTest(entry);

@@ -22,6 +22,9 @@ struct JudgedEntry {
   QString meaning;           ///< of a word: its 日本語; empty for a sentence
 };
 
+/// "○　正解です。" of the answer itself, with "◎" for a variant that counts as right.
+QString praise(Verdict verdict);
+
 /// What an entry leads to.
 enum class NextStep {
   NextSubQuestion,  ///< done with this 小問

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "data/Text.h"
 #include "practice/PracticeScreen.h"
 #include "practice/QuestionText.h"
+#include "practice/VerdictText.h"
 #include "system/Dialogs.h"
 
 namespace tavoli {
@@ -13,31 +13,18 @@ namespace {
 
 constexpr int maxTimes = 99;
 
-const QString notRight = QStringLiteral(" は正解ではありません。");
-
-/// The line that names the mark at the end of an answer.
-QString missingMark(const QString& answer) {
-  if (answer.endsWith(u'.')) return QStringLiteral("終止符\".\"がありません。");
-  if (answer.endsWith(u'?')) return QStringLiteral("疑問符\"?\"がありません。");
-  return QStringLiteral("感嘆符\"!\"がありません。");
-}
-
 }  // namespace
 
 AnswerFlow::AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs)
     : m_state(state), m_screen(screen), m_dialogs(dialogs) {}
-
-QString AnswerFlow::answer() const {
-  return m_state.record.sentence ? m_state.record.text(m_state.POS1) : m_state.record.英語;
-}
 
 AnswerFlow::After AnswerFlow::enter(const QString& typed) {
   const bool miniTest = m_state.inMiniTest();
   if (miniTest) m_screen.showMiniTest(MarkedText());
   // An entry of nothing but what was given costs nothing.
   const QString entry = CleanTypedAnswer(typed);
-  if (entry.isEmpty() || (m_state.record.sentence && entry.size() <= m_state.小問().先頭文字数)) {
-    m_screen.setAnswer(answerStart(m_state.record, m_state.POS1));
+  if (addsNothing(m_state.record, m_state.POS1, entry)) {
+    askAgain();
     return After::Stay;
   }
   ++m_state.tryCount;
@@ -91,30 +78,32 @@ AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition) {
 AnswerFlow::After AnswerFlow::repeat(const MemoryTransition& transition) {
   --m_state.repeatsLeft;
   if (m_state.repeatsLeft <= 0) return moveOn(transition);
-  m_screen.showMessage(QStringLiteral("あと %1 回練習して下さい。").arg(m_state.repeatsLeft));
+  m_screen.showMessage(repeatsText(m_state.repeatsLeft));
   askAgain();
   return After::Stay;
 }
 
 void AnswerFlow::refuse(const Comparison& comparison, const MemoryTransition& transition) {
   const bool miniTest = m_state.inMiniTest();
+  const QString answer = answerOf(m_state.record, m_state.POS1);
   switch (comparison.ANScomp) {
     case Verdict::Variant:
-      tellTolerated(comparison);
+      m_screen.showFullAnswer(toleratedText(comparison, answer));
       break;
     case Verdict::MarkMissing:
     case Verdict::WrongMark:
       // A mini test forgives a slip of the mark: the entry does not count.
       if (miniTest) --m_state.tryCount;
-      tellMark(comparison);
+      m_screen.showFullAnswer(slipText(comparison, answer));
+      m_screen.setAnswer(comparison.typedAnswer);
       return;
     default:
       if (miniTest) {
-        m_screen.showFullAnswer(plainText(comparison.typedAnswer + notRight +
+        m_screen.showFullAnswer(plainText(notRightText(comparison.typedAnswer) +
                                           QStringLiteral("　試行数 = %1").arg(m_state.tryCount)));
       } else {
         ++m_state.tryCount;
-        tellWrong(comparison);
+        m_screen.showFullAnswer(wrongText(comparison));
       }
   }
   if (!miniTest && !m_state.record.sentence) m_screen.lookUp(comparison.typedAnswer);
@@ -124,32 +113,6 @@ void AnswerFlow::refuse(const Comparison& comparison, const MemoryTransition& tr
   m_state.RewriteRecord();
   m_screen.showMessage(transition.message);
   m_screen.enableKey(FunctionKey::F1, true);
-}
-
-void AnswerFlow::tellTolerated(const Comparison& comparison) {
-  m_screen.showFullAnswer(plainText(comparison.typedAnswer + QStringLiteral(" も正解ですが、\n") +
-                                    answer() + QStringLiteral(" を覚えてください。")));
-}
-
-void AnswerFlow::tellMark(const Comparison& comparison) {
-  if (comparison.ANScomp == Verdict::MarkMissing) {
-    m_screen.showFullAnswer(
-        plainText(comparison.typedAnswer + notRight + u'\n' + missingMark(answer())));
-  } else {
-    tellWrong(comparison);
-  }
-  m_screen.setAnswer(comparison.typedAnswer);
-}
-
-void AnswerFlow::tellWrong(const Comparison& comparison) {
-  Comparison shown = comparison;
-  widenBlank(shown);
-  MarkedText text = plainText(shown.typedAnswer + notRight);
-  // Where something is missing the stretch lies behind what was typed: there is nothing to colour.
-  const qsizetype end = std::min<qsizetype>(shown.NGP2, shown.typedAnswer.size());
-  if (shown.NGP >= 1 && end >= shown.NGP)
-    text.spans.push_back({MarkedText::Span::Kind::Coloured, shown.NGP - 1, end - shown.NGP + 1});
-  m_screen.showFullAnswer(text);
 }
 
 void AnswerFlow::askAgain() {
@@ -190,9 +153,7 @@ void AnswerFlow::showAnswer() {
   if (m_state.inMiniTest()) return;
   m_state.answerShown = true;
   m_screen.showFullAnswer(
-      plainText(QStringLiteral("正解：") +
-                (m_state.record.sentence ? sentenceAnswerLines(m_state.record)[m_state.POS1 - 1]
-                                         : m_state.record.英語)));
+      plainText(QStringLiteral("正解：") + answerLine(m_state.record, m_state.POS1)));
 }
 
 void AnswerFlow::ShowMiniTestNotice() {

@@ -36,14 +36,9 @@ class AnswerFlow {
   After moveOn(const MemoryTransition& transition);
   After repeat(const MemoryTransition& transition);
   void refuse(const Comparison& comparison, const MemoryTransition& transition);
-  void tellTolerated(const Comparison& comparison);
-  void tellMark(const Comparison& comparison);
-  /// "… は正解ではありません。" with the differing stretch in colour.
-  void tellWrong(const Comparison& comparison);
   /// Puts the given start back into the answer box of a sentence, empties that of a word.
   void askAgain();
   void guardMemoryCode() const;
-  QString answer() const;
 
   RunState& m_state;
   PracticeScreen& m_screen;

@@ -53,6 +53,10 @@ QStringList sentenceAnswerLines(const CurrentRecord& record) {
   return lines;
 }
 
+QString answerLine(const CurrentRecord& record, int k) {
+  return record.sentence ? sentenceAnswerLines(record).value(k - 1) : record.英語;
+}
+
 QStringList wordAnswerLines(const CurrentRecord& record) {
   QStringList lines;
   if (!record.同.isEmpty())

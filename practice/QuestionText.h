@@ -18,6 +18,9 @@ bool isCorrection(const CurrentRecord& record);
 /// Each answer of a sentence, the part that may be left out in brackets.
 QStringList sentenceAnswerLines(const CurrentRecord& record);
 
+/// The answer of the k-th 小問 as it is shown on demand: its line of a sentence, 英語 of a word.
+QString answerLine(const CurrentRecord& record, int k);
+
 /// The synonyms in brackets, where there are any, and the meanings.
 QStringList wordAnswerLines(const CurrentRecord& record);
 
