@@ -8,7 +8,7 @@ namespace {
 
 /// The line that names the mark at the end of an answer.
 QString missingMark(const QString& answer) {
-  if (answer.endsWith(u'.')) return QStringLiteral("終止符\".\"がありません。");
+  if (answer.endsWith(u'.')) return QStringLiteral("終止符\"．\"がありません。");
   if (answer.endsWith(u'?')) return QStringLiteral("疑問符\"?\"がありません。");
   return QStringLiteral("感嘆符\"!\"がありません。");
 }

@@ -150,7 +150,7 @@ TEST(AnswerFlowTest, TellsWhatWasWrong) {
       << "the last of what fits, where blanks are ignored";
   drill.enter(QStringLiteral("I am big"));
   EXPECT_EQ(drill.screen.fullAnswer,
-            QStringLiteral("I am big") + notRight + QStringLiteral("\n終止符\".\"がありません。"));
+            QStringLiteral("I am big") + notRight + QStringLiteral("\n終止符\"．\"がありません。"));
   EXPECT_EQ(drill.screen.answer, QStringLiteral("I am big")) << "only the mark is left to type";
   drill.enter(QStringLiteral("I am big!"));
   EXPECT_EQ(drill.screen.red, QStringLiteral("!"));
