@@ -1,33 +1,25 @@
 #include "practice/AnswerClock.h"
 
-#include "practice/PracticeScreen.h"
+#include <algorithm>
+
+#include "practice/AnswerScreen.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
 
 namespace tavoli {
 
-AnswerClock::AnswerClock(RunState& state, const Clock& clock, PracticeScreen& screen,
-                         Speaker& speaker)
-    : m_state(state), m_clock(clock), m_screen(screen), m_speaker(speaker) {}
+AnswerClock::AnswerClock(const Clock& clock, AnswerScreen& screen, Speaker& speaker)
+    : m_clock(clock), m_screen(screen), m_speaker(speaker) {}
 
-double AnswerClock::targetSeconds() const {
-  const PracticeConditions& c = m_state.conditions;
-  if (m_state.record.sentence)
-    return c.targetSentA * static_cast<double>(m_state.record.text(m_state.POS1).size()) +
-           c.targetSentB;
-  return c.targetWordA * static_cast<double>(m_state.record.英語.size()) + c.targetWordB;
-}
-
-void AnswerClock::startAnswerTimer() {
+void AnswerClock::startAnswerTimer(double targetSeconds) {
   m_answerClock = m_clock.now();
-  m_state.timeOver = false;
   m_timeUpArmed = false;
-  resume();
-  tick();
+  resume(targetSeconds);
+  showTime();
 }
 
-void AnswerClock::resume() {
-  m_targetSeconds = targetSeconds();
+void AnswerClock::resume(double targetSeconds) {
+  m_targetSeconds = targetSeconds;
   m_running = m_answerClock.isValid();
 }
 
@@ -36,19 +28,20 @@ void AnswerClock::clear() {
   m_screen.showTime(AnswerTime());
 }
 
-void AnswerClock::tick() {
-  if (!m_running) return;
+void AnswerClock::showTime() {
   const auto elapsed = static_cast<int>(m_answerClock.secsTo(m_clock.now()));
-  m_state.timeOver = elapsed >= m_targetSeconds;
-  m_screen.showTime(
-      {true, elapsed, m_state.timeOver ? 1.0 : std::max(0.0, elapsed / m_targetSeconds)});
-  if (!m_state.timeOver) {
-    m_timeUpArmed = elapsed >= 0;
-    return;
-  }
-  if (m_timeUpArmed && timeUpSound == 1) m_speaker.beep();
-  if (m_timeUpArmed && timeUpSound == 2) m_speaker.say(QStringLiteral("Time is up."));
+  m_timeOver = elapsed >= m_targetSeconds;
+  m_timeUpArmed = m_timeUpArmed || (!m_timeOver && elapsed >= 0);
+  m_screen.showTime({true, elapsed, m_timeOver ? 1.0 : std::max(0.0, elapsed / m_targetSeconds)});
+}
+
+void AnswerClock::tick(int timeUpSound) {
+  if (!m_running) return;
+  showTime();
+  if (!m_timeOver || !m_timeUpArmed) return;
   m_timeUpArmed = false;
+  if (timeUpSound == 1) m_speaker.beep();
+  if (timeUpSound == 2) m_speaker.say(QStringLiteral("Time is up."));
 }
 
 }  // namespace tavoli

@@ -2,45 +2,43 @@
 
 #include <QDateTime>
 
-#include "practice/RunState.h"
-
 namespace tavoli {
 
+class AnswerScreen;
 class Clock;
-class PracticeScreen;
 class Speaker;
 
-/// The clock of one answer against its target time. Past the target a right answer earns no
-/// promotion.
+/// The clock of one answer against its target time.
 class AnswerClock {
  public:
-  AnswerClock(RunState& state, const Clock& clock, PracticeScreen& screen, Speaker& speaker);
+  AnswerClock(const Clock& clock, AnswerScreen& screen, Speaker& speaker);
 
-  /// Begins anew for the present 小問.
-  void startAnswerTimer();
-  /// Goes on from the last start, with the present 小問's target.
-  void resume();
+  /// Begins anew; the answer has `targetSeconds`.
+  void startAnswerTimer(double targetSeconds);
+  /// Goes on from the last start, towards another target.
+  void resume(double targetSeconds);
   /// Stops, and leaves the strip as it is.
   void stop() { m_running = false; }
   /// Stops, and empties the strip.
   void clear();
-  /// Once a second.
-  void tick();
+  /// Once a second. When the target time passes it sounds, once: `timeUpSound` 0 not at all, 1 a
+  /// beep, 2 the spoken sentence.
+  void tick(int timeUpSound);
 
   bool running() const { return m_running; }
-  /// 0 none, 1 a beep, 2 the spoken sentence.
-  int timeUpSound = 2;
+  /// The target time had passed at the last tick.
+  bool timeOver() const { return m_timeOver; }
 
  private:
-  double targetSeconds() const;
+  void showTime();
 
-  RunState& m_state;
   const Clock& m_clock;
-  PracticeScreen& m_screen;
+  AnswerScreen& m_screen;
   Speaker& m_speaker;
   QDateTime m_answerClock;
   double m_targetSeconds = 0;
   bool m_running = false;
+  bool m_timeOver = false;
   bool m_timeUpArmed = false;
 };
 

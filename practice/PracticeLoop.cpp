@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "practice/PracticeScreen.h"
+#include "practice/VerdictText.h"
 #include "speech/Speaker.h"
 #include "system/Dialogs.h"
 #include "system/Random.h"
@@ -32,7 +33,7 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_random(services.random),
       m_speaker(services.speaker),
       m_flow(m_state, services.screen, services.dialogs),
-      m_answerClock(m_state, services.clock, services.screen, services.speaker),
+      m_answerClock(services.clock, services.screen, services.speaker),
       m_restTime(times, services.clock, services.screen),
       m_report(services.progress) {}
 
@@ -115,6 +116,13 @@ void PracticeLoop::after(AnswerFlow::After result) {
     stay();
 }
 
+double PracticeLoop::targetSeconds() const {
+  const PracticeConditions& c = m_state.conditions;
+  const auto length = static_cast<double>(answerOf(m_state.record, m_state.POS1).size());
+  return m_state.record.sentence ? c.targetSentA * length + c.targetSentB
+                                 : c.targetWordA * length + c.targetWordB;
+}
+
 void PracticeLoop::activity() {
   m_restTime.takeRestTime();
 }
@@ -149,7 +157,7 @@ void PracticeLoop::dispQuestion() {
   if (m_state.inMiniTest())
     m_answerClock.clear();
   else
-    m_answerClock.startAnswerTimer();
+    m_answerClock.startAnswerTimer(targetSeconds());
   m_screen.focusAnswer();
 }
 
@@ -235,7 +243,7 @@ void PracticeLoop::answerBoxClicked(const QString& typed) {
   }
   if (!m_state.record.sentence || typed != answerStart(m_state.record, m_state.POS1)) return;
   m_screen.showMessage(QString());
-  if (!m_state.inMiniTest()) m_answerClock.resume();
+  if (!m_state.inMiniTest()) m_answerClock.resume(targetSeconds());
 }
 
 void PracticeLoop::showAnswer() {
@@ -279,7 +287,9 @@ void PracticeLoop::markKnown(bool byButton) {
 }
 
 void PracticeLoop::tick() {
-  m_answerClock.tick();
+  if (!m_answerClock.running()) return;
+  m_answerClock.tick(m_state.timeUpSound);
+  m_state.timeOver = m_answerClock.timeOver();
 }
 
 void PracticeLoop::toggleLog() {
@@ -290,7 +300,7 @@ void PracticeLoop::toggleLog() {
 
 void PracticeLoop::chooseTimeUpSound(int choice) {
   activity();
-  m_answerClock.timeUpSound = choice;
+  m_state.timeUpSound = choice;
   m_screen.showTimeUpSound(choice);
 }
 

@@ -93,7 +93,7 @@ class PracticeLoop {
   const RunState& state() const { return m_state; }
   const RunReport& report() const { return m_report; }
   bool clockRunning() const { return m_answerClock.running(); }
-  int timeUpSound() const { return m_answerClock.timeUpSound; }
+  int timeUpSound() const { return m_state.timeUpSound; }
 
  private:
   /// The step after a change of item or 小問: shows the next admitted 小問, or the whole answer
@@ -102,6 +102,8 @@ class PracticeLoop {
   /// Gives the caret back to the answer box; nothing else happens.
   void stay();
   void after(AnswerFlow::After result);
+  /// The target time of the present 小問.
+  double targetSeconds() const;
   /// What every key does first: the time since the last one may have been rest.
   void activity();
   /// Makes POS the current item. False when the run has ended instead.

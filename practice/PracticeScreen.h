@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "data/MarkedText.h"
+#include "practice/AnswerScreen.h"
 
 namespace tavoli {
 
@@ -24,13 +24,6 @@ enum class StatusPanel {
 /// The function keys of the practice; each is a button too.
 enum class FunctionKey { F1 = 1, F2 = 2, F3 = 3, F4 = 4, F6 = 6, F7 = 7, F11 = 11 };
 
-/// What the time strip shows.
-struct AnswerTime {
-  bool running = false;  ///< false: the strip is empty
-  int seconds = 0;       ///< since the question was put
-  double used = 0;       ///< share of the target time that has passed, 0 to 1
-};
-
 /// How many items were finished, by their level: 中学, 高校, 専門.
 struct ItemCounts {
   std::array<int, 3> words{};
@@ -44,34 +37,21 @@ struct RunCounts {
 };
 
 /// What the practice asks of whatever shows it: a window, a terminal, a test.
-class PracticeScreen {
+class PracticeScreen : public AnswerScreen {
  public:
-  virtual ~PracticeScreen() = default;
   virtual void showCaption(const QString& text) = 0;
   virtual void showSource(const QString& text) = 0;
-  virtual void showQuestion(const MarkedText& text) = 0;
-  /// Puts a text into the answer box with the caret behind it.
-  virtual void setAnswer(const QString& text) = 0;
-  virtual void focusAnswer() = 0;
-  /// The full answer, or what a wrong answer is told.
-  virtual void showFullAnswer(const MarkedText& text) = 0;
-  virtual void showMessage(const QString& text) = 0;
   /// The notice of a mini test; an empty text hides it.
   virtual void showMiniTest(const MarkedText& text) = 0;
-  /// Puts a text into the look-up boxes.
-  virtual void lookUp(const QString& text) = 0;
   virtual void enableKey(FunctionKey key, bool enabled) = 0;
   /// Marks one of comparisonChoices(), from 0, as the chosen one.
   virtual void showComparison(int choice) = 0;
   /// Marks a time-up sound as the chosen one: 0 none, 1 a beep, 2 the spoken sentence.
   virtual void showTimeUpSound(int choice) = 0;
-  virtual void showTime(const AnswerTime& time) = 0;
   /// The run's log, all lines of it, and whether it is on show.
   virtual void showLog(const QStringList& runLog, bool shown) = 0;
   virtual void showCounts(const RunCounts& counts) = 0;
   virtual void showStatus(StatusPanel panel, const QString& text) = 0;
-  /// True: the full answer is on show and Enter is awaited. False: the answer box takes typing.
-  virtual void awaitConfirmation(bool awaited) = 0;
   /// The learner has confirmed the end of the run.
   virtual void close() = 0;
 };

@@ -25,6 +25,7 @@ struct RunState {
   bool timeOver = false;     ///< the target time has passed on this 小問
   bool 復習する = false;     ///< the item was really answered
   bool FK次小問 = false;     ///< the last 小問 was left by F2, and nothing was answered since
+  int timeUpSound = 2;       ///< when it passes: 0 none, 1 a beep, 2 the spoken sentence
   int speechKeyCount = 0;  ///< keys since the 小問 was shown; the voice stops at one of the first
 
   PracticeItem& item() { return set.item(POS); }

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "practice/PracticeScreen.h"
+#include "practice/AnswerScreen.h"
 
 namespace tavoli {
 
