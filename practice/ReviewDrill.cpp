@@ -1,0 +1,219 @@
+#include "practice/ReviewDrill.h"
+
+#include <utility>
+
+#include "conditions/ConditionsText.h"
+#include "data/Text.h"
+#include "judge/MemoryTransition.h"
+#include "practice/QuestionText.h"
+#include "practice/ReviewScreen.h"
+#include "practice/RestTime.h"
+#include "practice/VerdictText.h"
+#include "speech/Speaker.h"
+#include "system/Dialogs.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int triesUntilReveal = 2;
+
+}  // namespace
+
+ReviewDrill::ReviewDrill(const RunState& run, ReviewServices services)
+    : m_run(run),
+      m_services(std::move(services)),
+      m_screen(m_services.screen),
+      m_answerClock(m_services.clock, m_screen, m_services.speaker) {}
+
+void ReviewDrill::startReview(std::vector<int> reviewList) {
+  m_復習中 = true;
+  m_reviewList = std::move(reviewList);
+  m_reviewFrom = 0;
+  m_screen.beginReview(courseName(m_run.course.COURSE));
+  nextReviewItem();
+}
+
+void ReviewDrill::stop() {
+  m_復習中 = false;
+  m_answerClock.stop();
+}
+
+void ReviewDrill::nextReviewItem() {
+  m_services.restTime.takeRestTime();
+  emptyAreas();
+  m_reviewTries = 0;
+  m_requiredDone = 0;
+  m_answerAsked = false;
+  if (std::exchange(m_nextDue, false)) m_screen.awaitConfirmation(false);
+  if (m_reviewFrom < m_reviewList.size()) {
+    m_reviewPOS = m_reviewList[m_reviewFrom++];
+    m_reviewPOS1 = 1;
+    m_record = m_run.set.parsed(m_reviewPOS);
+    showReviewQuestion();
+    return;
+  }
+  m_復習中 = false;
+  m_answerClock.clear();
+  m_screen.endReview();
+  m_services.backToPractice();
+}
+
+void ReviewDrill::showReviewQuestion() {
+  QString text = m_record.問題文;
+  if (!m_record.sentence) {
+    // A word is asked once, by all its meanings.
+    QStringList meanings;
+    for (int k = 1; k <= m_record.小問数; ++k) meanings.append(m_record.text(k));
+    text = meanings.join(lineMark);
+  }
+  m_screen.showQuestion(parseMarks(text));
+  m_reviewStopSpeech = true;
+  ask();
+}
+
+void ReviewDrill::ask() {
+  askAgain();
+  const PracticeConditions& c = m_run.conditions;
+  // Sentences have the time of words here: they have been answered before.
+  m_answerClock.startAnswerTimer(c.targetWordA * static_cast<double>(answer().size()) +
+                                 c.targetWordB);
+  m_screen.focusAnswer();
+}
+
+void ReviewDrill::askAgain() {
+  m_screen.setAnswer(answerStart(m_record, m_reviewPOS1));
+}
+
+QString ReviewDrill::answer() const {
+  return answerOf(m_record, m_reviewPOS1);
+}
+
+bool ReviewDrill::correcting() const {
+  return isCorrection(m_record);
+}
+
+void ReviewDrill::emptyAreas() {
+  m_screen.showFullAnswer(MarkedText());
+  m_screen.showMessage(QString());
+}
+
+void ReviewDrill::keyPressed() {
+  m_services.restTime.takeRestTime();
+  if (std::exchange(m_reviewStopSpeech, false)) m_services.speaker.stop();
+  if (!m_nextDue) emptyAreas();
+}
+
+void ReviewDrill::enter(const QString& typed) {
+  if (m_nextDue) {
+    nextReviewItem();
+    return;
+  }
+  keyPressed();
+  const QString entry = CleanTypedAnswer(typed);
+  if (addsNothing(m_record, m_reviewPOS1, entry)) {
+    askAgain();
+    return;
+  }
+  m_answerClock.stop();
+  const Comparison comparison = COMP(m_record, m_reviewPOS1, entry, m_run.comparison);
+  switch (comparison.ANScomp) {
+    case Verdict::Right:
+      return right(comparison.ANScomp);
+    case Verdict::Variant:
+      if (comparison.accepted) return right(comparison.ANScomp);
+      m_screen.showFullAnswer(toleratedText(comparison, answer()));
+      if (!m_record.sentence) m_screen.lookUp(comparison.typedAnswer);
+      return askAgain();
+    case Verdict::MarkMissing:
+    case Verdict::WrongMark:
+      m_screen.showFullAnswer(slipText(comparison, answer()));
+      return m_screen.setAnswer(comparison.typedAnswer);
+    case Verdict::Wrong:
+      return wrong(comparison);
+  }
+}
+
+void ReviewDrill::right(Verdict verdict) {
+  m_reviewTries = 0;
+  speakAnswer();
+  const int required =
+      m_record.sentence ? m_run.conditions.requiredRepeatSent : m_run.conditions.requiredRepeatWord;
+  if (m_answerAsked && ++m_requiredDone < required) {
+    m_screen.showMessage(repeatsText(required - m_requiredDone));
+    askAgain();
+    return;
+  }
+  m_screen.showMessage(praise(verdict));
+  leaveSubQuestion();
+}
+
+void ReviewDrill::wrong(const Comparison& comparison) {
+  ++m_reviewTries;
+  m_screen.showFullAnswer(wrongText(comparison));
+  if (!m_record.sentence) m_screen.lookUp(comparison.typedAnswer);
+  if (m_reviewTries < triesUntilReveal) {
+    askAgain();
+    return;
+  }
+  m_screen.showMessage(answer() + QStringLiteral("　が正解です。"));
+  leaveSubQuestion();
+}
+
+void ReviewDrill::leaveSubQuestion() {
+  m_reviewTries = 0;
+  m_requiredDone = 0;
+  m_answerAsked = false;
+  if (m_record.sentence && m_record.has(m_reviewPOS1 + 1)) {
+    ++m_reviewPOS1;
+    ask();
+    return;
+  }
+  m_nextDue = true;
+  m_answerClock.clear();
+  m_screen.setAnswer(QString());
+  m_screen.showFullAnswer(parseMarks(fullAnswerText(m_record)));
+  m_screen.awaitConfirmation(true);
+}
+
+void ReviewDrill::speakAnswer() {
+  if (!m_record.sentence) return m_services.speaker.say(m_record.英語);
+  // Of two ways to say it, "a = b", the second one is spoken.
+  const QString text = answer();
+  m_services.speaker.say(trimBlanks(text.sliced(text.indexOf(u'=') + 1)));
+}
+
+void ReviewDrill::answerBoxLeft() {
+  m_services.restTime.takeRestTime();
+}
+
+void ReviewDrill::answerBoxClicked() {
+  if (m_nextDue) nextReviewItem();
+}
+
+void ReviewDrill::showAnswer() {
+  m_services.restTime.takeRestTime();
+  if (m_nextDue) return;
+  m_requiredDone = 0;
+  m_answerAsked = true;
+  m_screen.showMessage(answerLine(m_record, m_reviewPOS1));
+  speakAnswer();
+  m_screen.focusAnswer();
+}
+
+void ReviewDrill::requestExit() {
+  const bool confirmed = m_services.dialogs.ask(QStringLiteral("終了しますか？"));
+  m_services.restTime.takeRestTime();
+  if (confirmed)
+    m_services.exitRun();
+  else if (m_nextDue)
+    nextReviewItem();
+  else
+    m_screen.focusAnswer();
+}
+
+void ReviewDrill::tick() {
+  m_answerClock.tick(m_run.timeUpSound);
+}
+
+}  // namespace tavoli

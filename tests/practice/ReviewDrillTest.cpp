@@ -1,0 +1,330 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "practice/ReviewDrill.h"
+#include "practice/RestTime.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/RecordingScreen.h"
+
+namespace tavoli {
+namespace {
+
+/// A sentence whose first answer has "so " to leave out, the contraction "I'm " and the literal
+/// "huge" for "big"; a plain second blank follows.
+const QString sentence =
+    QStringLiteral("問[題]|000012I am so big.060801010105001091104huge^000003two00000000^|説明");
+/// The word "big" with a synonym and two meanings.
+const QString word = QStringLiteral("|large^|000大きい^100偉大な^|");
+
+class ReviewDrillTest : public testing::Test {
+ protected:
+  ReviewDrillTest() { restTime.begin(); }
+
+  void start(const QStringList& packed) {
+    records = packed;
+    set = PracticeSet();
+    for (const QString& record : records) {
+      PracticeItem item;
+      const bool isSentence = record.contains(u'問') || record.contains(u'次');
+      item.itemEnglish = isSentence ? QStringLiteral("000010") : QStringLiteral("big");
+      item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
+      item.itemRecord = record;
+      set.append(item);
+    }
+    std::vector<int> all;
+    for (int i = 1; i <= set.itemCount(); ++i) all.push_back(i);
+    review.startReview(all);
+  }
+
+  /// Keys: r right, v an accepted variant, o right without what may be left out, t tolerated, w
+  /// wrong, m the mark missing, q a wrong mark, e Enter on nothing, 1 F1, K F11.
+  void press(const char* keys) {
+    for (; *keys != '\0'; ++keys) {
+      const CurrentRecord& record = review.record();
+      const QString right =
+          record.sentence ? record.text(review.reviewPOS1()) : QStringLiteral("big");
+      switch (*keys) {
+        case 'r':
+          review.enter(right);
+          break;
+        case 'v':
+          review.enter(QStringLiteral("I'm so big."));
+          break;
+        case 'o':
+          review.enter(QStringLiteral("I am big."));
+          break;
+        case 't':
+          review.enter(record.sentence ? QStringLiteral("I am so huge.") : QStringLiteral("large"));
+          break;
+        case 'w':
+          review.enter(QStringLiteral("nonsense"));
+          break;
+        case 'm':
+          review.enter(right.chopped(1));
+          break;
+        case 'q':
+          review.enter(right.chopped(1) + u'?');
+          break;
+        case '1':
+          review.showAnswer();
+          break;
+        case 'K':
+          review.nextReviewItem();
+          break;
+        default:
+          review.enter(QString());
+      }
+    }
+  }
+
+  CourseChoice course;
+  PracticeConditions conditions;
+  PracticeSet set;
+  QStringList records;
+  RunState run{set, course, conditions, {}};
+  test::RecordingScreen practice;
+  test::RecordingReview screen;
+  test::ScriptedDialogs dialogs;
+  test::FakeClock clock;
+  test::RecordingSpeaker speaker;
+  RunClock times;
+  RestTime restTime{times, clock, practice};
+  int handedBack = 0;
+  int exits = 0;
+  ReviewDrill review{run,
+                     {screen, dialogs, clock, speaker, restTime, [this] { ++handedBack; },
+                      [this] {
+                        ++exits;
+                        review.stop();
+                      }}};
+};
+
+TEST_F(ReviewDrillTest, JudgesByTheTable) {
+  const char16_t* full = u"問題\nI am (so )big.\ntwo\n説明";
+  const char16_t* fullWord = u"big\n (large )\n大きい  偉大な  ";
+  const char16_t* right = u"○　正解です。\n";
+  const char16_t* variant = u"◎　正解です。\n";
+  const char16_t* wrong = u"nonsense は正解ではありません。";
+  const char16_t* tolerated = u"I am so huge. も正解ですが、\nI am so big. を覚えてください。";
+  const char16_t* toleratedWord = u"large も正解ですが、\nbig を覚えてください。";
+  const char16_t* noMark = u"I am so big は正解ではありません。\n終止符\"．\"がありません。";
+  const char16_t* wrongMark = u"I am so big? は正解ではありません。";
+  const char16_t* revealed = u"I am so big.　が正解です。";
+  const QString& S = sentence;
+  const QString& W = word;
+  const struct {
+    const char* name;
+    const QString& record;
+    const char* keys;
+    int POS1;
+    bool nextDue;
+    const char16_t* message;
+    const char16_t* fullAnswer;
+    const char16_t* answer;
+    bool clock;
+  } rows[] = {
+      {"asked", S, "", 1, false, u"", u"", u"", true},
+      {"right", S, "r", 2, false, right, u"", u"", true},
+      {"contraction", S, "v", 2, false, variant, u"", u"", true},
+      {"omission", S, "o", 2, false, variant, u"", u"", true},
+      {"tolerated", S, "t", 1, false, u"", tolerated, u"", false},
+      {"tolerated is no wrong entry", S, "twt", 1, false, u"", tolerated, u"", false},
+      {"mark missing", S, "m", 1, false, u"", noMark, u"I am so big", false},
+      {"wrong mark", S, "q", 1, false, u"", wrongMark, u"I am so big?", false},
+      {"slips are no wrong entries", S, "mqmqw", 1, false, u"", wrong, u"", false},
+      {"wrong once", S, "w", 1, false, u"", wrong, u"", false},
+      {"wrong twice", S, "ww", 2, false, revealed, wrong, u"", true},
+      {"the next blank has its own two", S, "www", 2, false, u"", wrong, u"", false},
+      {"last blank wrong twice", S, "rww", 2, true, u"two　が正解です。", full, u"", false},
+      {"last blank right", S, "rr", 2, true, right, full, u"", false},
+      {"wrong once, then right", S, "wr", 2, false, right, u"", u"", true},
+      {"F1", S, "1", 1, false, u"I am (so )big.", u"", u"", true},
+      {"F1 on the second blank", S, "r1", 2, false, u"two", u"", u"", true},
+      {"word right", W, "r", 1, true, right, fullWord, u"", false},
+      {"word by a synonym", W, "t", 1, false, u"", toleratedWord, u"", false},
+      {"word wrong twice", W, "ww", 1, true, u"big　が正解です。", fullWord, u"", false},
+      {"nothing typed", W, "e", 1, false, u"", u"", u"", true},
+      {"F1 at the full answer is refused", W, "r1", 1, true, right, fullWord, u"", false},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    start({row.record, W});
+    press(row.keys);
+    EXPECT_EQ(review.reviewPOS1(), row.POS1);
+    EXPECT_EQ(review.nextDue(), row.nextDue);
+    EXPECT_EQ(screen.awaited, row.nextDue);
+    EXPECT_EQ(screen.message, QString::fromUtf16(row.message));
+    EXPECT_EQ(screen.fullAnswer, QString::fromUtf16(row.fullAnswer));
+    EXPECT_EQ(screen.answer, QString::fromUtf16(row.answer));
+    clock.time = clock.time.addSecs(1);
+    screen.time.seconds = 0;
+    review.tick();
+    EXPECT_EQ(screen.time.seconds, row.clock ? 1 : 0);
+    press("KK");
+  }
+  EXPECT_EQ(handedBack, static_cast<int>(std::size(rows)));
+}
+
+TEST_F(ReviewDrillTest, ColoursWhatIsWrongAndLooksWordsUp) {
+  start({word, sentence});
+  EXPECT_EQ(screen.question, QStringLiteral("大きい\n偉大な")) << "all meanings at once";
+  review.enter(QStringLiteral("bug"));
+  EXPECT_EQ(screen.red, QStringLiteral("u"));
+  EXPECT_EQ(screen.lookedUp, QStringLiteral("bug"));
+  press("req");
+  EXPECT_EQ(screen.question, QStringLiteral("問題"));
+  EXPECT_EQ(screen.red, QStringLiteral("?"));
+  EXPECT_EQ(screen.lookedUp, QStringLiteral("bug")) << "sentences are not looked up";
+}
+
+TEST_F(ReviewDrillTest, AfterF1TheAnswerIsTypedAsOftenAsSet) {
+  conditions.requiredRepeatWord = 3;
+  conditions.requiredRepeatSent = 2;
+  const struct {
+    const char* name;
+    const QString& record;
+    const char* keys;
+    int POS1;
+    bool nextDue;
+    const char16_t* message;
+  } rows[] = {
+      {"word, first", word, "1r", 1, false, u"あと 2 回練習して下さい。"},
+      {"word, second", word, "1rr", 1, false, u"あと 1 回練習して下さい。"},
+      {"word, third: on", word, "1rrr", 1, true, u"○　正解です。\n"},
+      {"F1 again begins anew", word, "1rr1r", 1, false, u"あと 2 回練習して下さい。"},
+      {"a wrong entry between", word, "1rwrr", 1, true, u"○　正解です。\n"},
+      {"without F1 once is enough", word, "r", 1, true, u"○　正解です。\n"},
+      {"sentence, first", sentence, "1r", 1, false, u"あと 1 回練習して下さい。"},
+      {"sentence, second: next blank", sentence, "1rv", 2, false, u"◎　正解です。\n"},
+      {"the next blank owes nothing", sentence, "1rrr", 2, true, u"○　正解です。\n"},
+      {"F1 on both blanks", sentence, "1rr1r", 2, false, u"あと 1 回練習して下さい。"},
+      {"revealed: owes nothing more", sentence, "1wwr", 2, true, u"○　正解です。\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    start({row.record, word});
+    press(row.keys);
+    EXPECT_EQ(review.reviewPOS(), 1) << "asked again at once, and not again at the end";
+    EXPECT_EQ(review.reviewPOS1(), row.POS1);
+    EXPECT_EQ(review.nextDue(), row.nextDue);
+    EXPECT_EQ(screen.message, QString::fromUtf16(row.message));
+    press("K");
+    EXPECT_EQ(review.reviewPOS(), 2);
+    press("re");
+    EXPECT_FALSE(screen.shown);
+  }
+}
+
+TEST_F(ReviewDrillTest, TheNextItemForgetsWhatTheLastOneOwed) {
+  start({word, word, sentence});
+  press("w1K");
+  press("w");
+  EXPECT_FALSE(review.nextDue()) << "its first wrong entry";
+  press("r");
+  EXPECT_TRUE(review.nextDue()) << "not asked for, so typed once";
+  press("K");
+  EXPECT_FALSE(screen.awaited);
+  EXPECT_EQ(screen.fullAnswer, QString());
+  press("rr");
+  EXPECT_EQ(handedBack, 0);
+  press("e");
+  EXPECT_EQ(handedBack, 1);
+  EXPECT_FALSE(review.復習中());
+}
+
+TEST_F(ReviewDrillTest, GivesAndKeepsTheStartOfAnAnswer) {
+  start({QStringLiteral("問|030009He is big00000000^|"),
+         QStringLiteral("次の英文に誤りがあれば訂正しなさい。％％He [am] big.|000010He is big."
+                        "00000000^|")});
+  EXPECT_EQ(screen.answer, QStringLiteral("He "));
+  for (const char16_t* typed : {u"", u"He ", u"He", u"  "}) review.enter(QString::fromUtf16(typed));
+  press("w");
+  EXPECT_EQ(screen.answer, QStringLiteral("He "));
+  EXPECT_FALSE(review.nextDue()) << "entries of nothing new cost nothing";
+  press("re");
+  EXPECT_TRUE(review.correcting());
+  EXPECT_EQ(screen.answer, QStringLiteral("He am big."));
+  press("w");
+  EXPECT_EQ(screen.answer, QStringLiteral("He am big."));
+}
+
+TEST_F(ReviewDrillTest, SpeaksTheAnswerAndIsSilencedByTheFirstKey) {
+  start({word, QStringLiteral("問|000019am not = am no more00000000^|")});
+  press("1r");
+  EXPECT_EQ(speaker.said, QStringList(2, QStringLiteral("big")));
+  EXPECT_EQ(speaker.stopped, 1);
+  press("re");
+  review.keyPressed();
+  review.keyPressed();
+  EXPECT_EQ(speaker.stopped, 2) << "once for each item";
+  press("1");
+  EXPECT_EQ(speaker.said.last(), QStringLiteral("am no more")) << "what stands behind the =";
+  EXPECT_EQ(screen.message, QStringLiteral("am not = am no more"));
+  review.keyPressed();
+  EXPECT_EQ(screen.message, QString());
+}
+
+TEST_F(ReviewDrillTest, TimesSentencesAsWords) {
+  start({sentence});
+  conditions.targetSentB = 99;
+  const auto pass = [&](int seconds) {
+    clock.time = clock.time.addSecs(seconds);
+    review.tick();
+  };
+  pass(8);
+  EXPECT_DOUBLE_EQ(screen.time.used, 0.5) << "12 characters have 16 seconds";
+  pass(8);
+  EXPECT_EQ(speaker.said, QStringList{QStringLiteral("Time is up.")});
+  run.timeUpSound = 1;
+  press("r");
+  pass(5);
+  pass(7);
+  EXPECT_EQ(speaker.beeps, 1) << "the next blank has a clock of its own";
+  clock.time = clock.time.addSecs(60);
+  press("r");
+  EXPECT_EQ(times.休憩時間, 72) << "since the last entry";
+  EXPECT_FALSE(screen.time.running);
+}
+
+TEST_F(ReviewDrillTest, EndsTheRunOnlyWhenConfirmed) {
+  start({word, word});
+  dialogs.answers = {false, false, true};
+  review.requestExit();
+  EXPECT_EQ(review.reviewPOS(), 1);
+  press("r");
+  review.requestExit();
+  EXPECT_EQ(review.reviewPOS(), 2) << "a refused end goes on, like Enter";
+  EXPECT_EQ(exits, 0);
+  review.requestExit();
+  EXPECT_EQ(dialogs.asked, QStringList(3, QStringLiteral("終了しますか？")));
+  EXPECT_EQ(exits, 1);
+  EXPECT_EQ(handedBack, 0);
+}
+
+/// Whatever is pressed, nothing is changed, and the batch is walked through once.
+TEST_F(ReviewDrillTest, RandomKeysChangeNoRecord) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  for (int round = 1; round <= 200; ++round) {
+    start({sentence, word, sentence, word});
+    int item = 1;
+    while (review.復習中()) {
+      const std::string key(1, "rrvotwwmqe1K"[random() % 12]);
+      press(key.c_str());
+      ASSERT_TRUE(review.reviewPOS() == item || review.reviewPOS() == item + 1);
+      item = review.reviewPOS();
+      ASSERT_TRUE(!review.復習中() || review.nextDue() == screen.awaited);
+    }
+    ASSERT_EQ(handedBack, round);
+    for (int i = 1; i <= 4; ++i) {
+      ASSERT_EQ(set.item(i).itemRecord, records[i - 1]);
+      ASSERT_EQ(set.item(i).itemTimes, 0);
+      ASSERT_FALSE(set.item(i).itemDirty);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavoli
