@@ -2,14 +2,16 @@
 
 #include <QKeyEvent>
 
+#include "practice/screens/ScaledFont.h"
+
 namespace tavoli {
 
 AnswerBox::AnswerBox(QWidget* parent) : EnglishBox(parent) {
   QFont fixed(QStringList{QStringLiteral("ＭＳ ゴシック"), QStringLiteral("Noto Sans Mono CJK JP"),
                           QStringLiteral("IPAGothic"), QStringLiteral("monospace")});
   fixed.setStyleHint(QFont::Monospace);
-  fixed.setPointSizeF(font().pointSizeF() * 1.5);
-  setFont(fixed);
+  fixed.setPointSizeF(font().pointSizeF());
+  setFont(scaled(fixed, 1.5));
 }
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {

@@ -13,10 +13,12 @@
 #include "practice/PracticeLoop.h"
 #include "practice/screens/AnswerBox.h"
 #include "practice/screens/CountsFrame.h"
+#include "practice/screens/FunctionKeys.h"
 #include "practice/screens/LogView.h"
 #include "practice/screens/LookUpPane.h"
-#include "practice/screens/PracticeKeys.h"
+#include "practice/screens/MessageLine.h"
 #include "practice/screens/PracticeMenus.h"
+#include "practice/screens/ScaledFont.h"
 #include "practice/screens/StatusPanels.h"
 #include "practice/screens/TextMenu.h"
 #include "practice/screens/TimeStrip.h"
@@ -25,11 +27,6 @@
 namespace tavoli {
 
 namespace {
-
-QFont scaled(QFont font, double factor) {
-  font.setPointSizeF(font.pointSizeF() * factor);
-  return font;
-}
 
 QSplitter* splitter(Qt::Orientation orientation, QWidget* parent) {
   auto* made = new QSplitter(orientation, parent);
@@ -45,8 +42,8 @@ TAVO3::TAVO3(PracticeConditions& conditions, QWidget* parent)
   buildAreas();
   buildAnswer();
   m_lookUps = splitter(Qt::Horizontal, this);
-  m_keys =
-      new PracticeKeys([this](FunctionKey key, bool byButton) { pressKey(key, byButton); }, this);
+  m_keys = new FunctionKeys(
+      practiceKeys(), [this](FunctionKey key, bool byButton) { pressKey(key, byButton); }, this);
   m_status = new StatusPanels(
       [this] {
         if (loop()) loop()->nextComparison();
@@ -77,13 +74,7 @@ void TAVO3::buildAreas() {
   m_counts->hide();
 
   m_answer = new AnswerBox(this);
-  m_message = new QLabel(this);
-  m_message->setObjectName(QStringLiteral("RichTextBox5"));
-  m_message->setTextFormat(Qt::PlainText);
-  m_message->setWordWrap(true);
-  m_message->setFont(scaled(font(), 1.2));
-  m_message->setMinimumHeight(m_message->fontMetrics().lineSpacing() * 2);
-  m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  m_message = new MessageLine(this);
 
   m_fullAnswer = new WordView(this);
   m_fullAnswer->setObjectName(QStringLiteral("RichTextBox2"));

@@ -13,11 +13,12 @@ namespace tavoli {
 
 class AnswerBox;
 class CountsFrame;
+class FunctionKeys;
 class LogView;
 class LookUp;
 class LookUpPane;
 class MarkedView;
-class PracticeKeys;
+class MessageLine;
 class PracticeLoop;
 class PracticeMenus;
 class StatusPanels;
@@ -86,13 +87,13 @@ class TAVO3 final : public QMainWindow, public PracticeScreen {
   WordView* m_question;
   CountsFrame* m_counts;
   AnswerBox* m_answer;
-  QLabel* m_message;
+  MessageLine* m_message;
   WordView* m_fullAnswer;
   MarkedView* m_miniTest;
   LogView* m_log;
   QSplitter* m_lookUps;
   QList<LookUpPane*> m_panes;
-  PracticeKeys* m_keys;
+  FunctionKeys* m_keys;
   PracticeMenus* m_menus;
   StatusPanels* m_status;
   TextMenu* m_textMenu;

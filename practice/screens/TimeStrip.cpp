@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "practice/screens/ScaledFont.h"
+
 namespace tavoli {
 
 namespace {
@@ -13,9 +15,7 @@ const QColor timeUpColour(176, 0, 32);  // carries white letters on light and da
 }  // namespace
 
 TimeStrip::TimeStrip(QWidget* parent) : QWidget(parent) {
-  QFont larger = font();
-  larger.setPointSizeF(larger.pointSizeF() * 1.2);
-  setFont(larger);
+  setFont(scaled(font(), 1.2));
   setAccessibleName(QStringLiteral("回答時間"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QLabel>
+
+namespace tavoli {
+
+/// The place of the one-line messages, with room for two lines so that nothing jumps.
+class MessageLine final : public QLabel {
+  Q_OBJECT
+ public:
+  explicit MessageLine(QWidget* parent = nullptr);
+};
+
+}  // namespace tavoli
