@@ -61,7 +61,7 @@ std::optional<MarkedText> LookUp::find(const QString& text) {
 
 std::optional<MarkedText> LookUp::next() {
   m_fromEnd = false;
-  if (m_onEntry)
+  if (returnToEntry())
     m_dictionary.MoveNext();
   else
     m_dictionary.MoveFirst();
@@ -71,7 +71,7 @@ std::optional<MarkedText> LookUp::next() {
 }
 
 std::optional<MarkedText> LookUp::previous() {
-  if (m_fromEnd || !m_onEntry)
+  if (m_fromEnd || !returnToEntry())
     m_dictionary.Seek(SeekOp::AtOrBefore, QStringLiteral("zzz"));
   else
     m_dictionary.MovePrevious();
@@ -81,13 +81,23 @@ std::optional<MarkedText> LookUp::previous() {
   return shown();
 }
 
+bool LookUp::returnToEntry() {
+  if (!m_entry) return false;
+  if (!m_dictionary.hasRow() || m_dictionary.key() != *m_entry)
+    m_dictionary.Seek(SeekOp::Equal, *m_entry);
+  return m_dictionary.hasRow();
+}
+
 void LookUp::leaveReservedRows() {
   while (isReservedKey(m_dictionary.key())) m_dictionary.MovePrevious();
 }
 
 std::optional<MarkedText> LookUp::shown() {
-  m_onEntry = m_dictionary.hasRow();
-  if (m_onEntry) return showEntry();
+  m_entry.reset();
+  if (m_dictionary.hasRow()) {
+    m_entry = m_dictionary.key();
+    return showEntry();
+  }
   if (!m_dictionary.failed()) return std::nullopt;
   return plainText(QStringLiteral(
       "辞書を読めませんでした。記録は変わっていません。練習を終えて、もう一度始めて下さい。"));

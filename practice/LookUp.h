@@ -19,7 +19,8 @@ QString wordAt(const QString& text, int selectionStart, int selectionLength);
 /// record of the question.
 class LookUp {
  public:
-  /// `dictionary` must outlive the look-up, and nobody else may move it between two steps.
+  /// `dictionary` must outlive the look-up. Several look-ups may share one: each steps on from the
+  /// entry that it showed itself.
   explicit LookUp(TableCursor& dictionary) : m_dictionary(dictionary) {}
 
   /// The entry of that key or else of the next one behind it in key order; the last entry for a key
@@ -34,14 +35,16 @@ class LookUp {
   std::optional<MarkedText> previous();
 
  private:
+  /// Goes to the entry that was shown last. False when there is none.
+  bool returnToEntry();
   /// Goes back from the learner's own rows and end marks, which are no entries.
   void leaveReservedRows();
   std::optional<MarkedText> shown();
   MarkedText showEntry() const;
 
   TableCursor& m_dictionary;
-  bool m_onEntry = false;  // whether the cursor stands where a look-up has put it
-  bool m_fromEnd = false;  // whether the box was emptied since the last step
+  std::optional<QString> m_entry;  // the key of the entry that was shown last
+  bool m_fromEnd = false;          // whether the box was emptied since the last step
 };
 
 }  // namespace tavoli

@@ -143,6 +143,15 @@ TEST_F(LookUpTest, StepsFromWhatWasFound) {
   EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("nan")) << "then it steps on";
 }
 
+TEST_F(LookUpTest, StepsOnFromItsOwnEntryWhereADictionaryIsShared) {
+  LookUp other(*rows);
+  lookUp.find(QStringLiteral("apple"));
+  other.find(QStringLiteral("nan"));
+  EXPECT_EQ(headOf(lookUp.next()), QStringLiteral("apple pie"));
+  EXPECT_EQ(headOf(other.previous()), QStringLiteral("may"));
+  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("apple"));
+}
+
 TEST_F(LookUpTest, ADictionaryWithoutEntriesShowsNone) {
   const auto end = store.database().OpenRecordset(tableSTDIC);
   LookUp empty(*end);
