@@ -32,6 +32,8 @@ RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
                            const RepeatValue& sentence, QWidget* parent)
     : QDialog(parent), m_word(word), m_sentence(sentence) {
   setWindowTitle(title);
+  // Wide enough for the title between the frame's buttons.
+  setMinimumWidth(fontMetrics().horizontalAdvance(title + QString(8, u'　')));
   auto* column = new QVBoxLayout(this);
   m_wordBox = addGroup(column, m_word, 1);
   m_sentenceBox = addGroup(column, m_sentence, 2);
