@@ -6,6 +6,11 @@ namespace {
 
 const QString areaBox = QStringLiteral("箱");
 const QString areaAnswer = QStringLiteral("回答");
+const QString areaQuestion = QStringLiteral("問題");
+const QString areaFullAnswer = QStringLiteral("正解");
+const QString areaMessage = QStringLiteral("表示");
+const QString areaConfirmation = QStringLiteral("確認");
+const QString areaReview = QStringLiteral("復習");
 
 /// The text with its marks written out as the sources spell them.
 QString withMarks(const MarkedText& marked) {
@@ -75,6 +80,49 @@ void TerminalLogin::showEngineTrouble() {
                   QStringLiteral("データベースを使えません。Tavoli を入れ直してください。"));
 }
 
+template <class Screen>
+void TerminalAnswers<Screen>::showQuestion(const MarkedText& text) {
+  m_terminal.show(areaQuestion, withMarks(text));
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::setAnswer(const QString& text) {
+  answerStart = text;
+  m_terminal.show(areaAnswer, text);
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::showFullAnswer(const MarkedText& text) {
+  m_terminal.show(areaFullAnswer, withMarks(text));
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::showMessage(const QString& text) {
+  m_terminal.show(areaMessage, text);
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::lookUp(const QString& text) {
+  for (Dictionary& dictionary : m_dictionaries) {
+    if (const std::optional<MarkedText> entry = dictionary.lookUp.find(text))
+      m_terminal.show(dictionary.heading, withMarks(*entry));
+  }
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::showTime(const AnswerTime& time) {
+  m_terminal.show(QStringLiteral("時間"),
+                  time.used >= 1 ? QStringLiteral("%1秒　時間切れ").arg(time.seconds) : QString());
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::awaitConfirmation(bool awaited) {
+  m_terminal.show(areaConfirmation, awaited ? QStringLiteral("空の行で次に進みます。") : QString());
+}
+
+template class TerminalAnswers<PracticeScreen>;
+template class TerminalAnswers<ReviewScreen>;
+
 void TerminalPractice::showCaption(const QString& text) {
   m_terminal.show(QStringLiteral("見出し"), text);
 }
@@ -83,37 +131,8 @@ void TerminalPractice::showSource(const QString& text) {
   m_terminal.show(QStringLiteral("出典"), text);
 }
 
-void TerminalPractice::showQuestion(const MarkedText& text) {
-  m_terminal.show(QStringLiteral("問題"), withMarks(text));
-}
-
-void TerminalPractice::setAnswer(const QString& text) {
-  answerStart = text;
-  m_terminal.show(areaAnswer, text);
-}
-
-void TerminalPractice::showFullAnswer(const MarkedText& text) {
-  m_terminal.show(QStringLiteral("正解"), withMarks(text));
-}
-
-void TerminalPractice::showMessage(const QString& text) {
-  m_terminal.show(QStringLiteral("表示"), text);
-}
-
 void TerminalPractice::showMiniTest(const MarkedText& text) {
   m_terminal.show(QStringLiteral("小試験"), withMarks(text));
-}
-
-void TerminalPractice::lookUp(const QString& text) {
-  for (Dictionary& dictionary : m_dictionaries) {
-    if (const std::optional<MarkedText> entry = dictionary.lookUp.find(text))
-      m_terminal.show(dictionary.heading, withMarks(*entry));
-  }
-}
-
-void TerminalPractice::showTime(const AnswerTime& time) {
-  m_terminal.show(QStringLiteral("時間"),
-                  time.used >= 1 ? QStringLiteral("%1秒　時間切れ").arg(time.seconds) : QString());
 }
 
 void TerminalPractice::showLog(const QStringList& runLog, bool shown) {
@@ -138,11 +157,6 @@ void TerminalPractice::showStatus(StatusPanel panel, const QString& text) {
   m_terminal.show(QStringLiteral("状態%1").arg(static_cast<int>(panel)), text);
 }
 
-void TerminalPractice::awaitConfirmation(bool awaited) {
-  m_terminal.show(QStringLiteral("確認"),
-                  awaited ? QStringLiteral("空の行で次に進みます。") : QString());
-}
-
 void TerminalPractice::begin(int loadTotal) {
   m_loadTotal = loadTotal;
 }
@@ -150,6 +164,15 @@ void TerminalPractice::begin(int loadTotal) {
 bool TerminalPractice::reached(int loadDone) {
   m_terminal.show(QStringLiteral("読込"), QStringLiteral("%1／%2").arg(loadDone).arg(m_loadTotal));
   return true;
+}
+
+void TerminalReview::beginReview(const QString& course) {
+  m_terminal.show(areaReview, course);
+}
+
+void TerminalReview::endReview() {
+  for (const QString& area : {areaQuestion, areaAnswer, areaFullAnswer, areaMessage, areaReview})
+    m_terminal.show(area, QString());
 }
 
 }  // namespace tavoli

@@ -11,6 +11,7 @@
 #include "practice/PracticeRun.h"
 #include "practice/PracticeScreen.h"
 #include "practice/PracticeSetLoader.h"
+#include "practice/ReviewScreen.h"
 #include "system/Dialogs.h"
 
 namespace tavoli {
@@ -59,43 +60,65 @@ class TerminalLogin final : public LoginScreen {
   Terminal& m_terminal;
 };
 
-/// The practice's screen in the terminal.
-class TerminalPractice final : public PracticeScreen, public LoadProgress {
+/// What the screens of drills with typed answers have in common in the terminal.
+template <class Screen>
+class TerminalAnswers : public Screen {
  public:
-  TerminalPractice(Terminal& terminal, std::vector<Dictionary>& dictionaries)
+  TerminalAnswers(Terminal& terminal, std::vector<Dictionary>& dictionaries)
       : m_terminal(terminal), m_dictionaries(dictionaries) {}
+
+  void showQuestion(const MarkedText& text) override;
+  void setAnswer(const QString& text) override;
+  void focusAnswer() override {}
+  void showFullAnswer(const MarkedText& text) override;
+  void showMessage(const QString& text) override;
+  void lookUp(const QString& text) override;
+  void showTime(const AnswerTime& time) override;
+  void awaitConfirmation(bool awaited) override;
+
+  /// What stands in the answer box before anything is typed.
+  QString answerStart;
+
+ protected:
+  Terminal& m_terminal;
+
+ private:
+  std::vector<Dictionary>& m_dictionaries;
+};
+
+/// The practice's screen in the terminal.
+class TerminalPractice final : public TerminalAnswers<PracticeScreen>, public LoadProgress {
+ public:
+  using TerminalAnswers::TerminalAnswers;
 
   void showCaption(const QString& text) override;
   void showSource(const QString& text) override;
-  void showQuestion(const MarkedText& text) override;
-  void setAnswer(const QString& text) override;
-  void showFullAnswer(const MarkedText& text) override;
-  void focusAnswer() override {}
-  void showMessage(const QString& text) override;
   void showMiniTest(const MarkedText& text) override;
-  void lookUp(const QString& text) override;
   void enableKey(FunctionKey, bool) override {}
   void showComparison(int) override {}
   void showTimeUpSound(int) override {}
-  void showTime(const AnswerTime& time) override;
   void showLog(const QStringList& runLog, bool shown) override;
   void showCounts(const RunCounts& counts) override;
   void showStatus(StatusPanel panel, const QString& text) override;
-  void awaitConfirmation(bool awaited) override;
   void close() override { closed = true; }
 
   void begin(int loadTotal) override;
   bool reached(int loadDone) override;
   void end() override {}
 
-  /// What stands in the answer box before anything is typed.
-  QString answerStart;
   bool closed = false;
 
  private:
-  Terminal& m_terminal;
-  std::vector<Dictionary>& m_dictionaries;
   int m_loadTotal = 0;
+};
+
+/// The review's screen in the terminal. It uses the areas of the practice, and leaves them empty.
+class TerminalReview final : public TerminalAnswers<ReviewScreen> {
+ public:
+  using TerminalAnswers::TerminalAnswers;
+
+  void beginReview(const QString& course) override;
+  void endReview() override;
 };
 
 }  // namespace tavoli

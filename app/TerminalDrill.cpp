@@ -17,6 +17,40 @@ namespace {
 
 constexpr int badArguments = 2;
 
+/// Names, captions and actions of the keys that a drill knows.
+using KeyTable = QList<std::tuple<QString, QString, std::function<void(PracticeLoop&)>>>;
+
+/// Presses one of the keys, or looks a word up; tells what can be pressed when it is neither.
+template <class Screen>
+void pressOneOf(const KeyTable& keys, Terminal& terminal, PracticeLoop& loop, Screen& screen,
+                const QString& key) {
+  const QString look = QStringLiteral(":look ");
+  if (key.startsWith(look)) {
+    screen.lookUp(key.sliced(look.size()));
+    return;
+  }
+  QStringList help = {QStringLiteral(":look 語 辞書を引く")};
+  for (const auto& [name, caption, action] : keys) {
+    if (name == key) {
+      action(loop);
+      return;
+    }
+    help.append(name + u' ' + caption);
+  }
+  terminal.show(
+      QStringLiteral("表示"),
+      QStringLiteral("%1 というキーはありません。%2").arg(key, help.join(QStringLiteral("、"))));
+}
+
+/// What a line leaves in the answer box. In a window the learner types on behind the given start;
+/// here the start may be repeated, and a sentence to correct is written anew.
+QString entryOf(QString line, const QString& answerStart, bool correcting) {
+  if (line.startsWith(u':')) line.remove(0, 1);
+  line.replace(u'~', u'～');
+  if (line.isEmpty()) return answerStart;
+  return correcting || line.startsWith(answerStart) ? line : answerStart + line;
+}
+
 }  // namespace
 
 TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options)
@@ -108,39 +142,37 @@ int TerminalDrill::practise() {
                   m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
-  if (!run.open(screen, screen)) return EXIT_FAILURE;
-  drive(run.loop(), screen);
+  TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());
+  if (!run.open(screen, reviewScreen, screen)) return EXIT_FAILURE;
+  drive(run.loop(), screen, reviewScreen);
   return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen) {
+void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen,
+                          TerminalReview& reviewScreen) {
   while (!screen.closed) {
-    std::optional<QString> line = m_terminal.readLine();
+    const std::optional<QString> line = m_terminal.readLine();
+    const bool reviewing = loop.復習中();
     loop.tick();
+    loop.review().tick();
     if (!line) {
       loop.exitAtOnce();
     } else if (line->startsWith(u':') && !line->startsWith(u"::")) {
-      press(loop, screen, *line);
+      if (reviewing)
+        pressInReview(loop, reviewScreen, *line);
+      else
+        pressInPractice(loop, screen, *line);
+    } else if (reviewing) {
+      loop.review().enter(entryOf(*line, reviewScreen.answerStart, loop.review().correcting()));
     } else {
-      if (line->startsWith(u':')) line->remove(0, 1);
-      line->replace(u'~', u'～');
-      // In a window the learner types on behind the given start; here the start may be repeated,
-      // and a sentence to correct is written anew.
-      const QString& start = screen.answerStart;
-      const bool goesOn = !loop.correcting() && !line->startsWith(start) && !line->isEmpty();
-      loop.enter(line->isEmpty() ? start : goesOn ? start + *line : *line);
+      loop.enter(entryOf(*line, screen.answerStart, loop.correcting()));
     }
   }
 }
 
-void TerminalDrill::press(PracticeLoop& loop, TerminalPractice& screen, const QString& key) {
-  const QString look = QStringLiteral(":look ");
-  if (key.startsWith(look)) {
-    screen.lookUp(key.sliced(look.size()));
-    return;
-  }
-  using Action = std::function<void(PracticeLoop&)>;
-  static const QList<std::tuple<QString, QString, Action>> keys = {
+void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen,
+                                    const QString& key) {
+  static const KeyTable keys = {
       {QStringLiteral(":F1"), QStringLiteral("正解"), &PracticeLoop::showAnswer},
       {QStringLiteral(":F2"), QStringLiteral("次小問"), &PracticeLoop::nextSubQuestion},
       {QStringLiteral(":F3"), QStringLiteral("次問題"), &PracticeLoop::nextItem},
@@ -167,17 +199,20 @@ void TerminalDrill::press(PracticeLoop& loop, TerminalPractice& screen, const QS
        [](PracticeLoop& l) { l.chooseTimeUpSound(2); }},
       {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
   };
-  QStringList help = {QStringLiteral(":look 語 辞書を引く")};
-  for (const auto& [name, caption, action] : keys) {
-    if (name == key) {
-      action(loop);
-      return;
-    }
-    help.append(name + u' ' + caption);
-  }
-  m_terminal.show(
-      QStringLiteral("表示"),
-      QStringLiteral("%1 というキーはありません。%2").arg(key, help.join(QStringLiteral("、"))));
+  pressOneOf(keys, m_terminal, loop, screen, key);
+}
+
+void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key) {
+  static const KeyTable keys = {
+      {QStringLiteral(":F1"), QStringLiteral("正解"),
+       [](PracticeLoop& l) { l.review().showAnswer(); }},
+      {QStringLiteral(":F6"), QStringLiteral("終了"),
+       [](PracticeLoop& l) { l.review().requestExit(); }},
+      {QStringLiteral(":F11"), QStringLiteral("次へ"),
+       [](PracticeLoop& l) { l.review().nextReviewItem(); }},
+      {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
+  };
+  pressOneOf(keys, m_terminal, loop, screen, key);
 }
 
 }  // namespace tavoli

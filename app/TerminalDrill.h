@@ -41,8 +41,9 @@ class TerminalDrill {
   void showConditions();
   int practise();
   /// Reads and passes on what the learner enters until the run has ended.
-  void drive(PracticeLoop& loop, TerminalPractice& screen);
-  void press(PracticeLoop& loop, TerminalPractice& screen, const QString& key);
+  void drive(PracticeLoop& loop, TerminalPractice& screen, TerminalReview& reviewScreen);
+  void pressInPractice(PracticeLoop& loop, TerminalPractice& screen, const QString& key);
+  void pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key);
 
   Module1& m_module;
   const TerminalOptions& m_options;

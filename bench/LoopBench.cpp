@@ -6,6 +6,7 @@
 #include "practice/PracticeLoop.h"
 #include "practice/screens/TAVO3.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/RecordingScreen.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -34,6 +35,7 @@ void keyToNextQuestion(benchmark::State& state) {
   PracticeConditions conditions;
   conditions.memorySelect = u'5';
   conditions.firstRepeatWord = 1;
+  conditions.reviewCycle = 0;
   test::ScriptedDialogs dialogs;
   test::FakeRandom random;
   test::FakeClock clock;
@@ -41,7 +43,9 @@ void keyToNextQuestion(benchmark::State& state) {
   RunClock times;
   TAVO3 window(conditions);
   window.resize(1024, 768);
-  PracticeLoop loop(set, course, conditions, times, {window, dialogs, random, clock, speaker});
+  test::RecordingReview review;
+  PracticeLoop loop(set, course, conditions, times,
+                    {window, review, dialogs, random, clock, speaker});
   window.connectTo(loop, [] {});
   loop.start(2);
   window.show();

@@ -35,7 +35,10 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_flow(m_state, services.screen, services.dialogs),
       m_answerClock(services.clock, services.screen, services.speaker),
       m_restTime(times, services.clock, services.screen),
-      m_report(services.progress) {}
+      m_report(services.progress),
+      m_reviewRing(conditions.reviewCycle),
+      m_review(m_state, {services.reviewScreen, services.dialogs, services.clock, services.speaker,
+                         m_restTime, [this] { advance(); }, [this] { exitAtOnce(); }}) {}
 
 void PracticeLoop::start(int timeUpSound) {
   m_restTime.begin();
@@ -210,6 +213,21 @@ void PracticeLoop::leaveConfirmation() {
   m_screen.awaitConfirmation(false);
 }
 
+void PracticeLoop::leaveFullAnswer() {
+  const bool 復習する = m_state.復習する;
+  const int reviewSlot = m_state.POS;
+  leaveConfirmation();
+  ++m_state.POS;
+  m_FK前問題 = false;
+  if (!dispPOS1()) return;
+  const std::vector<int> due = 復習する ? m_reviewRing.reviewCheck(reviewSlot) : std::vector<int>();
+  // The next item is not shown before the review is over.
+  if (due.empty())
+    advance();
+  else
+    m_review.startReview(due);
+}
+
 void PracticeLoop::emptyAreas() {
   m_screen.showFullAnswer(MarkedText());
   m_screen.showMessage(QString());
@@ -226,8 +244,7 @@ void PracticeLoop::enter(const QString& typed) {
   activity();
   emptyAreas();
   if (m_確認中) {
-    leaveConfirmation();
-    nextQuestion();
+    leaveFullAnswer();
     return;
   }
   const int tried = m_state.tryCount;
@@ -327,6 +344,7 @@ void PracticeLoop::reshuffle() {
   m_screen.showStatus(StatusPanel::Order, QStringLiteral("順不同出題"));
   if (m_state.set.startIndex == m_state.set.itemCount()) return;
   m_state.set.reshuffle(m_random);
+  m_reviewRing.clear();
   leaveConfirmation();
   emptyAreas();
   m_state.POS = m_state.set.startIndex;
@@ -373,6 +391,7 @@ void PracticeLoop::exitAtOnce() {
   if (m_exitConfirmed) return;
   m_exitConfirmed = true;
   m_answerClock.stop();
+  m_review.stop();
   m_screen.close();
 }
 

@@ -7,6 +7,8 @@
 #include "practice/AnswerFlow.h"
 #include "practice/QuestionText.h"
 #include "practice/RestTime.h"
+#include "practice/ReviewDrill.h"
+#include "practice/ReviewRing.h"
 #include "practice/RunReport.h"
 #include "practice/RunState.h"
 
@@ -14,6 +16,7 @@ namespace tavoli {
 
 class Dialogs;
 class PracticeScreen;
+class ReviewScreen;
 
 class Clock;
 class Random;
@@ -22,6 +25,7 @@ class Speaker;
 /// What the loop works with.
 struct LoopServices {
   PracticeScreen& screen;
+  ReviewScreen& reviewScreen;
   Dialogs& dialogs;
   Random& random;
   const Clock& clock;
@@ -92,6 +96,9 @@ class PracticeLoop {
   bool correcting() const { return isCorrection(m_state.record); }
   const RunState& state() const { return m_state; }
   const RunReport& report() const { return m_report; }
+  /// The review of earlier items. While it goes on the keys belong to it, and the practice waits.
+  ReviewDrill& review() { return m_review; }
+  bool 復習中() const { return m_review.復習中(); }
   bool clockRunning() const { return m_answerClock.running(); }
   int timeUpSound() const { return m_state.timeUpSound; }
 
@@ -118,6 +125,8 @@ class PracticeLoop {
   /// Shows the whole item and waits for Enter.
   void dispAnswerFull();
   void leaveConfirmation();
+  /// Enter on the full answer: the next item, or before it the review that is due.
+  void leaveFullAnswer();
   void emptyAreas();
   /// No to the question whether the run is to end.
   void exitRefused();
@@ -139,6 +148,8 @@ class PracticeLoop {
   AnswerClock m_answerClock;
   RestTime m_restTime;
   RunReport m_report;
+  ReviewRing m_reviewRing;
+  ReviewDrill m_review;
   QSet<QString> m_told;  ///< keys of the items whose damage has been told
   bool m_logShown = false;
   bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since

@@ -39,12 +39,13 @@ bool PracticeRun::openTables() {
     return false;
   }
   const QStringList tables = prWhichTable(m_course);
-  for (int place = 1; place <= m_tables->places(); ++place)
-    m_dictionaries.push_back({headingOf(tables[place - 1]), LookUp(m_tables->rsTDIC(place))});
+  for (std::vector<Dictionary>* dictionaries : {&m_dictionaries, &m_reviewDictionaries})
+    for (int place = 1; place <= m_tables->places(); ++place)
+      dictionaries->push_back({headingOf(tables[place - 1]), LookUp(m_tables->rsTDIC(place))});
   return true;
 }
 
-bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
+bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress) {
   m_settings = readAutoPlaySettings(m_tables->rsBDIC());
   m_set = PracticeSetLoader(*m_tables, m_course, m_conditions, m_services.files, m_services.random,
                             m_services.dialogs, progress)
@@ -56,7 +57,7 @@ bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
   }
   m_loop = std::make_unique<PracticeLoop>(
       m_set, m_course, m_conditions, m_times,
-      LoopServices{screen, m_services.dialogs, m_services.random, m_services.clock,
+      LoopServices{screen, reviewScreen, m_services.dialogs, m_services.random, m_services.clock,
                    m_services.speaker, m_progress});
   m_loop->start(m_settings.timeUpSound);
   return true;
@@ -65,6 +66,7 @@ bool PracticeRun::open(PracticeScreen& screen, LoadProgress& progress) {
 bool PracticeRun::close() {
   if (!m_tables || !m_loop || !m_loop->exitConfirmed()) return false;
   m_dictionaries.clear();
+  m_reviewDictionaries.clear();
   m_settings.timeUpSound = m_loop->timeUpSound();
   RunEnd end(m_learner, m_services.files, m_services.clock, m_services.dialogs);
   const std::optional<ProgressCounters> stored =

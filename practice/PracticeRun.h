@@ -18,6 +18,7 @@ class Clock;
 class Dialogs;
 class Files;
 class PracticeScreen;
+class ReviewScreen;
 class Random;
 class Speaker;
 
@@ -47,12 +48,14 @@ class PracticeRun {
 
   /// Opens the learner's tables. False when that cannot be done; the learner has then been told.
   bool openTables();
-  /// The dictionaries of the course to look words up in, from openTables() to close().
+  /// The dictionaries of the course to look words up in, from openTables() to close(); the practice
+  /// and the review step through them each on its own.
   std::vector<Dictionary>& dictionaries() { return m_dictionaries; }
+  std::vector<Dictionary>& reviewDictionaries() { return m_reviewDictionaries; }
 
   /// Loads the set and shows the first question on `screen`; the tables must be open. False when
   /// there is nothing to practise; the learner has then been told, and nothing is ever saved.
-  bool open(PracticeScreen& screen, LoadProgress& progress);
+  bool open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress);
 
   PracticeLoop& loop() { return *m_loop; }
   /// Stores the run, once, when its end was confirmed. False when the learner gave up storing it.
@@ -67,6 +70,7 @@ class PracticeRun {
   RunServices m_services;
   std::unique_ptr<LearningTables> m_tables;
   std::vector<Dictionary> m_dictionaries;
+  std::vector<Dictionary> m_reviewDictionaries;
   PracticeSet m_set;
   AutoPlaySettings m_settings;
   std::unique_ptr<PracticeLoop> m_loop;

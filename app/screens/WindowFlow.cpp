@@ -23,6 +23,15 @@ QFont programFont() {
   return font;
 }
 
+/// Brings a window up in the very place of another.
+void replaceWindow(QWidget& hidden, QWidget& shown) {
+  shown.setGeometry(hidden.geometry());
+  shown.setWindowState(hidden.windowState());
+  shown.show();
+  shown.activateWindow();
+  hidden.hide();
+}
+
 }  // namespace
 
 WindowFlow::WindowFlow(Module1& module, const QString& version) : m_module(module) {
@@ -74,6 +83,7 @@ void WindowFlow::showConditions() {
 void WindowFlow::startPractice() {
   m_module.clock.休憩時間 = 0;
   m_module.clock.restClock = m_clock.now();
+  m_tavo4.reset();
   m_tavo3.reset();
   m_run = std::make_unique<PracticeRun>(
       m_module.learner, m_module.course, m_module.conditions, m_module.clock, m_module.progress,
@@ -86,18 +96,26 @@ void WindowFlow::startPractice() {
   m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
   for (Dictionary& dictionary : m_run->dictionaries())
     m_tavo3->addLookUp(dictionary.heading, dictionary.lookUp);
+  m_tavo4 = std::make_unique<TAVO4>(m_module.conditions);
+  for (Dictionary& dictionary : m_run->reviewDictionaries())
+    m_tavo4->addLookUp(dictionary.heading, dictionary.lookUp);
   TAVO7 progress(m_tavo2.get());
-  if (!m_run->open(*m_tavo3, progress)) {
+  if (!m_run->open(*m_tavo3, *m_tavo4, progress)) {
+    m_tavo4.reset();
     m_tavo3.reset();
     m_run.reset();
     return;
   }
   m_tavo3->connectTo(m_run->loop(), [this] { endPractice(); });
+  m_tavo4->connectTo(
+      m_run->loop(), [this] { replaceWindow(*m_tavo3, *m_tavo4); },
+      [this] { replaceWindow(*m_tavo4, *m_tavo3); });
   m_tavo3->show();
   m_tavo2->hide();
 }
 
 void WindowFlow::endPractice() {
+  m_tavo4->hide();
   QApplication::setOverrideCursor(Qt::WaitCursor);
   const bool stored = m_run->close();
   QApplication::restoreOverrideCursor();

@@ -10,6 +10,7 @@
 #include "conditions/screens/TAVO2.h"
 #include "practice/PracticeRun.h"
 #include "practice/screens/TAVO3.h"
+#include "practice/screens/TAVO4.h"
 #include "progress/screens/TAVOstate.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
@@ -20,7 +21,8 @@
 
 namespace tavoli {
 
-/// Which window follows which: login, progress, conditions, practice, and back or out.
+/// Which window follows which: login, progress, conditions, practice with its reviews, and back or
+/// out.
 class WindowFlow {
  public:
   WindowFlow(Module1& module, const QString& version);
@@ -48,6 +50,7 @@ class WindowFlow {
   std::unique_ptr<TAVO2> m_tavo2;
   std::unique_ptr<PracticeRun> m_run;
   std::unique_ptr<TAVO3> m_tavo3;
+  std::unique_ptr<TAVO4> m_tavo4;
 };
 
 }  // namespace tavoli

@@ -40,7 +40,7 @@ class PracticeRunTest : public testing::Test {
     run = std::make_unique<PracticeRun>(learner, course, conditions, times, figures,
                                         RunServices{files, clock, random, dialogs, speaker});
     ASSERT_TRUE(run->openTables());
-    ASSERT_TRUE(run->open(screen, progress));
+    ASSERT_TRUE(run->open(screen, review, progress));
   }
 
   void finish() {
@@ -66,6 +66,7 @@ class PracticeRunTest : public testing::Test {
   RunClock times;
   ProgressCounters figures;
   test::RecordingScreen screen;
+  test::RecordingReview review;
   std::unique_ptr<PracticeRun> run;
 };
 
@@ -226,7 +227,7 @@ TEST_F(PracticeRunTest, NeedsTwoItems) {
   PracticeRun aborted(learner, course, conditions, times, figures,
                       {files, clock, random, dialogs, speaker});
   ASSERT_TRUE(aborted.openTables());
-  EXPECT_FALSE(aborted.open(screen, progress));
+  EXPECT_FALSE(aborted.open(screen, review, progress));
   EXPECT_EQ(dialogs.shown.last(),
             QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));
   EXPECT_FALSE(aborted.close());

@@ -20,6 +20,7 @@
 #include "practice/screens/TimeStrip.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
+#include "tests/support/RecordingScreen.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -40,8 +41,9 @@ class TAVO3Test : public testing::Test {
                   test::wordRecord({QStringLiteral("学生")}));
     window.addLookUp(QStringLiteral("中学DB"), dictionary);
     window.addLookUp(QStringLiteral("BusinessTOEIC"), dictionary);
-    loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
-                                          LoopServices{window, dialogs, random, clock, speaker});
+    loop = std::make_unique<PracticeLoop>(
+        set, course, conditions, times,
+        LoopServices{window, review, dialogs, random, clock, speaker});
     window.connectTo(*loop, [this] { ++closed; });
     loop->start(2);
     window.show();
@@ -77,6 +79,7 @@ class TAVO3Test : public testing::Test {
   std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
   LookUp dictionary{*cursor};
   TAVO3 window{conditions};
+  test::RecordingReview review;
   std::unique_ptr<PracticeLoop> loop;
   int closed = 0;
   QLineEdit* answer = find<QLineEdit>(u"Text2");

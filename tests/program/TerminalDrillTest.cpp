@@ -48,6 +48,15 @@ class TerminalDrillTest : public testing::Test {
             QString::fromUtf8(program.readAllStandardError())};
   }
 
+  static void expectInOrder(const QString& output, const QStringList& expected) {
+    qsizetype from = 0;
+    for (const QString& line : expected) {
+      from = output.indexOf(line, from);
+      ASSERT_GE(from, 0) << qPrintable(line) << " is missing in\n" << qPrintable(output);
+      from += line.size();
+    }
+  }
+
   /// The fields 記憶 and 回数 of a sentence.
   QString stored(const QString& 文番) const {
     std::optional<Database> opened;
@@ -108,14 +117,36 @@ TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
                                 QStringLiteral("[状態3] 比較方法 ABCDE≠abcde"),
                                 QStringLiteral(":F12 というキーはありません。"),
                                 QStringLiteral("[箱] このレッスンファイルを終了して")};
-  qsizetype from = 0;
-  for (const QString& line : expected) {
-    from = outcome.output.indexOf(line, from);
-    ASSERT_GE(from, 0) << qPrintable(line) << " is missing in\n" << qPrintable(outcome.output);
-    from += line.size();
-  }
+  expectInOrder(outcome.output, expected);
   EXPECT_EQ(stored(QStringLiteral("000010")), QStringLiteral("000")) << "left by F2";
   EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("001")) << "the answer was shown";
+}
+
+TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
+  const Outcome outcome =
+      run(sentences + QStringList{QStringLiteral("--set"), QStringLiteral("reviewCycle=1")},
+          QStringLiteral(":yes\nanswer 1\n\nanswer 2\n\n"
+                         ":F1\nanswer 1\n\n"
+                         "answer 3\n\nno\n:F2\nnever\n\n"
+                         "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n"));
+  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
+  const QStringList expected = {QStringLiteral("[復習] 中学\n[問題] 問題{1}"),
+                                QStringLiteral("[表示] answer 1"),
+                                QStringLiteral("[確認] 空の行で次に進みます。"),
+                                QStringLiteral("[問題] 問題{3}"),
+                                QStringLiteral("[復習] 中学\n[問題] 問題{2}"),
+                                QStringLiteral("[正解] {no} は正解"),
+                                QStringLiteral(":F2 というキーはありません。"),
+                                QStringLiteral("answer 2　が正解です。"),
+                                QStringLiteral("[問題] 問題{4}"),
+                                QStringLiteral("[問題] 問題{3}"),
+                                QStringLiteral("[箱] 終了しますか？"),
+                                QStringLiteral("[問題] 問題{5}"),
+                                QStringLiteral("[問題] 問題{4}"),
+                                QStringLiteral("[箱] 終了しますか？")};
+  expectInOrder(outcome.output, expected);
+  EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("101")) << "a review changes nothing";
+  EXPECT_EQ(stored(QStringLiteral("000050")), QStringLiteral("101"));
 }
 
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {

@@ -10,12 +10,13 @@
 namespace tavoli::test {
 
 /// A run over given packed records, driven by the keys of the practice. A record whose first
-/// character is 問 is a sentence, any other the word "big". All memory states are asked unless told
-/// otherwise.
+/// character is 問 is a sentence, any other the word "big". All memory states are asked, and nothing
+/// is reviewed, unless told otherwise.
 class Drill {
  public:
   explicit Drill(const QStringList& records) {
     conditions.memorySelect = u'5';
+    conditions.reviewCycle = 0;
     for (const QString& record : records) {
       PracticeItem item;
       const bool isSentence = record.startsWith(u'問');
@@ -28,7 +29,7 @@ class Drill {
 
   void start() {
     loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
-                                          LoopServices{screen, dialogs, random, clock, speaker});
+                                          LoopServices{screen, review, dialogs, random, clock, speaker});
     loop->start(2);
   }
 
@@ -46,6 +47,7 @@ class Drill {
   CourseChoice course;
   PracticeConditions conditions;
   RecordingScreen screen;
+  RecordingReview review;
   ScriptedDialogs dialogs;
   FakeRandom random;
   FakeClock clock;

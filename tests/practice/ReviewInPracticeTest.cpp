@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "tests/support/Drill.h"
+#include "tests/support/Print.h"
+
+namespace tavoli {
+namespace {
+
+using test::Drill;
+
+/// The word "big" with one meaning.
+QString word(int number, QChar code = memory全然) {
+  return QStringLiteral("||") + code + QStringLiteral("00意味%1^|").arg(number);
+}
+
+class ReviewInPracticeTest : public testing::Test {
+ protected:
+  void start(int items, int reviewCycle) {
+    QStringList records;
+    for (int i = 1; i <= items; ++i) records.append(word(i, codes.value(i, memory全然)));
+    drill = std::make_unique<Drill>(records);
+    drill->conditions.memorySelect = u'0';
+    drill->conditions.reviewCycle = reviewCycle;
+    drill->start();
+  }
+  void right() const { drill->enter(QStringLiteral("big")); }
+  void go() const { drill->enter(QString()); }
+  void finish(int items) const {
+    for (int i = 0; i < items; ++i) {
+      right();
+      go();
+    }
+  }
+  /// Answers all that is asked again, and returns which items that were.
+  std::vector<int> reviewed() const {
+    std::vector<int> items;
+    ReviewDrill& review = drill->loop->review();
+    while (review.復習中()) {
+      items.push_back(review.reviewPOS());
+      review.enter(QStringLiteral("big"));
+      review.enter(QString());
+    }
+    return items;
+  }
+
+  std::unique_ptr<Drill> drill;
+  QHash<int, QChar> codes;
+};
+
+TEST_F(ReviewInPracticeTest, ComesAfterTheItemThatEndsACycleAndHandsBack) {
+  start(12, 3);
+  finish(5);
+  right();
+  EXPECT_FALSE(drill->loop->復習中()) << "not before the full answer was seen";
+  go();
+  EXPECT_TRUE(drill->loop->復習中());
+  EXPECT_TRUE(drill->review.shown);
+  EXPECT_EQ(drill->review.heading, QStringLiteral("高校"));
+  EXPECT_EQ(drill->review.question, QStringLiteral("意味1"));
+  EXPECT_FALSE(drill->loop->clockRunning());
+  EXPECT_EQ(reviewed(), (std::vector<int>{1, 2, 3}));
+  EXPECT_FALSE(drill->review.shown);
+  EXPECT_EQ(drill->loop->POS(), 7);
+  EXPECT_EQ(drill->screen.question, QStringLiteral("意味7"));
+  EXPECT_TRUE(drill->loop->clockRunning());
+  right();
+  EXPECT_EQ(drill->stored(7).記(1), memoryうろ覚え) << "asked once, so the first try counts";
+  EXPECT_EQ(drill->finished(), 7) << "a review counts nothing";
+  go();
+  finish(2);
+  EXPECT_EQ(reviewed(), (std::vector<int>{4, 5, 6}));
+}
+
+TEST_F(ReviewInPracticeTest, HandsBackIntoAFullAnswer) {
+  codes[3] = memory完全;
+  start(6, 1);
+  finish(2);
+  EXPECT_EQ(reviewed(), (std::vector<int>{1}));
+  EXPECT_TRUE(drill->loop->確認中()) << "of item 3 nothing is to be asked";
+  EXPECT_TRUE(drill->screen.awaited);
+  EXPECT_EQ(drill->screen.fullAnswer, QStringLiteral("big\n意味3  "));
+  EXPECT_EQ(drill->loop->POS(), 3);
+  go();
+  EXPECT_EQ(drill->loop->POS(), 4);
+  EXPECT_FALSE(drill->loop->復習中()) << "item 3 was not answered";
+}
+
+TEST_F(ReviewInPracticeTest, TakesOnlyItemsThatWereReallyAnswered) {
+  start(12, 1);
+  drill->loop->nextItem();
+  drill->loop->nextSubQuestion();
+  drill->loop->markKnown(false);
+  go();
+  EXPECT_EQ(drill->loop->POS(), 4);
+  finish(1);
+  right();
+  drill->loop->previousItem();
+  EXPECT_EQ(drill->loop->POS(), 4) << "left by F4: not taken";
+  go();
+  finish(1);
+  EXPECT_FALSE(drill->loop->復習中());
+  finish(1);
+  EXPECT_EQ(reviewed(), (std::vector<int>{4}));
+}
+
+TEST_F(ReviewInPracticeTest, ForgetsItemsThatWereMixed) {
+  start(12, 2);
+  drill->conditions.memorySelect = u'5';
+  finish(3);
+  drill->loop->reshuffle();
+  finish(1);
+  EXPECT_FALSE(drill->loop->復習中());
+  finish(4);
+  EXPECT_EQ(reviewed(), (std::vector<int>{2, 3}))
+      << "the cycle goes on; its batch is asked when all of it is known";
+}
+
+TEST_F(ReviewInPracticeTest, EndsTheRun) {
+  start(6, 1);
+  finish(2);
+  drill->loop->review().requestExit();
+  EXPECT_TRUE(drill->loop->exitConfirmed());
+  EXPECT_TRUE(drill->screen.closed);
+  EXPECT_FALSE(drill->loop->復習中());
+}
+
+/// Whatever is pressed in a review, the practice goes on at the next item, asked or shown from its
+/// beginning.
+TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  for (int cycle = 1; cycle <= 9; ++cycle) {
+    for (int i = 1; i <= 30; ++i) codes[i] = QChar(u'0' + (random() % 4 == 0 ? 2 : 0));
+    start(30, cycle);
+    PracticeLoop& loop = *drill->loop;
+    ReviewDrill& review = loop.review();
+    while (loop.POS() < 28) {
+      const int POS = loop.POS();
+      const bool reviewing = loop.復習中();
+      const bool enter = random() % 4 != 0;
+      const QString typed = random() % 3 == 0 ? QStringLiteral("no") : QStringLiteral("big");
+      if (reviewing && enter)
+        review.enter(typed);
+      else if (reviewing)
+        random() % 3 == 0 ? review.nextReviewItem() : review.showAnswer();
+      else
+        enter ? drill->enter(typed) : loop.showAnswer();
+      if (!reviewing) continue;
+      ASSERT_EQ(loop.POS(), POS);
+      if (loop.復習中()) continue;
+      ASSERT_EQ(loop.確認中(), codes[POS] == memory完全);
+      ASSERT_EQ(drill->screen.awaited, loop.確認中());
+      ASSERT_TRUE(loop.確認中() || loop.POS1() == 1);
+      ASSERT_EQ(loop.state().wordShownCount, loop.確認中() ? 0 : 1);
+    }
+    EXPECT_GT(drill->review.begun, 0);
+  }
+}
+
+}  // namespace
+}  // namespace tavoli

@@ -1,0 +1,151 @@
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "practice/LookUp.h"
+#include "practice/PracticeLoop.h"
+#include "practice/screens/MarkedView.h"
+#include "practice/screens/TAVO4.h"
+#include "practice/screens/TimeStrip.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/RecordingScreen.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+/// The window in a review of a word and a sentence, driven through its controls.
+class TAVO4Test : public testing::Test {
+ protected:
+  TAVO4Test() {
+    add(QStringLiteral("big"), u'1', test::wordRecord({QStringLiteral("大きい")}));
+    add(QStringLiteral("000010"), tableOfSentences,
+        test::sentenceRecord(QStringLiteral("[彼]は学生です。％He (   ) a {student}."),
+                             {QStringLiteral("is")}));
+    conditions.reviewCycle = 0;
+    store.addWord(tableJTDIC, QStringLiteral("bug"), test::wordRecord({QStringLiteral("虫")}));
+    window.addLookUp(QStringLiteral("中学DB"), dictionary);
+    window.connectTo(
+        loop, [this] { window.show(); },
+        [this] {
+          ++over;
+          window.hide();
+        });
+    loop.start(2);
+    loop.review().startReview({1, 2});
+    QApplication::setActiveWindow(&window);
+  }
+
+  void add(const QString& key, QChar table, const QString& record) {
+    PracticeItem item;
+    item.itemEnglish = key;
+    item.itemTable = table;
+    item.itemRecord = record;
+    set.append(item);
+  }
+  template <class T>
+  T* find(const char16_t* name) {
+    return window.findChild<T*>(QString::fromUtf16(name));
+  }
+  static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+  void type(const QString& text) {
+    QTest::keyClicks(answer, text);
+    press(Qt::Key_Return);
+  }
+
+  PracticeSet set;
+  CourseChoice course;
+  PracticeConditions conditions;
+  RunClock times;
+  test::RecordingScreen practice;
+  test::ScriptedDialogs dialogs;
+  test::FakeRandom random;
+  test::FakeClock clock;
+  test::RecordingSpeaker speaker;
+  test::TestStore store;
+  std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
+  LookUp dictionary{*cursor};
+  TAVO4 window{conditions};
+  PracticeLoop loop{set, course, conditions, times,
+                    LoopServices{practice, window, dialogs, random, clock, speaker}};
+  int over = 0;
+  QLineEdit* answer = find<QLineEdit>(u"Text2");
+  MarkedView* question = find<MarkedView>(u"RichTextBox4");
+  MarkedView* fullAnswer = find<MarkedView>(u"RichTextBox2");
+  QLabel* message = find<QLabel>(u"RichTextBox5");
+};
+
+TEST_F(TAVO4Test, ReviewsWithTheKeyboardAlone) {
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("復習"));
+  EXPECT_EQ(find<QLabel>(u"Label1")->text(), QStringLiteral("復習　高校"));
+  EXPECT_EQ(QApplication::focusWidget(), answer);
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("大きい"));
+  type(QStringLiteral("bug"));
+  EXPECT_EQ(fullAnswer->toPlainText(), QStringLiteral("bug は正解ではありません。"));
+  EXPECT_TRUE(find<MarkedView>(u"RichTextBox3(0)")->toPlainText().contains(u'虫'));
+  press(Qt::Key_F1);
+  EXPECT_EQ(message->text(), QStringLiteral("big"));
+  QTest::keyClick(answer, '~');
+  EXPECT_EQ(answer->text(), QStringLiteral("～"));
+  EXPECT_EQ(message->text(), QString()) << "any key empties the message";
+  answer->clear();
+  type(QStringLiteral("big"));
+  EXPECT_EQ(message->text(), QStringLiteral("あと 1 回練習して下さい。"));
+  type(QStringLiteral("big"));
+  EXPECT_EQ(fullAnswer->toPlainText(), QStringLiteral("big\n大きい  "));
+  EXPECT_TRUE(answer->isReadOnly());
+  EXPECT_FALSE(find<QPushButton>(u"Command1(0)")->isEnabled());
+  press(Qt::Key_X);
+  EXPECT_FALSE(fullAnswer->toPlainText().isEmpty()) << "the full answer waits for Enter";
+  press(Qt::Key_Enter);
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("彼は学生です。\nHe (   ) a student."));
+  EXPECT_TRUE(find<QPushButton>(u"Command1(0)")->isEnabled());
+  press(Qt::Key_F2);
+  EXPECT_EQ(loop.review().reviewPOS(), 2) << "not a key of the review";
+  clock.time = clock.time.addSecs(5);
+  loop.review().tick();
+  EXPECT_EQ(find<TimeStrip>(u"Picture1")->text(), QStringLiteral("5"));
+  type(QStringLiteral("is"));
+  QTest::mouseClick(answer, Qt::LeftButton);
+  EXPECT_EQ(over, 1) << "a click into the answer box goes on too";
+  EXPECT_EQ(practice.question, QStringLiteral("大きい"));
+}
+
+TEST_F(TAVO4Test, ClosingAsksAndEndsTheRun) {
+  dialogs.answers = {false, true};
+  window.close();
+  EXPECT_TRUE(window.isVisible());
+  QTest::mouseClick(find<QPushButton>(u"Command1(10)"), Qt::LeftButton);
+  EXPECT_EQ(loop.review().reviewPOS(), 2);
+  press(Qt::Key_F6);
+  EXPECT_EQ(dialogs.asked, QStringList(2, QStringLiteral("終了しますか？")));
+  EXPECT_TRUE(practice.closed);
+  press(Qt::Key_F11);
+  EXPECT_EQ(over, 0) << "nothing is asked any more";
+}
+
+TEST_F(TAVO4Test, SetsTheRetypingsInADialog) {
+  QTimer::singleShot(0, &window, [] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("正解要求時の繰り返し入力回数"));
+    dialog->findChild<QSpinBox*>(QStringLiteral("UpDown1"))->setValue(5);
+    dialog->findChild<QSpinBox*>(QStringLiteral("UpDown2"))->setValue(3);
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Command3")), Qt::LeftButton);
+  });
+  find<QAction>(u"menu1")->trigger();
+  EXPECT_EQ(conditions.requiredRepeatWord, 5);
+  EXPECT_EQ(conditions.requiredRepeatSent, 3);
+  QApplication::setActiveWindow(&window);
+  press(Qt::Key_F1);
+  type(QStringLiteral("big"));
+  EXPECT_EQ(message->text(), QStringLiteral("あと 4 回練習して下さい。"));
+}
+
+}  // namespace
+}  // namespace tavoli
