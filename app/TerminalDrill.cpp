@@ -53,8 +53,8 @@ QString entryOf(QString line, const QString& answerStart, bool correcting) {
 
 }  // namespace
 
-TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options)
-    : m_module(module), m_options(options), m_dialogs(m_terminal) {}
+TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Paper& paper)
+    : m_module(module), m_options(options), m_paper(paper), m_dialogs(m_terminal) {}
 
 int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
@@ -139,7 +139,7 @@ void TerminalDrill::showConditions() {
 
 int TerminalDrill::practise() {
   PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
-                  m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker});
+                  m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());
@@ -179,6 +179,7 @@ void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen
       {QStringLiteral(":F4"), QStringLiteral("前問題"), &PracticeLoop::previousItem},
       {QStringLiteral(":F6"), QStringLiteral("終了"), &PracticeLoop::requestExit},
       {QStringLiteral(":F7"), QStringLiteral("レッスン変更"), &PracticeLoop::requestLessonChange},
+      {QStringLiteral(":F9"), QStringLiteral("問題印刷"), &PracticeLoop::requestPrint},
       {QStringLiteral(":F11"), QStringLiteral("知っている"),
        [](PracticeLoop& l) { l.markKnown(false); }},
       {QStringLiteral(":menu2"), QStringLiteral("順不同出題"), &PracticeLoop::reshuffle},

@@ -28,7 +28,7 @@ struct TerminalOptions {
 /// A "~" is taken as the "～" of idioms.
 class TerminalDrill {
  public:
-  TerminalDrill(Module1& module, const TerminalOptions& options);
+  TerminalDrill(Module1& module, const TerminalOptions& options, Paper& paper);
 
   /// The whole way from login to the end of the run; returns the program's exit status.
   int run();
@@ -47,6 +47,7 @@ class TerminalDrill {
 
   Module1& m_module;
   const TerminalOptions& m_options;
+  Paper& m_paper;
   SystemClock m_clock;
   SystemRandom m_random;
   SystemFiles m_files;

@@ -8,6 +8,7 @@
 #include "app/Placement.h"
 #include "app/TerminalDrill.h"
 #include "app/screens/WindowFlow.h"
+#include "system/screens/PagedPaper.h"
 
 using namespace tavoli;
 
@@ -34,7 +35,10 @@ int start(const CommandLine& line) {
                  qPrintable(folder));
   }
   Module1 module = startModule1(files, clock, folder);
-  if (line.terminal) return TerminalDrill(module, line.terminalOptions).run();
+  if (line.terminal) {
+    PagedPaper paper;
+    return TerminalDrill(module, line.terminalOptions, paper).run();
+  }
   return WindowFlow(module, QStringLiteral(TAVOLI_VERSION)).run();
 }
 
@@ -54,7 +58,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("tavoli"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TAVOLI_VERSION));
   if (line.terminal) {
-    const QCoreApplication application(argc, argv);
+    // Printing needs fonts, and fonts need an application with a screen, if only an imagined one.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
     return start(line);
   }
   const QApplication application(argc, argv);

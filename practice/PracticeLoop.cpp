@@ -303,6 +303,13 @@ void PracticeLoop::markKnown(bool byButton) {
   after(m_flow.KnownKey(byButton));
 }
 
+void PracticeLoop::requestPrint() {
+  activity();
+  m_dialogs.show(m_printRequests.request(m_state.item()));
+  m_screen.showMessage(QString());
+  if (!m_確認中) stay();
+}
+
 void PracticeLoop::tick() {
   if (!m_answerClock.running()) return;
   m_answerClock.tick(m_state.timeUpSound);

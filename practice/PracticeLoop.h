@@ -5,6 +5,7 @@
 
 #include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
+#include "practice/QuestionRequests.h"
 #include "practice/QuestionText.h"
 #include "practice/RestTime.h"
 #include "practice/ReviewDrill.h"
@@ -63,6 +64,9 @@ class PracticeLoop {
   /// F11: the learner knows the 小問. `byButton` says that the button was clicked.
   void markKnown(bool byButton);
 
+  /// F9: the item is to be printed at the end of the run.
+  void requestPrint();
+
   /// To be called once a second: moves the time strip, and sounds when the target time has passed.
   void tick();
   /// Shows or hides the run's log.
@@ -96,6 +100,8 @@ class PracticeLoop {
   bool correcting() const { return isCorrection(m_state.record); }
   const RunState& state() const { return m_state; }
   const RunReport& report() const { return m_report; }
+  /// What is to be printed when the run is over.
+  QuestionRequests& printRequests() { return m_printRequests; }
   /// The review of earlier items. While it goes on the keys belong to it, and the practice waits.
   ReviewDrill& review() { return m_review; }
   bool 復習中() const { return m_review.復習中(); }
@@ -148,6 +154,7 @@ class PracticeLoop {
   AnswerClock m_answerClock;
   RestTime m_restTime;
   RunReport m_report;
+  QuestionRequests m_printRequests;
   ReviewRing m_reviewRing;
   ReviewDrill m_review;
   QSet<QString> m_told;  ///< keys of the items whose damage has been told

@@ -2,6 +2,7 @@
 
 #include "data/Schema.h"
 #include "practice/PracticeScreen.h"
+#include "practice/QuestionPrinting.h"
 #include "practice/RunEnd.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
@@ -73,8 +74,11 @@ bool PracticeRun::close() {
       end.closeRun(std::move(m_tables), m_set,
                    {m_loop->POS(), m_course, m_conditions, m_settings, m_times,
                     m_loop->report().progress(), m_loop->backToConditions()});
-  if (stored) m_progress = *stored;
-  return stored.has_value();
+  if (!stored) return false;
+  m_progress = *stored;
+  printRequests(m_loop->printRequests(), m_learner, m_services.paper, m_services.clock,
+                m_services.dialogs);
+  return true;
 }
 
 }  // namespace tavoli

@@ -17,6 +17,7 @@ namespace tavoli {
 class Clock;
 class Dialogs;
 class Files;
+class Paper;
 class PracticeScreen;
 class ReviewScreen;
 class Random;
@@ -29,6 +30,7 @@ struct RunServices {
   Random& random;
   Dialogs& dialogs;
   Speaker& speaker;
+  Paper& paper;
 };
 
 /// A dictionary as it is offered for looking words up.
@@ -58,7 +60,8 @@ class PracticeRun {
   bool open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress);
 
   PracticeLoop& loop() { return *m_loop; }
-  /// Stores the run, once, when its end was confirmed. False when the learner gave up storing it.
+  /// Stores the run, once, when its end was confirmed, and prints what was requested. False when
+  /// the learner gave up storing it.
   bool close();
 
  private:

@@ -87,7 +87,7 @@ void WindowFlow::startPractice() {
   m_tavo3.reset();
   m_run = std::make_unique<PracticeRun>(
       m_module.learner, m_module.course, m_module.conditions, m_module.clock, m_module.progress,
-      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker});
+      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
   if (!m_run->openTables()) {
     m_run.reset();
     return;

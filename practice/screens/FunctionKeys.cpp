@@ -24,7 +24,9 @@ const KeyButtons& practiceKeys() {
         QStringLiteral("Ｆ４ ｷｰ又は  Ａlｔ ｷｰ ＋ Ｖ ｷｰで一つ前の問題に移ります。")},
        {FunctionKey::F11, 10, QStringLiteral("知っているF11(&L)"),
         QStringLiteral("F11 ｷｰ又は Ａlt ｷｰ ＋ L ｷｰで『全然』の小問を『うろ覚え』にします。")}},
-      {{FunctionKey::F7, 6, QStringLiteral("レッスン変更 F7"),
+      {{FunctionKey::F9, 8, QStringLiteral("問題印刷 F9"),
+        QStringLiteral("F９ｷｰで この問題を終了時に印刷します。")},
+       {FunctionKey::F7, 6, QStringLiteral("レッスン変更 F7"),
         QStringLiteral("F7 ｷｰで別のレッスンファイルに変更します。")},
        {FunctionKey::F6, 5, QStringLiteral("終了 F6"), exitTip}}};
   return keys;

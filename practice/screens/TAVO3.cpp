@@ -293,6 +293,8 @@ void TAVO3::pressKey(FunctionKey key, bool byButton) {
       return drill->requestExit();
     case FunctionKey::F7:
       return drill->requestLessonChange();
+    case FunctionKey::F9:
+      return drill->requestPrint();
     case FunctionKey::F11:
       return drill->markKnown(byButton);
   }

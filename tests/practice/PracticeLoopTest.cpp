@@ -228,6 +228,33 @@ TEST(PracticeLoopTest, LogsAndCountsWhatIsFinished) {
   EXPECT_TRUE(drill.screen.log.isEmpty());
 }
 
+TEST(PracticeLoopTest, NotesUpToThirtyItemsForPrinting) {
+  QStringList records(31, sentence(u'0', u'0'));
+  Drill drill(records);
+  drill.start();
+  const QString told = QStringLiteral(
+      "終了時に、この問題と正解、コメントを印刷します。\n%1\n"
+      "                  Enterキーを押して下さい。");
+  drill.loop->requestPrint();
+  EXPECT_EQ(drill.dialogs.shown.last(), told.arg(QStringLiteral("000010")));
+  press(drill, QStringLiteral("rr"));
+  drill.loop->requestPrint();
+  EXPECT_EQ(drill.dialogs.shown.last(), QStringLiteral("既に印刷が要求されています。"));
+  EXPECT_TRUE(drill.loop->確認中()) << "noting leaves the full answer on show";
+  press(drill, QStringLiteral("e"));
+  for (int i = 2; i <= 31; ++i) {
+    EXPECT_EQ(drill.loop->POS(), i);
+    drill.loop->requestPrint();
+    EXPECT_EQ(drill.dialogs.shown.last(), i <= 30
+                                              ? told.arg(digits(10 * i, 6))
+                                              : QStringLiteral("印刷数の上限 30 を超えました。"));
+    press(drill, QStringLiteral("3"));
+  }
+  const std::vector<PracticeItem>& noted = drill.loop->printRequests().items();
+  EXPECT_EQ(noted.size(), 30);
+  EXPECT_EQ(noted.front().itemRecord, records.front()) << "as it was when F9 was pressed";
+}
+
 TEST(PracticeLoopTest, KeepsTheAnswersTime) {
   Drill drill({QStringLiteral("問題|000010ten letter00000000^|"), word(u'0', u'0')});
   drill.start();

@@ -5,6 +5,7 @@
 #include "practice/PracticeRun.h"
 #include "practice/QuestionText.h"
 #include "system/Files.h"
+#include "tests/support/FakePaper.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
 #include "tests/support/RecordingScreen.h"
@@ -38,7 +39,7 @@ class PracticeRunTest : public testing::Test {
   void open() {
     store.close();
     run = std::make_unique<PracticeRun>(learner, course, conditions, times, figures,
-                                        RunServices{files, clock, random, dialogs, speaker});
+                                        RunServices{files, clock, random, dialogs, speaker, paper});
     ASSERT_TRUE(run->openTables());
     ASSERT_TRUE(run->open(screen, review, progress));
   }
@@ -67,6 +68,7 @@ class PracticeRunTest : public testing::Test {
   ProgressCounters figures;
   test::RecordingScreen screen;
   test::RecordingReview review;
+  test::FakePaper paper;
   std::unique_ptr<PracticeRun> run;
 };
 
@@ -225,7 +227,7 @@ TEST_F(PracticeRunTest, NeedsTwoItems) {
   conditions.memorySelect = u'2';
   store.close();
   PracticeRun aborted(learner, course, conditions, times, figures,
-                      {files, clock, random, dialogs, speaker});
+                      {files, clock, random, dialogs, speaker, paper});
   ASSERT_TRUE(aborted.openTables());
   EXPECT_FALSE(aborted.open(screen, review, progress));
   EXPECT_EQ(dialogs.shown.last(),
@@ -246,6 +248,7 @@ TEST_F(PracticeRunTest, NeverRewritesADamagedRecord) {
 TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
   open();
   enter(u"he is");
+  run->loop().requestPrint();
   run->loop().exitAtOnce();
   {
     test::TestStore other;  // keeps the type of the lock: a writer in mid-transaction
@@ -259,9 +262,24 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
     });
   }
   EXPECT_TRUE(dialogs.asked.last().startsWith(store.path()));
+  EXPECT_TRUE(paper.printed.pieces.empty()) << "printed is what was stored";
   run.reset();
   store.open();
   EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field記憶), QStringLiteral("0"));
+}
+
+TEST_F(PracticeRunTest, PrintsWhatWasRequestedWhenItIsOver) {
+  open();
+  enter(u"he is");
+  run->loop().requestPrint();
+  enter(u"student.");
+  EXPECT_TRUE(paper.printed.pieces.empty());
+  finish();
+  QStringList texts;
+  for (const auto& piece : paper.printed.pieces) texts.append(piece.text);
+  EXPECT_TRUE(texts.contains(QStringLiteral("は学生")));
+  EXPECT_TRUE(texts.contains(QStringLiteral("student.")));
+  EXPECT_FALSE(texts.contains(QStringLiteral("二問目"))) << "not requested";
 }
 
 TEST(QuestionTextTest, StartsTheAnswerBox) {

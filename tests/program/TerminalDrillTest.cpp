@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Pdf.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
@@ -147,6 +148,25 @@ TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
   expectInOrder(outcome.output, expected);
   EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("101")) << "a review changes nothing";
   EXPECT_EQ(stored(QStringLiteral("000050")), QStringLiteral("101"));
+}
+
+TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
+  const Outcome outcome = run(sentences, QStringLiteral(":yes\n:F9\n\nanswer 1\n:F9\n\n\n"
+                                                        ":F9\n\n:F6\n:yes\n"));
+  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
+  expectInOrder(outcome.output,
+                {QStringLiteral("[箱] 終了時に、この問題と正解、コメントを印刷します。"),
+                 QStringLiteral("[箱] 既に印刷が要求されています。"),
+                 QStringLiteral("[箱] 終了時に、この問題と正解、コメントを印刷します。"),
+                 QStringLiteral("[箱] プリンターで印刷できないので、")});
+  const QDir data(folder.filePath(QStringLiteral("TavoliPersonalData")));
+  const QStringList files = data.entryList({QStringLiteral("TavoPrint000-*.pdf")});
+  ASSERT_EQ(files.size(), 1);
+  EXPECT_TRUE(outcome.output.contains(data.filePath(files.first())));
+  const QString text = test::textOfPdf(data.filePath(files.first())).remove(u' ');
+  EXPECT_EQ(text.count(QStringLiteral("answer1")), 1) << qPrintable(text);
+  EXPECT_EQ(text.count(QStringLiteral("answer2")), 1);
+  EXPECT_EQ(text.count(QStringLiteral("answer3")), 0);
 }
 
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
