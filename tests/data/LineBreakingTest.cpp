@@ -21,10 +21,11 @@ QStringList linesOf(const QString& marked, double width) {
   QStringList lines;
   for (const MarkedText& line : breakLines(parseMarks(marked), width, widthOf)) {
     QString text = line.text;
-    for (auto span = line.spans.rbegin(); span != line.spans.rend(); ++span) {
-      const bool underlined = span->kind == MarkedText::Span::Kind::Underlined;
-      text.insert(span->offset + span->length, underlined ? u']' : u'}');
-      text.insert(span->offset, underlined ? u'[' : u'{');
+    qsizetype shift = 0;
+    for (const MarkedText::Span& span : line.spans) {
+      const bool underlined = span.kind == MarkedText::Span::Kind::Underlined;
+      text.insert(span.offset + shift++, underlined ? u'[' : u'{');
+      text.insert(span.offset + span.length + shift++, underlined ? u']' : u'}');
     }
     lines.append(text);
   }

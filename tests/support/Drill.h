@@ -10,8 +10,8 @@
 namespace tavoli::test {
 
 /// A run over given packed records, driven by the keys of the practice. A record whose first
-/// character is 問 is a sentence, any other the word "big". All memory states are asked, and nothing
-/// is reviewed, unless told otherwise.
+/// character is 問 is a sentence, any other the word "big". All memory states are asked, and
+/// nothing is reviewed, unless told otherwise.
 class Drill {
  public:
   explicit Drill(const QStringList& records) {
@@ -28,8 +28,9 @@ class Drill {
   }
 
   void start() {
-    loop = std::make_unique<PracticeLoop>(set, course, conditions, times,
-                                          LoopServices{screen, review, dialogs, random, clock, speaker});
+    loop = std::make_unique<PracticeLoop>(
+        set, course, conditions, times,
+        LoopServices{screen, review, dialogs, random, clock, speaker});
     loop->start(2);
   }
 
