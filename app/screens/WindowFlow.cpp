@@ -25,8 +25,8 @@ QFont programFont() {
 
 /// Brings a window up in the very place of another.
 void replaceWindow(QWidget& hidden, QWidget& shown) {
-  shown.setGeometry(hidden.geometry());
-  shown.setWindowState(hidden.windowState());
+  shown.setGeometry(hidden.normalGeometry());
+  shown.setWindowState(hidden.windowState() & ~Qt::WindowActive);
   shown.show();
   shown.activateWindow();
   hidden.hide();

@@ -180,7 +180,7 @@ void TAVO3::connectTo(PracticeLoop& loop, std::function<void()> closed) {
 }
 
 PracticeLoop* TAVO3::loop() const {
-  return m_loop && !m_loop->exitConfirmed() ? m_loop : nullptr;
+  return m_loop && !m_loop->exitConfirmed() && !m_loop->復習中() ? m_loop : nullptr;
 }
 
 void TAVO3::showCaption(const QString& text) {

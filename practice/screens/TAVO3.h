@@ -71,7 +71,7 @@ class TAVO3 final : public QMainWindow, public PracticeScreen {
   void buildAnswer();
   void buildMenus();
   void arrange();
-  /// The loop, or nothing when none is connected or its run is over.
+  /// The loop, or nothing when none is connected, its run is over, or a review has the keys.
   PracticeLoop* loop() const;
   void pressKey(FunctionKey key, bool byButton);
   void answerClicked();

@@ -131,6 +131,21 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   EXPECT_FALSE(window.isVisible());
 }
 
+TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
+  loop->review().startReview({2});
+  type(QStringLiteral("is"));
+  press(Qt::Key_F3);
+  EXPECT_EQ(loop->POS(), 1) << "what was typed on in haste judges nothing unseen";
+  EXPECT_FALSE(loop->確認中());
+  loop->review().enter(QStringLiteral("apple"));
+  loop->review().enter(QString());
+  answer->clear();
+  type(QStringLiteral("is"));
+  EXPECT_TRUE(loop->確認中());
+  press(Qt::Key_F9);
+  EXPECT_EQ(loop->printRequests().items().size(), 1);
+}
+
 TEST_F(TAVO3Test, TypesTheWaveByItsKeysInEveryBox) {
   for (QLineEdit* box : {answer, find<QLineEdit>(u"Text3(1)")}) {
     box->clear();
