@@ -25,8 +25,7 @@ QFont programFont() {
 
 /// Brings a window up in the very place of another.
 void replaceWindow(QWidget& hidden, QWidget& shown) {
-  shown.setGeometry(hidden.normalGeometry());
-  shown.setWindowState(hidden.windowState() & ~Qt::WindowActive);
+  shown.restoreGeometry(hidden.saveGeometry());
   shown.show();
   shown.activateWindow();
   hidden.hide();

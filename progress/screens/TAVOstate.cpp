@@ -144,6 +144,7 @@ void TAVOstate::setBusy(bool busy) {
     QApplication::restoreOverrideCursor();
   }
   setEnabled(!busy);
+  if (!busy) m_command1->setFocus();
 }
 
 void TAVOstate::chooseSpecialist() {
