@@ -30,6 +30,12 @@ QString pastConditionsLine(QDate date, const CourseChoice& course, const Practic
          fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark + c.lessonFile;
 }
 
+PastRun lastRun(const CourseChoice& course, const PracticeConditions& c) {
+  return {QString(),      course.COURSE,  c.selMethod,         c.startMode,
+          c.startEnglish, c.firstEnglish, c.lastEnglish,       c.memorySelect,
+          c.levelFrom,    c.levelTo,      course.specialTable, c.lessonFile};
+}
+
 PastRun readConditions(const QString& line) {
   const auto text = [&](qsizetype position, int width) {
     return trimBlanks(cut(line, position, width));

@@ -15,7 +15,7 @@ class Files;
 
 inline constexpr int maxPastConditions = 100;
 
-/// What a line tells about a run.
+/// What is told of an earlier run.
 struct PastRun {
   QString date;  ///< yyyy/mm/dd
   QChar COURSE;
@@ -33,6 +33,9 @@ struct PastRun {
 
 QString pastConditionsLine(QDate date, const CourseChoice& course,
                            const PracticeConditions& conditions);
+
+/// The run whose conditions a dictionary's record holds; it knows no date.
+PastRun lastRun(const CourseChoice& course, const PracticeConditions& conditions);
 
 /// Takes a line apart; what it is too short for stays empty or blank.
 PastRun readConditions(const QString& line);

@@ -18,6 +18,11 @@ struct CourseChoice {
 /// The dictionaries of a course in look-up order, two or three of them.
 QStringList prWhichTable(const CourseChoice& course);
 
+/// The path of a file in a folder, which may be the root.
+inline QString pathIn(const QString& folder, const QString& file) {
+  return folder.endsWith(u'/') ? folder + file : folder + u'/' + file;
+}
+
 /// What the learner chose for a run. Texts are kept without the blanks that fill their stored
 /// fields.
 struct PracticeConditions {
@@ -59,7 +64,7 @@ struct PracticeConditions {
   bool usesLesson() const { return selMethod == u'0' || selMethod == u'1'; }
   bool usesWords() const { return selMethod == u'2' || selMethod == u'3'; }
   bool isRandom() const { return selMethod == u'1' || selMethod == u'3' || selMethod == u'5'; }
-  QString lessonPath() const { return lessonFolder + u'/' + lessonFile; }
+  QString lessonPath() const { return pathIn(lessonFolder, lessonFile); }
 };
 
 /// The record as the tables hold it, by fixed positions. Values that have no room in their places

@@ -1,0 +1,80 @@
+#include "conditions/StartCheck.h"
+
+#include <algorithm>
+
+#include "data/Database.h"
+#include "data/Schema.h"
+#include "data/Text.h"
+#include "system/Files.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int sentenceKeyWidth = 6;
+
+const QString goOn = QStringLiteral("\n無視して続けますか。");
+
+bool namesSentence(const QString& key) {
+  return !key.isEmpty() && key[0] >= u'0' && key[0] <= u'9';
+}
+
+}  // namespace
+
+StartCheck checkLessonStart(const QString& named, const PracticeConditions& conditions,
+                            const QStringList& lessonLines) {
+  StartCheck check{named, {}, {}};
+  const bool sentence = namesSentence(named);
+  if (sentence && !conditions.isRandom())
+    check.startKey = named.left(sentenceKeyWidth) + sentenceMark;
+  const bool found = std::any_of(lessonLines.begin(), lessonLines.end(), [&](const QString& line) {
+    return sentence ? line.left(sentenceKeyWidth) == named.left(sentenceKeyWidth)
+                    : trimBlanks(line) == named;
+  });
+  if (!found)
+    check.question = QStringLiteral("指定開始英語の ") + check.startKey + QStringLiteral(" は ") +
+                     conditions.lessonFile + QStringLiteral(" の中にありません。") + goOn;
+  return check;
+}
+
+StartCheck checkTableStart(const QString& named, const PracticeConditions& conditions,
+                           const CourseChoice& course, const Files& files, const QString& path) {
+  StartCheck check{named, {}, {}};
+  if (!files.exists(path)) {
+    check.trouble = path + QStringLiteral(" : not found");
+    return check;
+  }
+  std::optional<Database> database;
+  int errorNumber = 0;
+  openDatabase(path, database, errorNumber);
+  if (!database) {
+    check.trouble = openTrouble(path, errorNumber);
+    return check;
+  }
+  const bool words = conditions.usesWords();
+  const QString table = words ? prWhichTable(course).first() : tableBDIC;
+  const auto rows = database->OpenRecordset(table);
+  if (!rows) {
+    check.trouble = course.COURSE == course専門 && words
+                        ? missingTable(table)
+                        : openTrouble(path, openError::notADatabase);
+    return check;
+  }
+  rows->Seek(SeekOp::Equal, words ? named : named.left(sentenceKeyWidth));
+  if (rows->NoMatch())
+    check.question = QStringLiteral("指定開始英語の ") + named +
+                     QStringLiteral(" はデータベース中にありません。") + goOn;
+  return check;
+}
+
+QString openTrouble(const QString& path, int errorNumber) {
+  return path + QStringLiteral(" : OpenDatabase error    Err.Number=") +
+         QString::number(errorNumber);
+}
+
+QString missingTable(const QString& specialTable) {
+  return QStringLiteral("専門単熟DB ") + specialTable +
+         QStringLiteral(" が見つかりません。「中学／高校／専門の選択」で指定し直してください。");
+}
+
+}  // namespace tavoli

@@ -1,0 +1,447 @@
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "conditions/ConditionsRules.h"
+#include "conditions/ConditionsStore.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/RecordingConditions.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+const QString special = QStringLiteral("BusinessTOEIC");
+const QString forcedToBeginning = QStringLiteral("開始英語の指定を「最初から」に設定します。");
+const QString brokenStart = QStringLiteral(
+    "開始英語の指定が\n「・前回と同じ英語から」、「・前回の最後に続けて」の場合は\n"
+    "前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 \n");
+const QString fromBeginning = QStringLiteral("今回は最初から実行します。");
+
+/// The screen over a store whose last runs are told by records, entered with 高校 unless another
+/// course is set.
+class ConditionsRulesTest : public testing::Test {
+ protected:
+  ConditionsRulesTest() {
+    for (const char16_t* word : {u"apple", u"bank", u"go abroad"})
+      store.addWord(tableSTDIC, QString::fromUtf16(word), QString());
+    store.addWord(tableJTDIC, QStringLiteral("cat"), QString());
+    store.addWord(special, QStringLiteral("merger"), QString());
+    for (const char16_t* key : {u"000120", u"500010"})
+      store.addSentence(QString::fromUtf16(key), QStringLiteral("彼は学生です。|"));
+    writeLesson(u"動詞.tav", "*動詞\ngo abroad\r\n000120･彼は\n  bank \n");
+    writeLesson(u"名詞.tav", "apple\n");
+    last.lessonFolder = store.folder();
+    last.lessonFile = QStringLiteral("動詞.tav");
+    last.firstEnglish = QStringLiteral("bank");
+    last.lastEnglish = QStringLiteral("go abroad");
+  }
+
+  void writeLesson(const char16_t* name, const QByteArray& content) {
+    files.write(store.folder() + u'/' + QString::fromUtf16(name), content);
+  }
+  void remember(const QString& table, const PracticeConditions& c) {
+    saveConditions(*store.database().OpenRecordset(table), c);
+  }
+  /// Stores `last` as the record of 高校 and enters.
+  void enter() {
+    remember(tableSTDIC, last);
+    ASSERT_TRUE(rules.enter());
+  }
+  void pick(const char16_t* name) { rules.pickLesson(store.folder(), QString::fromUtf16(name)); }
+
+  test::TestStore store;
+  SystemFiles files;
+  test::ScriptedDialogs dialogs;
+  test::RecordingConditions screen;
+  LearnerFiles learner{QStringLiteral("taro"),
+                       {},
+                       store.path(),
+                       {},
+                       store.folder() + QStringLiteral("/TavoCond"),
+                       {},
+                       {},
+                       {},
+                       false};
+  CourseChoice course;
+  PracticeConditions conditions;
+  PracticeConditions last;
+  QStringList recounted;
+  ConditionsRules rules{learner, course, conditions,
+                        ConditionsServices{files, dialogs, store.folder(),
+                                           [this](const QString& t) { recounted.append(t); }},
+                        screen};
+};
+
+TEST_F(ConditionsRulesTest, EachCourseBringsItsOwnRecordBack) {
+  PracticeConditions other = last;
+  other.memorySelect = u'5';
+  other.levelTo = QStringLiteral("03");
+  remember(tableJTDIC, other);
+  enter();
+  EXPECT_EQ(screen.focus, u'N');
+  EXPECT_EQ(screen.lesson.size(), 4);
+  EXPECT_EQ(screen.pastCaption, QStringLiteral("前回（中学／高校／専門別）"));
+  EXPECT_EQ(screen.pastRun.lastEnglish, QStringLiteral("go abroad"));
+  rules.chooseMemory(u'3');
+  rules.chooseCourse(course中学);
+  EXPECT_EQ(course.COURSE, course中学);
+  EXPECT_EQ(screen.memorySelect, u'5');
+  EXPECT_EQ(screen.numbers[NumberField::LevelTo], QStringLiteral("3"));
+  rules.chooseCourse(course高校);
+  EXPECT_EQ(conditions.memorySelect, u'1') << "a choice that no run used is lost";
+}
+
+TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
+  const QString vanished = QStringLiteral("Vanished");
+  const QString notFound = QStringLiteral(
+      "専門単熟DB %1 が見つかりません。「中学／高校／専門の選択」で指定し直してください。");
+  const struct {
+    const char* name;
+    QString before;
+    QList<std::optional<QString>> choices;
+    QString offered;
+    QChar courseAfter;
+    QString tableAfter;
+    QStringList messages;
+    QStringList counted;
+  } cases[] = {
+      {"known", special, {}, {}, course専門, special, {}, {}},
+      {"vanished, another chosen",
+       vanished,
+       {special},
+       special + u'>',
+       course専門,
+       special,
+       {},
+       {special}},
+      {"vanished, cancelled", vanished, {std::nullopt}, special + u'>', course高校, {}, {}, {}},
+      {"none yet, cancelled", QString(), {std::nullopt}, special + u'>', course高校, {}, {}, {}},
+      {"chosen one vanishes too",
+       vanished,
+       {vanished},
+       special + u'>',
+       course専門,
+       vanished,
+       {notFound.arg(vanished)},
+       {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    course = {course高校, c.before};
+    enter();
+    screen.choices = c.choices;
+    screen.offered.clear();
+    recounted.clear();
+    dialogs.shown.clear();
+    rules.chooseCourse(course専門);
+    EXPECT_EQ(screen.offered.join(u','), c.offered);
+    EXPECT_EQ(course.COURSE, c.courseAfter);
+    EXPECT_EQ(screen.course, c.courseAfter);
+    EXPECT_EQ(screen.specialTable, c.tableAfter);
+    EXPECT_EQ(dialogs.shown, c.messages);
+    EXPECT_EQ(recounted, c.counted);
+  }
+}
+
+TEST_F(ConditionsRulesTest, AnotherSpecialistDictionaryIsChosenByAClick) {
+  course.specialTable = special;
+  enter();
+  screen.choices = {std::nullopt};
+  rules.chooseSpecialTable();
+  EXPECT_EQ(course.COURSE, course専門);
+  EXPECT_EQ(screen.offered, QStringList{special + u'>' + special}) << "asked once";
+  EXPECT_EQ(screen.specialTable, special) << "cancelling changes nothing";
+}
+
+TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
+  learner.dbFileWork = store.folder() + QStringLiteral("/bare.mdb");
+  auto made = createDatabase(learner.dbFileWork);
+  for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC}) made->createTable(table);
+  made.reset();
+  ASSERT_TRUE(rules.enter());
+  screen.choices = {QString()};
+  rules.chooseCourse(course専門);
+  EXPECT_EQ(screen.offered, QStringList{QStringLiteral(">")});
+  ASSERT_EQ(dialogs.shown.size(), 1);
+  EXPECT_TRUE(dialogs.shown.takeFirst().startsWith(QStringLiteral("専門単熟DB  が")));
+  EXPECT_EQ(rules.next(), std::nullopt);
+  EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("専門辞書の指定ができていません。")});
+}
+
+TEST_F(ConditionsRulesTest, AnUnreadableDatabaseChangesNothing) {
+  enter();
+  QFile::rename(store.path(), store.path() + u'x');
+  rules.chooseCourse(course中学);
+  EXPECT_EQ(course.COURSE, course高校);
+  EXPECT_EQ(screen.course, course高校);
+  rules.chooseStartMode(u'3');
+  EXPECT_TRUE(screen.starts.isEmpty());
+  const QString trouble = store.path() + QStringLiteral(" : OpenDatabase error    Err.Number=3024");
+  EXPECT_EQ(dialogs.shown, QStringList({trouble, trouble}));
+  EXPECT_EQ(rules.next(), std::nullopt);
+  EXPECT_EQ(dialogs.shown.last(), store.path() + QStringLiteral(" : not found"));
+  EXPECT_FALSE(rules.enter());
+}
+
+/// Clicks: m a method, s a start mode, p picks the other lesson file, P the same one again, t types
+/// the start that follows, n presses Next.
+TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
+  const QString otherLesson = brokenStart + QStringLiteral("動詞.tav≠名詞.tav\n") + fromBeginning;
+  const QString otherMethod = brokenStart + fromBeginning;
+  const QString notInTable =
+      QStringLiteral("指定開始英語の cow はデータベース中にありません。\n無視して続けますか。");
+  const QString notInLesson =
+      QStringLiteral("指定開始英語の cow は 動詞.tav の中にありません。\n無視して続けますか。");
+  const struct {
+    const char* name;
+    const char* record;  ///< selMethod and startMode of the last run
+    QString clicks;
+    const char* then;  ///< the same when all was done
+    QStringList messages;
+    QString startKey;  ///< "-" when the screen stays
+    bool yes = true;
+  } cases[] = {
+      {"words where they began", "20", QStringLiteral("n"), "20", {}, QStringLiteral("bank")},
+      {"words where they ended",
+       "20",
+       QStringLiteral("s2 n"),
+       "22",
+       {},
+       QStringLiteral("go abroad")},
+      {"words from the first", "20", QStringLiteral("s1 n"), "21", {}, QStringLiteral("000000")},
+      {"the same group keeps the start",
+       "20",
+       QStringLiteral("m3 n"),
+       "30",
+       {},
+       QStringLiteral("bank")},
+      {"another group starts from the first",
+       "20",
+       QStringLiteral("m4 n"),
+       "41",
+       {},
+       QStringLiteral("000000")},
+      {"the last place of another group",
+       "20",
+       QStringLiteral("m4 s0 n"),
+       "40",
+       {otherMethod},
+       QStringLiteral("000000")},
+      {"and is not believed later",
+       "20",
+       QStringLiteral("m4 s0 m2 n"),
+       "20",
+       {otherMethod},
+       QStringLiteral("000000")},
+      {"until the start is chosen anew",
+       "20",
+       QStringLiteral("m4 s0 m2 s0 n"),
+       "20",
+       {otherMethod},
+       QStringLiteral("bank")},
+      {"the same lesson goes on",
+       "00",
+       QStringLiteral("s2 n"),
+       "02",
+       {},
+       QStringLiteral("go abroad")},
+      {"the same file picked again",
+       "02",
+       QStringLiteral("P n"),
+       "02",
+       {},
+       QStringLiteral("go abroad")},
+      {"another file starts from the top",
+       "00",
+       QStringLiteral("p n"),
+       "01",
+       {},
+       QStringLiteral("000000")},
+      {"another file where the last ended",
+       "00",
+       QStringLiteral("p s2 n"),
+       "02",
+       {otherLesson},
+       QStringLiteral("000000")},
+      {"picking a file means a lesson in order",
+       "20",
+       QStringLiteral("p n"),
+       "01",
+       {},
+       QStringLiteral("000000")},
+      {"a random lesson starts from the top",
+       "00",
+       QStringLiteral("m1 n"),
+       "11",
+       {forcedToBeginning},
+       QStringLiteral("000000")},
+      {"without a word where it does anyway",
+       "01",
+       QStringLiteral("m1 n"),
+       "11",
+       {},
+       QStringLiteral("000000")},
+      {"a word named", "20", QStringLiteral("s3 tBank n"), "23", {}, QStringLiteral("Bank")},
+      {"the list's first word", "20", QStringLiteral("s3 n"), "23", {}, QStringLiteral("apple")},
+      {"a word that is not there",
+       "20",
+       QStringLiteral("s3 tcow n"),
+       "23",
+       {notInTable},
+       QStringLiteral("cow")},
+      {"and is not wanted then",
+       "20",
+       QStringLiteral("s3 tcow n"),
+       "23",
+       {notInTable},
+       QStringLiteral("-"),
+       false},
+      {"a sentence named",
+       "40",
+       QStringLiteral("s3 t500010･彼 n"),
+       "43",
+       {},
+       QStringLiteral("500010･彼")},
+      {"a line of the lesson",
+       "00",
+       QStringLiteral("s3 tbank n"),
+       "03",
+       {},
+       QStringLiteral("bank")},
+      {"its sentence", "00", QStringLiteral("s3 t000120 n"), "03", {}, QStringLiteral("000120･")},
+      {"its sentence at random",
+       "11",
+       QStringLiteral("s3 t000120･ n"),
+       "13",
+       {},
+       QStringLiteral("000120･")},
+      {"a line that is not there",
+       "10",
+       QStringLiteral("s3 tcow n"),
+       "13",
+       {notInLesson},
+       QStringLiteral("-"),
+       false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    last.selMethod = QLatin1Char(c.record[0]);
+    last.startMode = QLatin1Char(c.record[1]);
+    enter();
+    dialogs.shown.clear();
+    dialogs.asked.clear();
+    dialogs.answers = {c.yes};
+    QString startKey;
+    for (const QString& click : c.clicks.split(u' ')) {
+      const QString rest = click.sliced(1);
+      if (click[0] == u'm') rules.chooseMethod(rest[0]);
+      if (click[0] == u's') rules.chooseStartMode(rest[0]);
+      if (click[0] == u'p') pick(u"名詞.tav");
+      if (click[0] == u'P') pick(u"動詞.tav");
+      if (click[0] == u't') rules.typeStart(rest);
+      if (click[0] == u'n') startKey = rules.next().value_or(QStringLiteral("-"));
+    }
+    EXPECT_EQ(QString(screen.selMethod) + screen.startMode, QLatin1String(c.then));
+    EXPECT_EQ(QString(conditions.selMethod) + conditions.startMode, QLatin1String(c.then));
+    EXPECT_EQ(dialogs.shown + dialogs.asked, c.messages);
+    EXPECT_EQ(startKey, c.startKey);
+    EXPECT_EQ(screen.focus == u'S', startKey == u"-");
+    EXPECT_EQ(screen.busyDepth, 0);
+  }
+}
+
+TEST_F(ConditionsRulesTest, AFirstRunHasNoPlaceToGoOnFrom) {
+  ASSERT_TRUE(rules.enter());
+  rules.chooseStartMode(u'2');
+  EXPECT_EQ(rules.next(), startKeyFirst);
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+}
+
+TEST_F(ConditionsRulesTest, ASpecifiedStartComesBackWithItsGroupAndFile) {
+  last.startMode = u'3';
+  last.startEnglish = QStringLiteral("bank");
+  enter();
+  EXPECT_EQ(screen.starts.size(), 4) << "the end mark is listed";
+  EXPECT_EQ(screen.start, QStringLiteral("bank"));
+  rules.chooseMethod(u'4');
+  EXPECT_EQ(screen.startMode, u'1');
+  EXPECT_EQ(screen.start, QString());
+  rules.chooseStartMode(u'3');
+  EXPECT_EQ(screen.start, QStringLiteral("500010･彼は学生です。"));
+  rules.chooseMethod(u'3');
+  EXPECT_EQ(screen.start, QStringLiteral("apple")) << "the first of the list";
+  rules.chooseStartMode(u'3');
+  EXPECT_EQ(screen.start, QStringLiteral("bank"));
+}
+
+TEST_F(ConditionsRulesTest, LessonFilesOfAllKindsAreMet) {
+  enter();
+  writeLesson(u"sjis.tav", QByteArray::fromHex("93ae8e8c0d0a") + QByteArray(70, 'a'));
+  pick(u"sjis.tav");
+  EXPECT_EQ(screen.lesson, QStringList({QStringLiteral("動詞"), QString(60, u'a')}));
+  writeLesson(u"empty.tav", QByteArray());
+  pick(u"empty.tav");
+  rules.chooseStartMode(u'3');
+  EXPECT_TRUE(screen.lesson.isEmpty() && screen.starts.isEmpty() && screen.lessonTrouble.isEmpty());
+
+  writeLesson(u"binary.tav", QByteArray("\0\1\2", 3));
+  pick(u"binary.tav");
+  EXPECT_TRUE(screen.lessonTrouble.contains(QStringLiteral("/binary.tav は読めません")));
+  EXPECT_EQ(rules.next(), std::nullopt);
+  EXPECT_EQ(dialogs.shown, QStringList{screen.lessonTrouble});
+
+  rules.typeLessonName(QStringLiteral("no.tav"), store.folder());
+  EXPECT_TRUE(screen.lesson.isEmpty());
+  EXPECT_EQ(rules.next(), std::nullopt);
+  EXPECT_EQ(dialogs.shown.last(), store.folder() + QStringLiteral("/no.tavは見つかりません。"));
+  rules.typeLessonName(QStringLiteral(" 名詞.tav"), store.folder());
+  EXPECT_EQ(conditions.lessonPath(), store.folder() + QStringLiteral("/名詞.tav"));
+  EXPECT_EQ(screen.lesson, QStringList{QStringLiteral("apple")});
+
+  const QString barred = store.folder() + QStringLiteral("/a|b");
+  QDir().mkdir(barred);
+  rules.pickLesson(barred, QStringLiteral("x.tav"));
+  EXPECT_TRUE(dialogs.shown.last().contains(QStringLiteral("選べません")));
+  EXPECT_EQ(conditions.lessonFolder, store.folder()) << "the record could not hold it";
+}
+
+TEST_F(ConditionsRulesTest, StandardButtonsPutTheStandardValuesBack) {
+  last.reviewCycle = 9;
+  last.targetSentA = last.targetWordA = 2.5;
+  last.targetSentB = last.targetWordB = 7;
+  enter();
+  rules.restoreReviewCycle();
+  rules.restoreTargets();
+  const QMap<NumberField, QString> shown = screen.numbers;
+  EXPECT_EQ(conditions.reviewCycle, 3);
+  EXPECT_EQ(shown[NumberField::ReviewCycle], QStringLiteral("3"));
+  EXPECT_EQ(shown[NumberField::TargetSentA] + shown[NumberField::TargetSentB],
+            QStringLiteral("0.520"));
+  EXPECT_EQ(shown[NumberField::TargetWordA] + shown[NumberField::TargetWordB],
+            QStringLiteral("0.510"));
+}
+
+TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {
+  PracticeConditions past = last;
+  past.memorySelect = u'4';
+  for (const int day : {1, 2})
+    ASSERT_TRUE(
+        appendPastConditions(files, learner.condFileWork,
+                             pastConditionsLine(QDate(2026, 4, day), {course専門, special}, past)));
+  enter();
+  EXPECT_EQ(screen.pastRuns.size(), 2);
+  rules.choosePastRun(1);
+  EXPECT_EQ(screen.pastCaption, QStringLiteral("002　2026/04/02専"));
+  EXPECT_EQ(screen.pastRun.memorySelect, u'4');
+  EXPECT_EQ(screen.pastRun.specialTable, special);
+  rules.choosePastRun(2);
+  EXPECT_EQ(screen.pastRun.memorySelect, u'4');
+  EXPECT_EQ(conditions.memorySelect, u'1') << "for looking only";
+}
+
+}  // namespace
+}  // namespace tavoli
