@@ -143,7 +143,8 @@ int TerminalDrill::practise() {
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());
-  if (!run.open(screen, reviewScreen, screen)) return EXIT_FAILURE;
+  if (!run.open(screen, reviewScreen, screen, startKeyOf(m_module.conditions)))
+    return EXIT_FAILURE;
   drive(run.loop(), screen, reviewScreen);
   return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

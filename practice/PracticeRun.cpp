@@ -46,11 +46,12 @@ bool PracticeRun::openTables() {
   return true;
 }
 
-bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress) {
+bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress,
+                       const QString& startKey) {
   m_settings = readAutoPlaySettings(m_tables->rsBDIC());
   m_set = PracticeSetLoader(*m_tables, m_course, m_conditions, m_services.files, m_services.random,
                             m_services.dialogs, progress)
-              .LoadPracticeSet(startKeyOf(m_conditions));
+              .LoadPracticeSet(startKey);
   if (m_set.itemCount() < 2) {
     m_services.dialogs.show(
         QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));

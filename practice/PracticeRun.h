@@ -55,9 +55,11 @@ class PracticeRun {
   std::vector<Dictionary>& dictionaries() { return m_dictionaries; }
   std::vector<Dictionary>& reviewDictionaries() { return m_reviewDictionaries; }
 
-  /// Loads the set and shows the first question on `screen`; the tables must be open. False when
-  /// there is nothing to practise; the learner has then been told, and nothing is ever saved.
-  bool open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress);
+  /// Loads the set and shows the first question on `screen`; the tables must be open. `startKey` is
+  /// where the run starts, "000000" for the first item. False when there is nothing to practise;
+  /// the learner has then been told, and nothing is ever saved.
+  bool open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress,
+            const QString& startKey);
 
   PracticeLoop& loop() { return *m_loop; }
   /// Stores the run, once, when its end was confirmed, and prints what was requested. False when

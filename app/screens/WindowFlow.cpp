@@ -99,7 +99,7 @@ void WindowFlow::startPractice() {
   for (Dictionary& dictionary : m_run->reviewDictionaries())
     m_tavo4->addLookUp(dictionary.heading, dictionary.lookUp);
   TAVO7 progress(m_tavo2.get());
-  if (!m_run->open(*m_tavo3, *m_tavo4, progress)) {
+  if (!m_run->open(*m_tavo3, *m_tavo4, progress, startKeyOf(m_module.conditions))) {
     m_tavo4.reset();
     m_tavo3.reset();
     m_run.reset();

@@ -41,7 +41,7 @@ class PracticeRunTest : public testing::Test {
     run = std::make_unique<PracticeRun>(learner, course, conditions, times, figures,
                                         RunServices{files, clock, random, dialogs, speaker, paper});
     ASSERT_TRUE(run->openTables());
-    ASSERT_TRUE(run->open(screen, review, progress));
+    ASSERT_TRUE(run->open(screen, review, progress, startKeyOf(conditions)));
   }
 
   void finish() {
@@ -229,7 +229,7 @@ TEST_F(PracticeRunTest, NeedsTwoItems) {
   PracticeRun aborted(learner, course, conditions, times, figures,
                       {files, clock, random, dialogs, speaker, paper});
   ASSERT_TRUE(aborted.openTables());
-  EXPECT_FALSE(aborted.open(screen, review, progress));
+  EXPECT_FALSE(aborted.open(screen, review, progress, startKeyFirst));
   EXPECT_EQ(dialogs.shown.last(),
             QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));
   EXPECT_FALSE(aborted.close());
