@@ -5,8 +5,6 @@
 
 #include "app/LoginLayout.h"
 #include "app/Placement.h"
-#include "conditions/ConditionsStore.h"
-#include "conditions/PastConditions.h"
 #include "practice/screens/TAVO7.h"
 
 namespace tavoli {
@@ -65,21 +63,24 @@ void WindowFlow::showState() {
 }
 
 void WindowFlow::showConditions() {
-  if (!m_tavo2) m_tavo2 = std::make_unique<TAVO2>([this] { startPractice(); }, [this] { leave(); });
-  if (!loadCourseConditions(m_module.learner.dbFileWork, m_module.course, m_module.conditions,
-                            m_module.learner.userId, lessonFolder(m_module.applicationFolder))) {
+  if (!m_tavo2) {
+    m_tavo2 = std::make_unique<TAVO2>(
+        TAVO2::Shared{m_module.learner, m_module.course, m_module.conditions},
+        ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder), {}});
+    m_tavo2->next = [this](const QString& startKey) { startPractice(startKey); };
+    m_tavo2->leave = [this] { leave(); };
+  }
+  if (!m_tavo2->enter()) {
     m_dialogs.show(QStringLiteral("%1 の練習条件を読めません。プログラムを終了します。")
                        .arg(m_module.learner.dbFileWork));
     leave();
     return;
   }
-  m_tavo2->showConditions(m_module.course, m_module.conditions,
-                          pastConditions(m_files, m_module.learner.condFileWork));
   m_tavo2->show();
   m_state->hide();
 }
 
-void WindowFlow::startPractice() {
+void WindowFlow::startPractice(const QString& startKey) {
   m_module.clock.休憩時間 = 0;
   m_module.clock.restClock = m_clock.now();
   m_tavo4.reset();
@@ -99,7 +100,7 @@ void WindowFlow::startPractice() {
   for (Dictionary& dictionary : m_run->reviewDictionaries())
     m_tavo4->addLookUp(dictionary.heading, dictionary.lookUp);
   TAVO7 progress(m_tavo2.get());
-  if (!m_run->open(*m_tavo3, *m_tavo4, progress, startKeyOf(m_module.conditions))) {
+  if (!m_run->open(*m_tavo3, *m_tavo4, progress, startKey)) {
     m_tavo4.reset();
     m_tavo3.reset();
     m_run.reset();

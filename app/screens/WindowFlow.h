@@ -33,7 +33,7 @@ class WindowFlow {
  private:
   void showState();
   void showConditions();
-  void startPractice();
+  void startPractice(const QString& startKey);
   void endPractice();
   void leave();
 

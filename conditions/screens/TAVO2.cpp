@@ -2,90 +2,160 @@
 
 #include <QCloseEvent>
 #include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <utility>
 
-#include "conditions/ConditionsText.h"
+#include "conditions/screens/ChoicePanel.h"
+#include "conditions/screens/LessonPanel.h"
+#include "conditions/screens/NumbersPanel.h"
+#include "conditions/screens/PastPanel.h"
+#include "system/screens/ChoiceDialog.h"
 
 namespace tavoli {
 
 namespace {
 
-void fill(QFormLayout* form, const ConditionLines& lines) {
-  while (form->rowCount() > 0) form->removeRow(0);
-  for (const auto& [caption, value] : lines) {
-    auto* label = new QLabel(value);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    form->addRow(caption, label);
-  }
+QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->setAutoDefault(true);
+  return button;
 }
 
 }  // namespace
 
-TAVO2::TAVO2(std::function<void()> next, std::function<void()> leave, QWidget* parent)
-    : QMainWindow(parent), m_next(std::move(next)), m_leave(std::move(leave)) {
-  setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間 - Tavoli"));
+TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
+    : m_rules(shared.learner, shared.course, shared.conditions, services, *this) {
+  setObjectName(QStringLiteral("TAVO2"));
+  setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間"));
   auto* centre = new QWidget(this);
   auto* present = new QGroupBox(QStringLiteral("今回"), centre);
-  m_present = new QFormLayout(present);
-  auto* before = new QGroupBox(QStringLiteral("前回"), centre);
-  before->setObjectName(QStringLiteral("Frame2"));
-  auto* beforeColumn = new QVBoxLayout(before);
-  m_past = new QComboBox(before);
-  m_past->setObjectName(QStringLiteral("Combo2"));
-  m_past->setAccessibleName(QStringLiteral("過去の練習条件"));
-  m_past->setPlaceholderText(QStringLiteral("過去の練習条件"));
-  connect(m_past, &QComboBox::currentIndexChanged, this, &TAVO2::showPastRun);
-  m_before = new QFormLayout;
-  beforeColumn->addWidget(m_past);
-  beforeColumn->addLayout(m_before);
-  beforeColumn->addStretch(1);
+  m_choices = new ChoicePanel(m_rules, present);
+  m_lesson = new LessonPanel(m_rules, present);
+  m_numbers = new NumbersPanel(m_rules, present);
+  m_past = new PastPanel(m_rules, centre);
+  m_command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"), centre);
+  connect(m_command1, &QPushButton::clicked, this, [this] {
+    if (const std::optional<QString> startKey = m_rules.next()) next(*startKey);
+  });
+  auto* command5 = makeButton(QStringLiteral("Command5"), QStringLiteral("終了"), centre);
+  connect(command5, &QPushButton::clicked, this, &QWidget::close);
 
-  auto* start = new QPushButton(QStringLiteral("次へ"), centre);
-  start->setObjectName(QStringLiteral("Command1"));
-  start->setAutoDefault(true);
-  start->setDefault(true);
-  connect(start, &QPushButton::clicked, this, [this] { m_next(); });
-  auto* end = new QPushButton(QStringLiteral("終了"), centre);
-  end->setObjectName(QStringLiteral("Command5"));
-  end->setAutoDefault(true);
-  connect(end, &QPushButton::clicked, this, &QWidget::close);
-
+  auto* right = new QVBoxLayout;
+  right->addWidget(m_lesson, 1);
+  right->addWidget(m_numbers);
+  auto* presentRow = new QHBoxLayout(present);
+  presentRow->addWidget(m_choices);
+  presentRow->addLayout(right, 1);
   auto* columns = new QHBoxLayout;
-  columns->addWidget(present, 1);
-  columns->addWidget(before, 1);
+  columns->addWidget(present, 3);
+  columns->addWidget(m_past, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
-  buttons->addWidget(start);
-  buttons->addWidget(end);
+  buttons->addWidget(m_command1);
+  buttons->addWidget(command5);
   auto* column = new QVBoxLayout(centre);
   column->addLayout(columns, 1);
   column->addLayout(buttons);
   setCentralWidget(centre);
-  resize(fontMetrics().height() * 55, fontMetrics().height() * 38);
-  start->setFocus();
+  // In lines of the font, which is larger on a large screen.
+  constexpr QSize wanted(68, 46);
+  constexpr double part = 0.9;
+  resize((wanted * fontMetrics().height()).boundedTo(screen()->availableSize() * part));
 }
 
-void TAVO2::showConditions(const CourseChoice& course, const PracticeConditions& conditions,
-                           const QStringList& pastConditions) {
-  fill(m_present, describeConditions(course, conditions));
-  m_pastConditions = pastConditions;
-  m_past->clear();
-  m_past->addItems(listPastConditions(pastConditions));
-  m_past->setCurrentIndex(static_cast<int>(pastConditions.size()) - 1);
+TAVO2::~TAVO2() {
+  // A field that is left reports to the rules, which go before the fields do.
+  if (QWidget* focused = focusWidget()) focused->clearFocus();
 }
 
-void TAVO2::showPastRun(int index) {
-  fill(m_before,
-       index < 0 ? ConditionLines() : describePastRun(readConditions(m_pastConditions[index])));
+void TAVO2::showCourse(QChar COURSE, const QString& specialTable) {
+  m_choices->showCourse(COURSE, specialTable);
+}
+
+void TAVO2::showMethod(QChar selMethod) {
+  m_choices->showMethod(selMethod);
+  m_lesson->showMethod(selMethod);
+}
+
+void TAVO2::showStartMode(QChar startMode) {
+  m_choices->showStartMode(startMode);
+}
+
+void TAVO2::listStarts(const QStringList& entries) {
+  m_choices->start().list(entries);
+}
+
+void TAVO2::showStart(const QString& text) {
+  m_choices->start().showText(text);
+}
+
+void TAVO2::showMemory(QChar memorySelect) {
+  m_choices->showMemory(memorySelect);
+}
+
+void TAVO2::showNumber(NumberField field, const QString& text) {
+  m_numbers->showNumber(field, text);
+}
+
+void TAVO2::showFolder(const QString& folder) {
+  m_lesson->showFolder(folder);
+}
+
+void TAVO2::showLessonName(const QString& name) {
+  m_lesson->showName(name);
+}
+
+void TAVO2::showLesson(const QStringList& lines, const QString& trouble) {
+  m_lesson->showLesson(lines, trouble);
+}
+
+void TAVO2::listPastRuns(const QStringList& entries) {
+  m_past->list(entries);
+}
+
+void TAVO2::showPastRun(const QString& caption, const PastRun& run) {
+  m_past->showRun(caption, run);
+}
+
+std::optional<QString> TAVO2::chooseSpecialTable(const QStringList& tables,
+                                                 const QString& present) {
+  ChoiceDialog dialog({QStringLiteral("専門ＤＢの指定"),
+                       QStringLiteral("専門ＤＢを選択して下さい。"), tables, present},
+                      this);
+  dialog.setObjectName(QStringLiteral("TAVO8"));
+  if (isVisible()) {
+    const QGroupBox& courses = m_choices->courses();
+    dialog.move(courses.mapToGlobal(courses.rect().topRight()));
+  }
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.chosen();
+}
+
+void TAVO2::focusNext() {
+  m_command1->setFocus();
+}
+
+void TAVO2::focusLessonName() {
+  m_lesson->focusName();
+}
+
+void TAVO2::focusStart() {
+  m_choices->start().setFocus();
+}
+
+void TAVO2::setBusy(bool busy) {
+  if (busy)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
 }
 
 void TAVO2::closeEvent(QCloseEvent* event) {
   event->accept();
-  if (m_leave) std::exchange(m_leave, nullptr)();
+  if (leave) std::exchange(leave, nullptr)();
 }
 
 }  // namespace tavoli

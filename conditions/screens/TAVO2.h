@@ -1,39 +1,72 @@
 #pragma once
 
-#include <QComboBox>
-#include <QFormLayout>
 #include <QMainWindow>
+#include <QPushButton>
 
 #include <functional>
 
-#include "conditions/PracticeConditions.h"
+#include "conditions/ConditionsRules.h"
+#include "conditions/ConditionsScreen.h"
 
 namespace tavoli {
 
+class ChoicePanel;
+class LessonPanel;
+class NumbersPanel;
+class PastPanel;
+
 /// The conditions screen.
-class TAVO2 final : public QMainWindow {
+class TAVO2 final : public QMainWindow, public ConditionsScreen {
   Q_OBJECT
  public:
-  /// `next` is called at every press of Next; it starts the run, and hides this window if it can.
-  /// `leave` is called when the learner ends the program here.
-  TAVO2(std::function<void()> next, std::function<void()> leave, QWidget* parent = nullptr);
+  /// What the window works on: the learner's choices in the state that the screens share.
+  struct Shared {
+    const LearnerFiles& learner;
+    CourseChoice& course;
+    PracticeConditions& conditions;
+  };
 
-  /// Shows this run's conditions and offers those of earlier runs, given as stored lines.
-  void showConditions(const CourseChoice& course, const PracticeConditions& conditions,
-                      const QStringList& pastConditions);
+  TAVO2(const Shared& shared, const ConditionsServices& services);
+  ~TAVO2() override;
+
+  /// Called when Next found everything right, with the key at which the run starts; it starts the
+  /// run, and hides this window if it can.
+  std::function<void(const QString& startKey)> next;
+  /// Called when the learner ends the program here.
+  std::function<void()> leave;
+
+  /// To be called before every showing. False when the database cannot be read.
+  bool enter() { return m_rules.enter(); }
+
+  void showCourse(QChar COURSE, const QString& specialTable) override;
+  void showMethod(QChar selMethod) override;
+  void showStartMode(QChar startMode) override;
+  void listStarts(const QStringList& entries) override;
+  void showStart(const QString& text) override;
+  void showMemory(QChar memorySelect) override;
+  void showNumber(NumberField field, const QString& text) override;
+  void showFolder(const QString& folder) override;
+  void showLessonName(const QString& name) override;
+  void showLesson(const QStringList& lines, const QString& trouble) override;
+  void listPastRuns(const QStringList& entries) override;
+  void showPastRun(const QString& caption, const PastRun& run) override;
+  std::optional<QString> chooseSpecialTable(const QStringList& tables,
+                                            const QString& present) override;
+  void focusNext() override;
+  void focusLessonName() override;
+  void focusStart() override;
+  void setBusy(bool busy) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void showPastRun(int index);
-
-  std::function<void()> m_next;
-  std::function<void()> m_leave;
-  QStringList m_pastConditions;
-  QComboBox* m_past;
-  QFormLayout* m_present;
-  QFormLayout* m_before;
+  ConditionsRules m_rules;
+  ChoicePanel* m_choices;
+  LessonPanel* m_lesson;
+  NumbersPanel* m_numbers;
+  PastPanel* m_past;
+  QPushButton* m_command1;
 };
 
 }  // namespace tavoli

@@ -1,0 +1,170 @@
+#include "conditions/screens/ChoicePanel.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
+
+#include "conditions/ConditionsRules.h"
+#include "conditions/ConditionsText.h"
+
+namespace tavoli {
+
+namespace {
+
+constexpr int startModeCount = 4;
+constexpr int memorySelectCount = 6;
+
+QChar codeOf(int index) {
+  return {static_cast<char16_t>(u'0' + index)};
+}
+
+}  // namespace
+
+ChoicePanel::ChoicePanel(ConditionsRules& rules, QWidget* parent)
+    : QWidget(parent),
+      m_rules(rules),
+      m_column(new QVBoxLayout(this)),
+      m_courses(addGroup(QStringLiteral("中学／高校／専門の選択"))),
+      m_course(QStringLiteral("Option11"), m_courses,
+               [this](QChar code) { m_rules.chooseCourse(code); }),
+      m_methods(addGroup(QStringLiteral("練習対象の選択方法"))),
+      m_method(QStringLiteral("Option5"), m_methods,
+               [this](QChar code) { m_rules.chooseMethod(code); }),
+      m_starts(addGroup(QStringLiteral("開始英語の指定"))),
+      m_startMode(QStringLiteral("Option6"), m_starts,
+                  [this](QChar code) { m_rules.chooseStartMode(code); }),
+      m_memories(addGroup(QStringLiteral("記憶状態"))),
+      m_memory(QStringLiteral("Option7"), m_memories,
+               [this](QChar code) { m_rules.chooseMemory(code); }) {
+  m_column->setContentsMargins({});
+  addCourses();
+  addMethods();
+  addStarts();
+  addMemories();
+  m_column->addStretch(1);
+  // The style's own indicators are too small beside an enlarged font.
+  constexpr double part = 0.75;
+  setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px; height: %1px; }")
+                    .arg(static_cast<int>(fontMetrics().height() * part)));
+}
+
+QGroupBox* ChoicePanel::addGroup(const QString& title) {
+  auto* group = new QGroupBox(title, this);
+  m_column->addWidget(group);
+  return group;
+}
+
+void ChoicePanel::addCourses() {
+  const QStringList captions = {QStringLiteral("中学英語"), QStringLiteral("高校英語"),
+                                QStringLiteral("専門英語⇒")};
+  auto* grid = new QGridLayout(m_courses);
+  for (int i = 0; i < captions.size(); ++i) {
+    QRadioButton* option = m_course.add(captions[i]);
+    option->setToolTip(QStringLiteral("多義語の場合%1DBを優先します。").arg(courseName(codeOf(i))));
+    grid->addWidget(option, i, 0);
+  }
+  m_special = new QLineEdit(m_courses);
+  m_special->setObjectName(QStringLiteral("Text18"));
+  m_special->setAccessibleName(QStringLiteral("専門ＤＢ"));
+  m_special->setReadOnly(true);
+  m_special->setCursor(Qt::PointingHandCursor);
+  m_special->setPlaceholderText(QStringLiteral("専門ＤＢの指定"));
+  m_special->setToolTip(QStringLiteral("クリックして専門ＤＢを選択します。"));
+  m_special->installEventFilter(this);
+  grid->addWidget(m_special, 2, 1);
+  grid->setColumnStretch(1, 1);
+}
+
+void ChoicePanel::addMethods() {
+  const QStringList objects = {QStringLiteral("レッスンファイル"), QStringLiteral("単語・熟語"),
+                               QStringLiteral("例文")};
+  // The captions of the sentences are told apart by their blank.
+  const QStringList captions = {QStringLiteral("順に"),  QStringLiteral("ランダムに"),
+                                QStringLiteral("順に"),  QStringLiteral("ランダムに"),
+                                QStringLiteral("順 に"), QStringLiteral("ランダムに")};
+  auto* grid = new QGridLayout(m_methods);
+  for (int row = 0; row < objects.size(); ++row) {
+    auto* caption = new QLabel(objects[row], m_methods);
+    caption->setObjectName(QStringLiteral("Label%1").arg(4 + 2 * row));
+    caption->setProperty("method", 2 * row);
+    caption->installEventFilter(this);
+    grid->addWidget(caption, row, 0);
+    for (int i = 2 * row; i < 2 * row + 2; ++i)
+      grid->addWidget(m_method.add(captions[i], objects[row] + u' ' + captions[i]), row, 1 + i % 2);
+    if (row == 0) m_lessons = caption;
+  }
+  grid->setColumnStretch(2, 1);
+}
+
+void ChoicePanel::addStarts() {
+  auto* grid = new QGridLayout(m_starts);
+  for (int i = 0; i < startModeCount; ++i)
+    grid->addWidget(m_startMode.add(startModeName(codeOf(i))), i, 0, 1,
+                    i < startModeCount - 1 ? 2 : 1);
+  m_start = new StartBox(m_starts);
+  m_start->setObjectName(QStringLiteral("Combo1"));
+  m_start->setAccessibleName(QStringLiteral("開始英語"));
+  connect(m_start, &QComboBox::editTextChanged, this,
+          [this](const QString& text) { m_rules.typeStart(text); });
+  grid->addWidget(m_start, startModeCount - 1, 1);
+  grid->setColumnStretch(1, 1);
+}
+
+void ChoicePanel::addMemories() {
+  auto* column = new QVBoxLayout(m_memories);
+  for (int i = 0; i < memorySelectCount; ++i)
+    column->addWidget(m_memory.add(memorySelectName(codeOf(i))));
+}
+
+void ChoicePanel::showCourse(QChar COURSE, const QString& specialTable) {
+  m_course.mark(COURSE);
+  m_special->setText(specialTable);
+  m_special->setCursorPosition(0);
+}
+
+void ChoicePanel::showMethod(QChar selMethod) {
+  m_method.mark(selMethod);
+  m_shownMethod = selMethod;
+  colourLesson();
+}
+
+void ChoicePanel::showStartMode(QChar startMode) {
+  m_startMode.mark(startMode);
+  m_start->setEnabled(startMode == u'3');
+}
+
+void ChoicePanel::colourLesson() {
+  constexpr int darkBelow = 128;
+  const bool lesson = m_shownMethod == u'0' || m_shownMethod == u'1';
+  const bool dark = palette().color(QPalette::Window).lightness() < darkBelow;
+  QPalette colours = palette();
+  if (lesson)
+    colours.setColor(QPalette::WindowText, dark ? QColor(130, 180, 255) : QColor(0, 0, 200));
+  m_lessons->setPalette(colours);
+  QFont lessonFont = font();
+  lessonFont.setBold(lesson);
+  m_lessons->setFont(lessonFont);
+}
+
+bool ChoicePanel::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_special) {
+    const bool key = event->type() == QEvent::KeyPress;
+    const int code = key ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (event->type() == QEvent::MouseButtonPress || code == Qt::Key_Space ||
+        code == Qt::Key_Return || code == Qt::Key_Enter) {
+      m_rules.chooseSpecialTable();
+      return true;
+    }
+  } else if (event->type() == QEvent::MouseButtonPress && watched->property("method").isValid()) {
+    m_method.click(codeOf(watched->property("method").toInt()));
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void ChoicePanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) colourLesson();
+}
+
+}  // namespace tavoli

@@ -1,0 +1,42 @@
+#include "conditions/screens/OptionSet.h"
+
+#include <QWidget>
+
+#include <utility>
+
+namespace tavoli {
+
+OptionSet::OptionSet(const QString& name, QWidget* parent, std::function<void(QChar)> chosen)
+    : m_name(name), m_parent(parent), m_buttons(new QButtonGroup(parent)) {
+  QObject::connect(m_buttons, &QButtonGroup::idClicked, m_buttons,
+                   [this, chosen = std::move(chosen)](int id) {
+                     const QChar code(u'0' + id);
+                     if (code != std::exchange(m_marked, code)) chosen(code);
+                   });
+}
+
+QRadioButton* OptionSet::add(const QString& caption, const QString& accessibleName) {
+  const auto index = static_cast<int>(m_buttons->buttons().size());
+  auto* option = new QRadioButton(caption, m_parent);
+  option->setObjectName(QStringLiteral("%1(%2)").arg(m_name).arg(index));
+  if (!accessibleName.isEmpty()) option->setAccessibleName(accessibleName);
+  m_buttons->addButton(option, index);
+  return option;
+}
+
+QRadioButton* OptionSet::button(QChar code) const {
+  return static_cast<QRadioButton*>(m_buttons->button(code.unicode() - u'0'));
+}
+
+void OptionSet::mark(QChar code) {
+  m_marked = code;
+  if (QRadioButton* option = button(code)) {
+    option->setChecked(true);
+  } else if (QAbstractButton* marked = m_buttons->checkedButton()) {
+    m_buttons->setExclusive(false);
+    marked->setChecked(false);
+    m_buttons->setExclusive(true);
+  }
+}
+
+}  // namespace tavoli
