@@ -6,8 +6,7 @@
 
 #include "app/Placement.h"
 #include "conditions/ConditionsByName.h"
-#include "conditions/ConditionsStore.h"
-#include "conditions/ConditionsText.h"
+#include "conditions/ConditionsRules.h"
 #include "practice/PracticeRun.h"
 #include "progress/ProgressReport.h"
 
@@ -20,16 +19,17 @@ constexpr int badArguments = 2;
 /// Names, captions and actions of the keys that a drill knows.
 using KeyTable = QList<std::tuple<QString, QString, std::function<void(PracticeLoop&)>>>;
 
-/// Presses one of the keys, or looks a word up; tells what can be pressed when it is neither.
+/// Presses one of the keys, or looks a word up; tells what can be pressed when it is neither, with
+/// `others` that are known elsewhere.
 template <class Screen>
-void pressOneOf(const KeyTable& keys, Terminal& terminal, PracticeLoop& loop, Screen& screen,
-                const QString& key) {
+void pressOneOf(const KeyTable& keys, const QStringList& others, Terminal& terminal,
+                PracticeLoop& loop, Screen& screen, const QString& key) {
   const QString look = QStringLiteral(":look ");
   if (key.startsWith(look)) {
     screen.lookUp(key.sliced(look.size()));
     return;
   }
-  QStringList help = {QStringLiteral(":look 語 辞書を引く")};
+  QStringList help = QStringList{QStringLiteral(":look 語 辞書を引く")} + others;
   for (const auto& [name, caption, action] : keys) {
     if (name == key) {
       action(loop);
@@ -54,18 +54,20 @@ QString entryOf(QString line, const QString& answerStart, bool correcting) {
 }  // namespace
 
 TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Paper& paper)
-    : m_module(module), m_options(options), m_paper(paper), m_dialogs(m_terminal) {}
+    : m_module(module),
+      m_options(options),
+      m_paper(paper),
+      m_dialogs(m_terminal),
+      m_conditions(m_terminal) {}
 
 int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
   Login rules(m_module, m_files, m_clock, m_dialogs, screen);
   if (!login(rules, screen)) return EXIT_FAILURE;
   showProgress();
-  if (!chooseConditions()) {
-    rules.leaveWithoutRun();
-    return badArguments;
-  }
-  const int status = practise();
+  int status = EXIT_SUCCESS;
+  if (const std::optional<QString> startKey = chooseConditions(status))
+    status = practise(*startKey);
   if (status != EXIT_SUCCESS) rules.leaveWithoutRun();
   return status;
 }
@@ -96,26 +98,24 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
   }
 }
 
-bool TerminalDrill::chooseConditions() {
-  QString complaint;
-  // The course decides whose conditions are loaded, so it comes first.
-  for (const auto& [name, value] : m_options.settings)
-    if (name == u"COURSE" || name == u"specialTable")
-      complaint = complaint.isEmpty() ? setByName(m_module.conditions, m_module.course, name, value)
-                                      : complaint;
-  if (complaint.isEmpty() &&
-      !loadCourseConditions(m_module.learner.dbFileWork, m_module.course, m_module.conditions,
-                            m_module.learner.userId, lessonFolder(m_module.applicationFolder)))
-    complaint = QStringLiteral("%1 の練習条件を読めません。").arg(m_module.learner.dbFileWork);
-  for (const auto& [name, value] : m_options.settings)
-    if (complaint.isEmpty())
-      complaint = setByName(m_module.conditions, m_module.course, name, value);
+std::optional<QString> TerminalDrill::chooseConditions(int& status) {
+  ConditionsRules rules(
+      m_module.learner, m_module.course, m_module.conditions,
+      ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder), {}},
+      m_conditions);
+  QString complaint = setCourseByName(m_module.course, m_options.settings);
+  if (complaint.isEmpty()) {
+    status = EXIT_FAILURE;
+    if (!rules.enter()) return std::nullopt;
+    complaint = setByName(rules, m_module.conditions, m_options.settings);
+  }
   if (!complaint.isEmpty()) {
     std::fprintf(stderr, "tavoli: %s\n", qPrintable(complaint));
-    return false;
+    status = badArguments;
+    return std::nullopt;
   }
-  showConditions();
-  return true;
+  m_conditions.showPresent(m_module.course, m_module.conditions);
+  return rules.next();
 }
 
 void TerminalDrill::showProgress() {
@@ -130,21 +130,13 @@ void TerminalDrill::showProgress() {
   m_terminal.show(QStringLiteral("進捗"), lines.join(u'\n'));
 }
 
-void TerminalDrill::showConditions() {
-  QStringList lines;
-  for (const auto& [caption, value] : describeConditions(m_module.course, m_module.conditions))
-    lines.append(caption + u'：' + value);
-  m_terminal.show(QStringLiteral("条件"), lines.join(u'\n'));
-}
-
-int TerminalDrill::practise() {
+int TerminalDrill::practise(const QString& startKey) {
   PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
                   m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());
-  if (!run.open(screen, reviewScreen, screen, startKeyOf(m_module.conditions)))
-    return EXIT_FAILURE;
+  if (!run.open(screen, reviewScreen, screen, startKey)) return EXIT_FAILURE;
   drive(run.loop(), screen, reviewScreen);
   return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -173,6 +165,10 @@ void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen,
 
 void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen,
                                     const QString& key) {
+  if (key == u":conditions") {
+    m_conditions.showAll(m_module.course, m_module.conditions);
+    return;
+  }
   static const KeyTable keys = {
       {QStringLiteral(":F1"), QStringLiteral("正解"), &PracticeLoop::showAnswer},
       {QStringLiteral(":F2"), QStringLiteral("次小問"), &PracticeLoop::nextSubQuestion},
@@ -201,7 +197,7 @@ void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen
        [](PracticeLoop& l) { l.chooseTimeUpSound(2); }},
       {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
   };
-  pressOneOf(keys, m_terminal, loop, screen, key);
+  pressOneOf(keys, {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen, key);
 }
 
 void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key) {
@@ -214,7 +210,7 @@ void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, co
        [](PracticeLoop& l) { l.review().nextReviewItem(); }},
       {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
   };
-  pressOneOf(keys, m_terminal, loop, screen, key);
+  pressOneOf(keys, {}, m_terminal, loop, screen, key);
 }
 
 }  // namespace tavoli

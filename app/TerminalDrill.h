@@ -7,6 +7,8 @@
 
 #include "app/Module1.h"
 #include "app/Terminal.h"
+#include "app/TerminalConditions.h"
+#include "conditions/ConditionsByName.h"
 #include "practice/PracticeLoop.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
@@ -19,7 +21,7 @@ namespace tavoli {
 struct TerminalOptions {
   std::optional<QString> user;
   QString password;
-  QList<std::pair<QString, QString>> settings;  ///< names and values of conditions
+  NamedValues settings;  ///< conditions
 };
 
 /// The drill for people without a display, and for scripts: the same rules as in the windows, lines
@@ -37,9 +39,10 @@ class TerminalDrill {
   bool login(Login& login, TerminalLogin& screen);
   /// The tables of the progress screen.
   void showProgress();
-  bool chooseConditions();
-  void showConditions();
-  int practise();
+  /// The way over the conditions screen, as the command line says; returns the key at which the
+  /// run starts. Nothing when the run cannot start, `status` is then the exit status.
+  std::optional<QString> chooseConditions(int& status);
+  int practise(const QString& startKey);
   /// Reads and passes on what the learner enters until the run has ended.
   void drive(PracticeLoop& loop, TerminalPractice& screen, TerminalReview& reviewScreen);
   void pressInPractice(PracticeLoop& loop, TerminalPractice& screen, const QString& key);
@@ -54,6 +57,7 @@ class TerminalDrill {
   SilentSpeaker m_speaker;
   Terminal m_terminal;
   TerminalDialogs m_dialogs;
+  TerminalConditions m_conditions;
 };
 
 }  // namespace tavoli

@@ -1,133 +1,154 @@
 #include "conditions/ConditionsByName.h"
 
-#include <QHash>
-
 #include <functional>
+
+#include "conditions/ConditionsRules.h"
+#include "data/Text.h"
 
 namespace tavoli {
 
 namespace {
 
 struct Target {
+  ConditionsRules& rules;
   PracticeConditions& conditions;
-  CourseChoice& course;
 };
 
 /// Takes a value over, or says what it should have been.
-using Setter = std::function<QString(Target, const QString& value)>;
+using Setter = std::function<QString(const Target& target, const QString& value)>;
+using Choose = void (*)(ConditionsRules& rules, QChar code);
 
-Setter code(QChar PracticeConditions::*field, const QString& allowed) {
-  return [=](Target target, const QString& value) {
+/// One of a set of options; choosing the one that is marked already does nothing.
+Setter option(const QString& allowed, QChar (*marked)(const PracticeConditions&), Choose choose) {
+  return [=](const Target& target, const QString& value) {
     if (value.size() != 1 || !allowed.contains(value))
       return QStringLiteral("%1 のどれか１文字にしてください。").arg(allowed);
-    target.conditions.*field = value[0];
+    if (value[0] != marked(target.conditions)) choose(target.rules, value[0]);
     return QString();
   };
 }
 
-Setter number(int PracticeConditions::*field, int from, int to) {
-  return [=](Target target, const QString& value) {
+Setter number(NumberField field) {
+  return [=](const Target& target, const QString& value) {
+    if (!isNumberFor(field, value)) return numberBounds(field);
+    target.rules.typeNumber(field, value);
+    return QString();
+  };
+}
+
+Setter repeats(int& (*field)(PracticeConditions&), int most) {
+  return [=](const Target& target, const QString& value) {
     bool isNumber = false;
     const int n = value.toInt(&isNumber);
-    if (!isNumber || n < from || n > to)
-      return QStringLiteral("%1 から %2 までの整数にしてください。").arg(from).arg(to);
-    target.conditions.*field = n;
+    if (!isNumber || n < 1 || n > most)
+      return QStringLiteral("1 から %1 までの整数にしてください。").arg(most);
+    field(target.conditions) = n;
     return QString();
   };
 }
 
-Setter secondsPerCharacter(double PracticeConditions::*field) {
-  return [=](Target target, const QString& value) {
-    bool isNumber = false;
-    const double n = value.toDouble(&isNumber);
-    if (!isNumber || n < 0.1 || n >= 10.0)
-      return QStringLiteral("0.1 から 9.99 までの数にしてください。");
-    target.conditions.*field = n;
+QString setLessonFolder(const Target& target, const QString& value) {
+  if (value.contains(fieldMark)) return QStringLiteral("\"|\" を含まないようにしてください。");
+  target.conditions.lessonFolder = value;
+  return {};
+}
+
+QString setLessonFile(const Target& target, const QString& value) {
+  target.rules.typeLessonName(value, target.conditions.lessonFolder);
+  return {};
+}
+
+QString setStartEnglish(const Target& target, const QString& value) {
+  if (target.conditions.startMode != u'3')
+    return QStringLiteral("startMode=3（指定する）と一緒に使ってください。");
+  target.rules.typeStart(value);
+  return {};
+}
+
+Setter flag(void (*set)(PracticeConditions&, QChar)) {
+  return [=](const Target& target, const QString& value) {
+    if (value != u"0" && value != u"1") return QStringLiteral("0 か 1 にしてください。");
+    set(target.conditions, value[0]);
     return QString();
   };
 }
 
-Setter level(QString PracticeConditions::*field) {
-  return [=](Target target, const QString& value) {
-    bool isNumber = false;
-    const int n = value.toInt(&isNumber);
-    if (!isNumber || n < 0 || n > 99) return QStringLiteral("0 から 99 までの整数にしてください。");
-    target.conditions.*field = QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0'));
-    return QString();
-  };
-}
-
-Setter text(QString PracticeConditions::*field, int width) {
-  return [=](Target target, const QString& value) {
-    if (value.size() > width || value.contains(u'|'))
-      return QStringLiteral("%1文字までで、\"|\" を含まないようにしてください。").arg(width);
-    target.conditions.*field = value;
-    return QString();
-  };
-}
-
-const QHash<QString, Setter>& setters() {
+/// In the screen's order: later choices rest on earlier ones.
+const QList<std::pair<QString, Setter>>& setters() {
   using C = PracticeConditions;
-  constexpr int startWidth = 50;
-  constexpr int pathWidth = 1000;
-  static const QHash<QString, Setter> all = {
-      {QStringLiteral("selMethod"), code(&C::selMethod, QStringLiteral("012345"))},
-      {QStringLiteral("startMode"), code(&C::startMode, QStringLiteral("0123"))},
-      {QStringLiteral("memorySelect"), code(&C::memorySelect, QStringLiteral("012345"))},
-      {QStringLiteral("compareMode"), code(&C::compareMode, QStringLiteral("01"))},
-      {QStringLiteral("maxLoadWords"), number(&C::maxLoadWords, 10, 24990)},
-      {QStringLiteral("maxLoadSent"), number(&C::maxLoadSent, 10, 24990)},
-      {QStringLiteral("targetSentB"), number(&C::targetSentB, 1, 99)},
-      {QStringLiteral("targetWordB"), number(&C::targetWordB, 1, 99)},
-      {QStringLiteral("reviewCycle"), number(&C::reviewCycle, 0, 9)},
-      {QStringLiteral("firstRepeatWord"), number(&C::firstRepeatWord, 1, 5)},
-      {QStringLiteral("firstRepeatSent"), number(&C::firstRepeatSent, 1, 3)},
-      {QStringLiteral("requiredRepeatWord"), number(&C::requiredRepeatWord, 1, 5)},
-      {QStringLiteral("requiredRepeatSent"), number(&C::requiredRepeatSent, 1, 3)},
-      {QStringLiteral("targetSentA"), secondsPerCharacter(&C::targetSentA)},
-      {QStringLiteral("targetWordA"), secondsPerCharacter(&C::targetWordA)},
-      {QStringLiteral("levelFrom"), level(&C::levelFrom)},
-      {QStringLiteral("levelTo"), level(&C::levelTo)},
-      {QStringLiteral("startEnglish"), text(&C::startEnglish, startWidth)},
-      {QStringLiteral("lessonFolder"), text(&C::lessonFolder, pathWidth)},
-      {QStringLiteral("lessonFile"), text(&C::lessonFile, pathWidth)},
-      {QStringLiteral("compareFlag"),
-       [](Target target, const QString& value) {
-         if (value != u"0" && value != u"1") return QStringLiteral("0 か 1 にしてください。");
-         target.conditions.compareFlag = value == u"1";
-         return QString();
-       }},
-      {QStringLiteral("COURSE"),
-       [](Target target, const QString& value) {
-         if (value != u"0" && value != u"1" && value != u"2")
-           return QStringLiteral("0（中学）、1（高校）、2（専門）のどれかにしてください。");
-         target.course.COURSE = value[0];
-         return QString();
-       }},
-      {QStringLiteral("specialTable"),
-       [](Target target, const QString& value) {
-         constexpr int tableWidth = 25;
-         if (value.size() > tableWidth) return QStringLiteral("25文字までにしてください。");
-         target.course.specialTable = value;
-         return QString();
-       }},
+  static const QList<std::pair<QString, Setter>> all = {
+      {QStringLiteral("lessonFolder"), setLessonFolder},
+      {QStringLiteral("lessonFile"), setLessonFile},
+      {QStringLiteral("selMethod"),
+       option(
+           QStringLiteral("012345"), [](const C& c) { return c.selMethod; },
+           [](ConditionsRules& rules, QChar code) { rules.chooseMethod(code); })},
+      {QStringLiteral("startMode"),
+       option(
+           QStringLiteral("0123"), [](const C& c) { return c.startMode; },
+           [](ConditionsRules& rules, QChar code) { rules.chooseStartMode(code); })},
+      {QStringLiteral("startEnglish"), setStartEnglish},
+      {QStringLiteral("memorySelect"),
+       option(
+           QStringLiteral("012345"), [](const C& c) { return c.memorySelect; },
+           [](ConditionsRules& rules, QChar code) { rules.chooseMemory(code); })},
+      {QStringLiteral("levelFrom"), number(NumberField::LevelFrom)},
+      {QStringLiteral("levelTo"), number(NumberField::LevelTo)},
+      {QStringLiteral("maxLoadWords"), number(NumberField::MaxLoadWords)},
+      {QStringLiteral("maxLoadSent"), number(NumberField::MaxLoadSent)},
+      {QStringLiteral("reviewCycle"), number(NumberField::ReviewCycle)},
+      {QStringLiteral("targetSentA"), number(NumberField::TargetSentA)},
+      {QStringLiteral("targetSentB"), number(NumberField::TargetSentB)},
+      {QStringLiteral("targetWordA"), number(NumberField::TargetWordA)},
+      {QStringLiteral("targetWordB"), number(NumberField::TargetWordB)},
+      {QStringLiteral("firstRepeatWord"),
+       repeats([](C& c) -> int& { return c.firstRepeatWord; }, 5)},
+      {QStringLiteral("firstRepeatSent"),
+       repeats([](C& c) -> int& { return c.firstRepeatSent; }, 3)},
+      {QStringLiteral("requiredRepeatWord"),
+       repeats([](C& c) -> int& { return c.requiredRepeatWord; }, 5)},
+      {QStringLiteral("requiredRepeatSent"),
+       repeats([](C& c) -> int& { return c.requiredRepeatSent; }, 3)},
+      {QStringLiteral("compareMode"), flag([](C& c, QChar code) { c.compareMode = code; })},
+      {QStringLiteral("compareFlag"), flag([](C& c, QChar code) { c.compareFlag = code == u'1'; })},
   };
   return all;
 }
 
+const QString nameCourse = QStringLiteral("COURSE");
+const QString nameSpecialTable = QStringLiteral("specialTable");
+
 }  // namespace
 
-QString setByName(PracticeConditions& conditions, CourseChoice& course, const QString& name,
-                  const QString& value) {
-  const auto setter = setters().constFind(name);
-  if (setter == setters().constEnd()) {
-    QStringList names = setters().keys();
-    names.sort();
-    return QStringLiteral("%1 という条件はありません。使えるのは %2 です。")
-        .arg(name, names.join(QStringLiteral(", ")));
+QString setCourseByName(CourseChoice& course, const NamedValues& values) {
+  for (const auto& [name, value] : values) {
+    if (name == nameSpecialTable) course.specialTable = value;
+    if (name != nameCourse) continue;
+    if (value != u"0" && value != u"1" && value != u"2")
+      return QStringLiteral("COURSE: 0（中学）、1（高校）、2（専門）のどれかにしてください。");
+    course.COURSE = value[0];
   }
-  const QString complaint = (*setter)({conditions, course}, value);
-  return complaint.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(name, complaint);
+  return {};
+}
+
+QString setByName(ConditionsRules& rules, PracticeConditions& conditions,
+                  const NamedValues& values) {
+  QStringList names = {nameCourse, nameSpecialTable};
+  for (const auto& setter : setters()) names.append(setter.first);
+  names.sort();
+  for (const auto& value : values) {
+    if (!names.contains(value.first))
+      return QStringLiteral("%1 という条件はありません。使えるのは %2 です。")
+          .arg(value.first, names.join(QStringLiteral(", ")));
+  }
+  for (const auto& [name, set] : setters()) {
+    for (const auto& [wanted, value] : values) {
+      if (wanted != name) continue;
+      const QString complaint = set({rules, conditions}, value);
+      if (!complaint.isEmpty()) return QStringLiteral("%1: %2").arg(name, complaint);
+    }
+  }
+  return {};
 }
 
 }  // namespace tavoli

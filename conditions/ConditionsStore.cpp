@@ -61,21 +61,6 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
   return conditions;
 }
 
-bool loadCourseConditions(const QString& path, CourseChoice& course, PracticeConditions& conditions,
-                          const QString& userId, const QString& defaultLessonFolder) {
-  std::optional<Database> database;
-  int errorNumber = 0;
-  openDatabase(path, database, errorNumber);
-  if (!database) return false;
-  if (course.COURSE == course専門 && (!isSpecialTable(course.specialTable) ||
-                                      !database->TableDefs().contains(course.specialTable)))
-    course.COURSE = course高校;
-  const auto rsTDIC = database->OpenRecordset(prWhichTable(course).first());
-  if (!rsTDIC) return false;
-  conditions = loadConditions(*rsTDIC, userId, defaultLessonFolder);
-  return true;
-}
-
 bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions) {
   rsTDIC.Seek(SeekOp::Equal, rowConditions);
   if (rsTDIC.NoMatch()) {

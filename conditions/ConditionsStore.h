@@ -19,12 +19,6 @@ bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course);
 PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
                                   const QString& defaultLessonFolder);
 
-/// The conditions of the course's own dictionary, from the database file `path`. A specialist
-/// dictionary that is not there makes the course 高校, as the screen does. False when the file or
-/// its tables cannot be read.
-bool loadCourseConditions(const QString& path, CourseChoice& course, PracticeConditions& conditions,
-                          const QString& userId, const QString& defaultLessonFolder);
-
 /// Stores the conditions in the dictionary's row.
 bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions);
 

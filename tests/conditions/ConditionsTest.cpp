@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "conditions/ConditionsByName.h"
 #include "conditions/ConditionsStore.h"
 #include "conditions/PastConditions.h"
 #include "data/Text.h"
@@ -102,28 +101,6 @@ TEST(ConditionsTest, StartsAtTheFirstItemUntilThereWasARun) {
   EXPECT_EQ(startKeyOf(c), QStringLiteral("look forward to ～ing"));
 }
 
-TEST(ConditionsTest, RefusesValuesTheRecordCannotHold) {
-  const struct {
-    const char16_t* name;
-    const char16_t* value;
-    bool accepted;
-  } cases[] = {{u"selMethod", u"5", true},       {u"selMethod", u"6", false},
-               {u"selMethod", u"", false},       {u"reviewCycle", u"10", false},
-               {u"targetSentA", u"0.05", false}, {u"targetSentA", u"9.99", true},
-               {u"levelFrom", u"7", true},       {u"levelTo", u"100", false},
-               {u"lessonFile", u"a|b", false},   {u"COURSE", u"3", false},
-               {u"compareFlag", u"1", true},     {u"nothing", u"1", false}};
-  for (const auto& c : cases) {
-    PracticeConditions conditions;
-    CourseChoice course;
-    const QString name = QString::fromUtf16(c.name);
-    EXPECT_EQ(setByName(conditions, course, name, QString::fromUtf16(c.value)).isEmpty(),
-              c.accepted)
-        << qPrintable(name);
-    if (name == u"levelFrom") EXPECT_EQ(conditions.levelFrom, QStringLiteral("07"));
-  }
-}
-
 TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   test::TestStore store;
   CourseChoice course = readCourse(store.database(), CourseChoice());
@@ -144,13 +121,6 @@ TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   c.memorySelect = u'3';
   EXPECT_TRUE(saveConditions(*rsTDIC, c));
   EXPECT_EQ(loadConditions(*rsTDIC, QStringLiteral("taro"), lessons).memorySelect, u'3');
-  rsBDIC.reset();
-  rsTDIC.reset();
-  store.close();
-  course = {course専門, QStringLiteral("Vanished")};
-  ASSERT_TRUE(loadCourseConditions(store.path(), course, c, QStringLiteral("taro"), lessons));
-  EXPECT_EQ(course.COURSE, course高校);
-  EXPECT_EQ(c.memorySelect, u'1');
 }
 
 TEST(PastConditionsTest, KeepsTheLastHundredRuns) {

@@ -106,7 +106,7 @@ TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
 TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
   const Outcome outcome =
       run(sentences, QStringLiteral(":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
-                                    ":menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n"));
+                                    ":conditions\n:menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n"));
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
   const QStringList expected = {QStringLiteral("[状態2] 位置=1／6 000010"),
                                 QStringLiteral("[状態2] 位置=2／6 000020"),
@@ -115,6 +115,8 @@ TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
                                 QStringLiteral("[正解] 正解：answer 2"),
                                 QStringLiteral("[経過] -------------- 0001 -------------"),
                                 QStringLiteral("[中学DB] apple：Not found."),
+                                QStringLiteral("[条件] コース：中学"),
+                                QStringLiteral("[前回] コース：中学"),
                                 QStringLiteral("[状態3] 比較方法 ABCDE≠abcde"),
                                 QStringLiteral(":F12 というキーはありません。"),
                                 QStringLiteral("[箱] このレッスンファイルを終了して")};
@@ -175,6 +177,33 @@ TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
                               QStringLiteral("\n\n\n:yes\n"));
   EXPECT_EQ(outcome.status, 0);
   EXPECT_TRUE(outcome.output.contains(QStringLiteral("[問題] 問題{1}")))
+      << qPrintable(outcome.output);
+}
+
+TEST_F(TerminalDrillTest, TheStartIsCheckedAsOnTheScreen) {
+  QStringList arguments = sentences;
+  arguments.last() = QStringLiteral("startMode=3");
+  arguments += {QStringLiteral("--set"), QStringLiteral("startEnglish=000099")};
+  const QString question =
+      QStringLiteral("[箱] 指定開始英語の 000099 はデータベース中にありません。");
+  Outcome outcome = run(arguments, QStringLiteral(":yes\n:no\n"));
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(outcome.output.contains(question)) << qPrintable(outcome.output);
+  EXPECT_FALSE(outcome.output.contains(QStringLiteral("[問題]")));
+  arguments.last() = QStringLiteral("startEnglish=000040･問");
+  outcome = run(arguments, QString());
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[問題] 問題{4}")));
+}
+
+TEST_F(TerminalDrillTest, ASpecialistDictionaryIsAskedFor) {
+  const QStringList course = {QStringLiteral("--user"), QStringLiteral("000"),
+                              QStringLiteral("--set"),  QStringLiteral("COURSE=2"),
+                              QStringLiteral("--set"),  QStringLiteral("specialTable=Gone")};
+  const Outcome outcome = run(course, QStringLiteral(":yes\nNone\nBusinessTOEIC\n"));
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("専門ＤＢを選択して下さい。")));
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[箱] None はありません。")));
+  EXPECT_TRUE(outcome.output.contains(QStringLiteral("コース：専門 BusinessTOEIC")))
       << qPrintable(outcome.output);
 }
 
