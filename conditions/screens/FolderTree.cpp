@@ -28,8 +28,9 @@ FolderTree::FolderTree(std::function<void()> opened, QWidget* parent)
 }
 
 void FolderTree::open(const QString& folder) {
-  if (folder.isEmpty() || !QDir(folder).exists()) return;
-  m_folder = QDir::cleanPath(QDir(folder).absolutePath());
+  const bool there = !folder.isEmpty() && QDir(folder).exists();
+  if (!there && !m_folder.isEmpty()) return;
+  m_folder = QDir::cleanPath(there ? QDir(folder).absolutePath() : QDir::homePath());
   m_model.clear();
   QStandardItem* present = nullptr;
   const QFileInfoList drives = QDir::drives();

@@ -15,7 +15,7 @@ class FolderTree final : public QTreeView {
   /// `opened` is called whenever another folder is open.
   FolderTree(std::function<void()> opened, QWidget* parent);
 
-  /// Does nothing where there is no such folder.
+  /// Where there is no such folder, the tree stays where it is; at first it is the learner's own.
   void open(const QString& folder);
   const QString& folder() const { return m_folder; }
 

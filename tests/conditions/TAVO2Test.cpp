@@ -136,6 +136,16 @@ TEST_F(TAVO2Test, ALessonIsPickedInTheFoldersAndPreviewed) {
   EXPECT_FALSE(control<QWidget>("RichTextBox1")->isVisible());
 }
 
+TEST_F(TAVO2Test, AMissingFolderLeavesAPickerToWorkWith) {
+  const auto present = [&] { return control<QTreeView>("Dir1")->currentIndex().data().toString(); };
+  window.showFolder(lessons + QStringLiteral("/gone"));
+  EXPECT_EQ(present(), QStringLiteral("lessons"));
+  QDir(lessons).removeRecursively();
+  TAVO2 fresh{{learner, course, conditions}, {files, dialogs, lessons, {}}};
+  EXPECT_TRUE(fresh.enter());
+  EXPECT_TRUE(fresh.findChild<QTreeView*>(QStringLiteral("Dir1"))->currentIndex().isValid());
+}
+
 TEST_F(TAVO2Test, TypingGoesToTheMatchingStart) {
   click("Option11(0)");
   EXPECT_FALSE(control<QWidget>("Combo1")->isEnabled());
