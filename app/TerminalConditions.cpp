@@ -42,7 +42,7 @@ std::optional<QString> TerminalConditions::chooseSpecialTable(const QStringList&
   while (const std::optional<QString> line = m_terminal.readLine()) {
     if (*line == u":no") break;
     if (line->isEmpty()) return first;
-    if (tables.contains(*line)) return line;
+    if (tables.contains(*line)) return *line;
     print(QStringLiteral("箱"), QStringLiteral("%1 はありません。").arg(*line));
   }
   return std::nullopt;

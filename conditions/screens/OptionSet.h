@@ -20,7 +20,7 @@ class OptionSet {
   /// Marks an option without calling `chosen`; none for an unknown code.
   void mark(QChar code);
   /// Marks an option as the learner does.
-  void click(QChar code) { button(code)->click(); }
+  void click(QChar code) const { button(code)->click(); }
 
  private:
   QString m_name;
