@@ -29,7 +29,7 @@ QPushButton* makeButton(const QString& name, const QString& caption, QWidget* pa
 TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
     : m_rules(shared.learner, shared.course, shared.conditions, services, *this) {
   setObjectName(QStringLiteral("TAVO2"));
-  setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間"));
+  setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間 - Tavoli"));
   auto* centre = new QWidget(this);
   auto* present = new QGroupBox(QStringLiteral("今回"), centre);
   m_choices = new ChoicePanel(m_rules, present);
