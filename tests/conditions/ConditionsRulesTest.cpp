@@ -3,17 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "conditions/ConditionsByName.h"
 #include "conditions/ConditionsRules.h"
-#include "conditions/ConditionsStore.h"
-#include "system/Files.h"
-#include "tests/support/Fakes.h"
+#include "tests/support/ConditionsOverStore.h"
 #include "tests/support/Print.h"
-#include "tests/support/RecordingConditions.h"
-#include "tests/support/TestStore.h"
 
 namespace tavoli {
 namespace {
+
+using ConditionsRulesTest = test::ConditionsOverStore;
 
 const QString special = QStringLiteral("BusinessTOEIC");
 const QString forcedToBeginning = QStringLiteral("開始英語の指定を「最初から」に設定します。");
@@ -21,61 +18,6 @@ const QString brokenStart = QStringLiteral(
     "開始英語の指定が\n「・前回と同じ英語から」、「・前回の最後に続けて」の場合は\n"
     "前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 \n");
 const QString fromBeginning = QStringLiteral("今回は最初から実行します。");
-
-/// The screen over a store whose last runs are told by records, entered with 高校 unless another
-/// course is set.
-class ConditionsRulesTest : public testing::Test {
- protected:
-  ConditionsRulesTest() {
-    for (const char16_t* word : {u"apple", u"bank", u"go abroad"})
-      store.addWord(tableSTDIC, QString::fromUtf16(word), QString());
-    store.addWord(tableJTDIC, QStringLiteral("cat"), QString());
-    store.addWord(special, QStringLiteral("merger"), QString());
-    for (const char16_t* key : {u"000120", u"500010"})
-      store.addSentence(QString::fromUtf16(key), QStringLiteral("彼は学生です。|"));
-    writeLesson(u"動詞.tav", "*動詞\ngo abroad\r\n000120･彼は\n  bank \n");
-    writeLesson(u"名詞.tav", "apple\n");
-    last.lessonFolder = store.folder();
-    last.lessonFile = QStringLiteral("動詞.tav");
-    last.firstEnglish = QStringLiteral("bank");
-    last.lastEnglish = QStringLiteral("go abroad");
-  }
-
-  void writeLesson(const char16_t* name, const QByteArray& content) {
-    files.write(store.folder() + u'/' + QString::fromUtf16(name), content);
-  }
-  void remember(const QString& table, const PracticeConditions& c) {
-    saveConditions(*store.database().OpenRecordset(table), c);
-  }
-  /// Stores `last` as the record of 高校 and enters.
-  void enter() {
-    remember(tableSTDIC, last);
-    ASSERT_TRUE(rules.enter());
-  }
-  void pick(const char16_t* name) { rules.pickLesson(store.folder(), QString::fromUtf16(name)); }
-
-  test::TestStore store;
-  SystemFiles files;
-  test::ScriptedDialogs dialogs;
-  test::RecordingConditions screen;
-  LearnerFiles learner{QStringLiteral("taro"),
-                       {},
-                       store.path(),
-                       {},
-                       store.folder() + QStringLiteral("/TavoCond"),
-                       {},
-                       {},
-                       {},
-                       false};
-  CourseChoice course;
-  PracticeConditions conditions;
-  PracticeConditions last;
-  QStringList recounted;
-  ConditionsRules rules{learner, course, conditions,
-                        ConditionsServices{files, dialogs, store.folder(),
-                                           [this](const QString& t) { recounted.append(t); }},
-                        screen};
-};
 
 TEST_F(ConditionsRulesTest, EachCourseBringsItsOwnRecordBack) {
   PracticeConditions other = last;
@@ -379,37 +321,6 @@ TEST_F(ConditionsRulesTest, ASpecifiedStartComesBackWithItsGroupAndFile) {
   EXPECT_EQ(screen.start, QStringLiteral("bank"));
 }
 
-TEST_F(ConditionsRulesTest, LessonFilesOfAllKindsAreMet) {
-  enter();
-  writeLesson(u"sjis.tav", QByteArray::fromHex("93ae8e8c0d0a") + QByteArray(70, 'a'));
-  pick(u"sjis.tav");
-  EXPECT_EQ(screen.lesson, QStringList({QStringLiteral("動詞"), QString(60, u'a')}));
-  writeLesson(u"empty.tav", QByteArray());
-  pick(u"empty.tav");
-  rules.chooseStartMode(u'3');
-  EXPECT_TRUE(screen.lesson.isEmpty() && screen.starts.isEmpty() && screen.lessonTrouble.isEmpty());
-
-  writeLesson(u"binary.tav", QByteArray("\0\1\2", 3));
-  pick(u"binary.tav");
-  EXPECT_TRUE(screen.lessonTrouble.contains(QStringLiteral("/binary.tav は読めません")));
-  EXPECT_EQ(rules.next(), std::nullopt);
-  EXPECT_EQ(dialogs.shown, QStringList{screen.lessonTrouble});
-
-  rules.typeLessonName(QStringLiteral("no.tav"), store.folder());
-  EXPECT_TRUE(screen.lesson.isEmpty());
-  EXPECT_EQ(rules.next(), std::nullopt);
-  EXPECT_EQ(dialogs.shown.last(), store.folder() + QStringLiteral("/no.tavは見つかりません。"));
-  rules.typeLessonName(QStringLiteral(" 名詞.tav"), store.folder());
-  EXPECT_EQ(conditions.lessonPath(), store.folder() + QStringLiteral("/名詞.tav"));
-  EXPECT_EQ(screen.lesson, QStringList{QStringLiteral("apple")});
-
-  const QString barred = store.folder() + QStringLiteral("/a|b");
-  QDir().mkdir(barred);
-  rules.pickLesson(barred, QStringLiteral("x.tav"));
-  EXPECT_TRUE(dialogs.shown.last().contains(QStringLiteral("選べません")));
-  EXPECT_EQ(conditions.lessonFolder, store.folder()) << "the record could not hold it";
-}
-
 TEST_F(ConditionsRulesTest, StandardButtonsPutTheStandardValuesBack) {
   last.reviewCycle = 9;
   last.targetSentA = last.targetWordA = 2.5;
@@ -424,69 +335,6 @@ TEST_F(ConditionsRulesTest, StandardButtonsPutTheStandardValuesBack) {
             QStringLiteral("0.520"));
   EXPECT_EQ(shown[NumberField::TargetWordA] + shown[NumberField::TargetWordB],
             QStringLiteral("0.510"));
-}
-
-TEST_F(ConditionsRulesTest, NamesSetWhatTheScreenWouldSet) {
-  const struct {
-    const char* name;
-    NamedValues values;
-    QString complaint;  ///< its beginning
-    QString record;     ///< selMethod, startMode, levels, reviewCycle, maxLoadWords
-  } cases[] = {
-      {"nothing", {}, {}, QStringLiteral("20 00-10 3 200")},
-      {"another group",
-       {{QStringLiteral("selMethod"), QStringLiteral("4")}},
-       {},
-       QStringLiteral("41 00-10 3 200")},
-      {"in the screen's order",
-       {{QStringLiteral("startMode"), QStringLiteral("2")},
-        {QStringLiteral("lessonFile"), QStringLiteral("名詞.tav")}},
-       {},
-       QStringLiteral("02 00-10 3 200")},
-      {"numbers",
-       {{QStringLiteral("levelFrom"), QStringLiteral("7")},
-        {QStringLiteral("maxLoadWords"), QStringLiteral("25000")}},
-       {},
-       QStringLiteral("20 07-10 3 24990")},
-      {"a number out of bounds",
-       {{QStringLiteral("reviewCycle"), QStringLiteral("10")}},
-       QStringLiteral("reviewCycle: 0 から 9 までの整数"),
-       QStringLiteral("20 00-10 3 200")},
-      {"a code that is none",
-       {{QStringLiteral("selMethod"), QStringLiteral("6")}},
-       QStringLiteral("selMethod: 012345 の"),
-       QStringLiteral("20 00-10 3 200")},
-      {"a start without its mode",
-       {{QStringLiteral("startEnglish"), QStringLiteral("bank")}},
-       QStringLiteral("startEnglish: startMode=3"),
-       QStringLiteral("20 00-10 3 200")},
-      {"a name that is none",
-       {{QStringLiteral("reviewCycle"), QStringLiteral("5")},
-        {QStringLiteral("speed"), QStringLiteral("9")}},
-       QStringLiteral("speed という条件はありません"),
-       QStringLiteral("20 00-10 3 200")},
-      {"what has no control",
-       {{QStringLiteral("firstRepeatSent"), QStringLiteral("4")}},
-       QStringLiteral("firstRepeatSent: 1 から 3"),
-       QStringLiteral("20 00-10 3 200")},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    enter();
-    const QString complaint = setByName(rules, conditions, c.values);
-    EXPECT_TRUE(complaint.startsWith(c.complaint)) << qPrintable(complaint);
-    EXPECT_EQ(complaint.isEmpty(), c.complaint.isEmpty());
-    EXPECT_EQ(QStringLiteral("%1%2 %3-%4 %5 %6")
-                  .arg(conditions.selMethod)
-                  .arg(conditions.startMode)
-                  .arg(conditions.levelFrom, conditions.levelTo)
-                  .arg(conditions.reviewCycle)
-                  .arg(conditions.maxLoadWords),
-              c.record);
-  }
-  EXPECT_TRUE(setCourseByName(course, {{QStringLiteral("COURSE"), QStringLiteral("3")}})
-                  .startsWith(QStringLiteral("COURSE: 0")));
-  EXPECT_EQ(course.COURSE, course高校);
 }
 
 TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "conditions/ConditionsRules.h"
+#include "conditions/ConditionsStore.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/RecordingConditions.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli::test {
+
+/// The screen over a store whose last runs are told by records, entered with 高校 unless another
+/// course is set.
+class ConditionsOverStore : public testing::Test {
+ protected:
+  ConditionsOverStore() {
+    for (const char16_t* word : {u"apple", u"bank", u"go abroad"})
+      store.addWord(tableSTDIC, QString::fromUtf16(word), QString());
+    store.addWord(tableJTDIC, QStringLiteral("cat"), QString());
+    store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("merger"), QString());
+    for (const char16_t* key : {u"000120", u"500010"})
+      store.addSentence(QString::fromUtf16(key), QStringLiteral("彼は学生です。|"));
+    writeLesson(u"動詞.tav", "*動詞\ngo abroad\r\n000120･彼は\n  bank \n");
+    writeLesson(u"名詞.tav", "apple\n");
+    last.lessonFolder = store.folder();
+    last.lessonFile = QStringLiteral("動詞.tav");
+    last.firstEnglish = QStringLiteral("bank");
+    last.lastEnglish = QStringLiteral("go abroad");
+  }
+
+  void writeLesson(const char16_t* name, const QByteArray& content) {
+    files.write(store.folder() + u'/' + QString::fromUtf16(name), content);
+  }
+  void remember(const QString& table, const PracticeConditions& c) {
+    saveConditions(*store.database().OpenRecordset(table), c);
+  }
+  /// Stores `last` as the record of 高校 and enters.
+  void enter() {
+    remember(tableSTDIC, last);
+    ASSERT_TRUE(rules.enter());
+  }
+  void pick(const char16_t* name) { rules.pickLesson(store.folder(), QString::fromUtf16(name)); }
+
+  TestStore store;
+  SystemFiles files;
+  ScriptedDialogs dialogs;
+  RecordingConditions screen;
+  LearnerFiles learner{QStringLiteral("taro"),
+                       {},
+                       store.path(),
+                       {},
+                       store.folder() + QStringLiteral("/TavoCond"),
+                       {},
+                       {},
+                       {},
+                       false};
+  CourseChoice course;
+  PracticeConditions conditions;
+  PracticeConditions last;
+  QStringList recounted;
+  ConditionsRules rules{learner, course, conditions,
+                        ConditionsServices{files, dialogs, store.folder(),
+                                           [this](const QString& t) { recounted.append(t); }},
+                        screen};
+};
+
+}  // namespace tavoli::test
