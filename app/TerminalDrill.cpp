@@ -9,6 +9,7 @@
 #include "conditions/ConditionsRules.h"
 #include "practice/PracticeRun.h"
 #include "progress/ProgressReport.h"
+#include "progress/TableSurvey.h"
 
 namespace tavoli {
 
@@ -101,7 +102,11 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
 std::optional<QString> TerminalDrill::chooseConditions(int& status) {
   ConditionsRules rules(
       m_module.learner, m_module.course, m_module.conditions,
-      ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder), {}},
+      ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder),
+                         [this](const QString& table) {
+                           recountSpecialTable(m_module.learner.dbFileWork, table,
+                                               m_module.progress);
+                         }},
       m_conditions);
   QString complaint = setCourseByName(m_module.course, m_options.settings);
   if (complaint.isEmpty()) {

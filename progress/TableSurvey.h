@@ -14,4 +14,9 @@ bool surveyWordTable(const Database& database, const QString& table, Three& memo
 /// The same for the sentences of each level.
 bool surveySentences(const Database& database, ByLevel& memory);
 
+/// Opens the learner's database and counts a specialist dictionary anew. When it cannot be read the
+/// counts stay what they were.
+void recountSpecialTable(const QString& dbFileWork, const QString& table,
+                         ProgressCounters& counters);
+
 }  // namespace tavoli

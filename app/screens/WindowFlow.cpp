@@ -6,6 +6,7 @@
 #include "app/LoginLayout.h"
 #include "app/Placement.h"
 #include "practice/screens/TAVO7.h"
+#include "progress/TableSurvey.h"
 
 namespace tavoli {
 
@@ -66,7 +67,11 @@ void WindowFlow::showConditions() {
   if (!m_tavo2) {
     m_tavo2 = std::make_unique<TAVO2>(
         TAVO2::Shared{m_module.learner, m_module.course, m_module.conditions},
-        ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder), {}});
+        ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder),
+                           [this](const QString& table) {
+                             recountSpecialTable(m_module.learner.dbFileWork, table,
+                                                 m_module.progress);
+                           }});
     m_tavo2->next = [this](const QString& startKey) { startPractice(startKey); };
     m_tavo2->leave = [this] { leave(); };
   }
