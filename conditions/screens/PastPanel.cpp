@@ -7,7 +7,7 @@
 namespace tavoli {
 
 PastPanel::PastPanel(ConditionsRules& rules, QWidget* parent)
-    : QGroupBox(parent), m_runs(new QComboBox(this)), m_rows(new QFormLayout) {
+    : QGroupBox(parent), m_runs(new QComboBox(this)), m_grid(new QGridLayout) {
   setObjectName(QStringLiteral("Frame2"));
   m_runs->setObjectName(QStringLiteral("Combo2"));
   m_runs->setAccessibleName(QStringLiteral("過去の練習条件"));
@@ -31,11 +31,13 @@ PastPanel::PastPanel(ConditionsRules& rules, QWidget* parent)
   levels->addWidget(new QLabel(QStringLiteral("～"), this));
   levels->addWidget(makeValue(QStringLiteral("Text5")));
   levels->addStretch(1);
-  m_rows->addRow(QStringLiteral("レベル"), levels);
-  m_rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
+  const int row = m_grid->rowCount();
+  m_grid->addWidget(new QLabel(QStringLiteral("レベル"), this), row, 0);
+  m_grid->addLayout(levels, row, 1);
+  m_grid->setColumnStretch(1, 1);
   auto* column = new QVBoxLayout(this);
   column->addWidget(m_runs);
-  column->addLayout(m_rows);
+  column->addLayout(m_grid);
   column->addStretch(1);
 }
 
@@ -49,7 +51,11 @@ QLabel* PastPanel::makeValue(const QString& name) {
 void PastPanel::addRow(const QString& caption, const QString& name) {
   QLabel* value = makeValue(name);
   value->setWordWrap(true);
-  m_rows->addRow(caption, value);
+  auto* title = new QLabel(caption, this);
+  m_captions[value] = title;
+  const int row = m_grid->rowCount();
+  m_grid->addWidget(title, row, 0, Qt::AlignLeft | Qt::AlignTop);
+  m_grid->addWidget(value, row, 1);
 }
 
 void PastPanel::list(const QStringList& entries) {
@@ -63,7 +69,10 @@ void PastPanel::show(const char* name, const QString& value, int characters) {
   const bool tooLong = characters > 0 && value.size() > characters;
   label->setText(tooLong ? value.left(characters) + u'…' : value);
   label->setToolTip(tooLong ? value : QString());
-  if (label->wordWrap()) m_rows->setRowVisible(label, !value.isEmpty());
+  const auto caption = m_captions.constFind(label);
+  if (caption == m_captions.cend()) return;
+  label->setVisible(!value.isEmpty());
+  (*caption)->setVisible(!value.isEmpty());
 }
 
 void PastPanel::showRun(const QString& caption, const PastRun& run) {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QComboBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QHash>
 #include <QLabel>
 
 #include "conditions/PastConditions.h"
@@ -29,7 +30,8 @@ class PastPanel final : public QGroupBox {
   void show(const char* name, const QString& value, int characters = 0);
 
   QComboBox* m_runs;
-  QFormLayout* m_rows;
+  QGridLayout* m_grid;
+  QHash<QLabel*, QLabel*> m_captions;  ///< of the values that are only shown where there is one
 };
 
 }  // namespace tavoli

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
@@ -211,6 +212,24 @@ TEST_F(TAVO2Test, FitsASmallScreenAndLeavesOnce) {
   EXPECT_FALSE(window.isVisible());
   window.close();
   EXPECT_EQ(ends, 1);
+}
+
+TEST_F(TAVO2Test, ComesBackWithWhatWasChosen) {
+  const auto* file = control<QLabel>("Text1");
+  EXPECT_FALSE(file->isVisible()) << "words were chosen last time";
+  window.hide();
+  conditions.selMethod = u'0';
+  conditions.lessonFolder = lessons + QStringLiteral("/verbs");
+  conditions.lessonFile = QStringLiteral("動詞.TAV");
+  store.open();
+  ASSERT_TRUE(saveConditions(*store.database().OpenRecordset(tableSTDIC), conditions));
+  store.close();
+  ASSERT_TRUE(window.enter());
+  window.show();
+  QApplication::processEvents();
+  EXPECT_EQ(file->text(), QStringLiteral("動詞.TAV"));
+  EXPECT_TRUE(file->isVisible());
+  EXPECT_GE(file->height(), file->fontMetrics().height());
 }
 
 }  // namespace
