@@ -36,6 +36,7 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_answerClock(services.clock, services.screen, services.speaker),
       m_restTime(times, services.clock, services.screen),
       m_report(services.progress),
+      m_damage(m_state, services.dialogs),
       m_reviewRing(conditions.reviewCycle),
       m_review(m_state, {services.reviewScreen, services.dialogs, services.clock, services.speaker,
                          m_restTime, [this] { advance(); }, [this] { exitAtOnce(); }}) {}
@@ -103,7 +104,7 @@ void PracticeLoop::advance() {
   } else {
     // An item of which nothing was asked is only shown.
     if (m_state.wordShownCount > 0) 回数カウント();
-    guardEmptyRecord();
+    m_damage.guardEmptyRecord(m_FK前問題);
     dispAnswerFull();
   }
 }
@@ -148,7 +149,7 @@ void PracticeLoop::dispQuestion() {
   const CurrentRecord& record = m_state.record;
   const SubQuestion& s = m_state.小問();
   m_screen.showSource(sourceLabel(record, item.itemEnglish, item.itemTable, m_state.course.COURSE));
-  m_screen.showQuestion(marked(record.sentence ? record.問題文 : s.日本語));
+  m_screen.showQuestion(m_damage.marked(record.sentence ? record.問題文 : s.日本語));
   m_screen.showStatus(
       StatusPanel::Times,
       QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
@@ -172,7 +173,7 @@ void PracticeLoop::dispAnswerFull() {
   m_answerClock.clear();
   m_screen.showMiniTest(MarkedText());
   m_screen.setAnswer(QString());
-  m_screen.showFullAnswer(marked(fullAnswerText(m_state.record)));
+  m_screen.showFullAnswer(m_damage.marked(fullAnswerText(m_state.record)));
   m_speaker.say(spokenAnswer());
   m_screen.awaitConfirmation(true);
 }
@@ -180,28 +181,6 @@ void PracticeLoop::dispAnswerFull() {
 QString PracticeLoop::spokenAnswer() const {
   if (!m_state.record.sentence) return m_state.record.英語;
   return sentenceAnswerLines(m_state.record).join(u' ');
-}
-
-bool PracticeLoop::tellDamage() {
-  const QString key = m_state.item().itemTable + m_state.item().itemEnglish;
-  if (m_told.contains(key)) return false;
-  m_told.insert(key);
-  return true;
-}
-
-MarkedText PracticeLoop::marked(const QString& text) {
-  MarkedText result = parseMarks(text);
-  if (result.unpaired && tellDamage())
-    m_dialogs.show(QStringLiteral("下線高輝度エラー：dispComment"));
-  return result;
-}
-
-void PracticeLoop::guardEmptyRecord() {
-  if (m_state.record.小問数 > 0 || !tellDamage()) return;
-  const QString guard = !m_state.record.sentence ? QStringLiteral("Stop32")
-                        : m_FK前問題             ? QStringLiteral("Stop321")
-                                                 : QStringLiteral("Stop31");
-  m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.item().itemEnglish);
 }
 
 void PracticeLoop::leaveConfirmation() {

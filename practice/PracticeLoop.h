@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QSet>
 #include <QString>
 
 #include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
+#include "practice/DamageGuard.h"
 #include "practice/QuestionRequests.h"
 #include "practice/QuestionText.h"
 #include "practice/RestTime.h"
@@ -137,12 +137,6 @@ class PracticeLoop {
   /// No to the question whether the run is to end.
   void exitRefused();
   void 回数カウント();
-  /// The text with its marks taken out; tells a record whose marks do not pair once.
-  MarkedText marked(const QString& text);
-  /// A record without any 小問 is told once.
-  void guardEmptyRecord();
-  /// Whether damage of the present item is to be told: the first time only.
-  bool tellDamage();
   QString spokenAnswer() const;
 
   RunState m_state;
@@ -154,10 +148,10 @@ class PracticeLoop {
   AnswerClock m_answerClock;
   RestTime m_restTime;
   RunReport m_report;
+  DamageGuard m_damage;
   QuestionRequests m_printRequests;
   ReviewRing m_reviewRing;
   ReviewDrill m_review;
-  QSet<QString> m_told;  ///< keys of the items whose damage has been told
   bool m_logShown = false;
   bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since
   bool m_確認中 = false;
