@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "practice/ReviewDrill.h"
 #include "practice/RestTime.h"
+#include "practice/ReviewDrill.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
 #include "tests/support/RecordingScreen.h"
