@@ -1,0 +1,96 @@
+#include "practice/screens/AnswerAreas.h"
+
+#include "practice/screens/AnswerBox.h"
+#include "practice/screens/LookUpPane.h"
+#include "practice/screens/MessageLine.h"
+#include "practice/screens/ScaledFont.h"
+#include "practice/screens/TextMenu.h"
+#include "practice/screens/TimeStrip.h"
+#include "practice/screens/WordView.h"
+
+namespace tavoli {
+
+QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent) {
+  auto* made = new QSplitter(orientation, parent);
+  made->setChildrenCollapsible(false);
+  return made;
+}
+
+AnswerAreas::AnswerAreas(QMainWindow& window)
+    : heading(new QLabel(&window)),
+      time(new TimeStrip(&window)),
+      question(new WordView(&window)),
+      answer(new AnswerBox(&window)),
+      message(new MessageLine(&window)),
+      fullAnswer(new WordView(&window)),
+      m_window(window),
+      m_lookUps(openSplitter(Qt::Horizontal, &window)) {
+  const auto name = [](QWidget* area, const QString& objectName, const QString& accessibleName) {
+    area->setObjectName(objectName);
+    area->setAccessibleName(accessibleName);
+  };
+  heading->setObjectName(QStringLiteral("Label1"));
+  time->setObjectName(QStringLiteral("Picture1"));
+  name(question, QStringLiteral("RichTextBox4"), QStringLiteral("問題"));
+  name(answer, QStringLiteral("Text2"), QStringLiteral("回答"));
+  name(fullAnswer, QStringLiteral("RichTextBox2"), QStringLiteral("正解と説明"));
+  question->setFont(scaled(window.font(), 1.5));
+  fullAnswer->setFont(scaled(window.font(), 1.3));
+  for (const WordView* area : {question, fullAnswer})
+    QObject::connect(area, &WordView::wordClicked, &window,
+                     [this](const QString& word) { lookUp(word); });
+}
+
+AnswerAreas::~AnswerAreas() {
+  // The box loses the focus when it goes, and nobody is to hear of it any more.
+  answer->disconnect(&m_window);
+}
+
+void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* keys) {
+  auto* head = new QHBoxLayout;
+  head->addWidget(heading);
+  head->addWidget(time, 1);
+  auto* label = new QLabel(QStringLiteral("回答"), &m_window);
+  label->setObjectName(QStringLiteral("Label2"));
+  label->setBuddy(answer);
+  auto* answerRow = new QHBoxLayout;
+  answerRow->addWidget(label);
+  answerRow->addWidget(answer, 1);
+
+  auto* rows = openSplitter(Qt::Vertical, &m_window);
+  auto* asking = new QWidget(rows);
+  auto* askingColumn = new QVBoxLayout(asking);
+  askingColumn->setContentsMargins(0, 0, 0, 0);
+  askingColumn->addLayout(questionRow, 1);
+  askingColumn->addLayout(answerRow);
+  askingColumn->addWidget(message);
+  rows->addWidget(explanations);
+  rows->addWidget(m_lookUps);
+  rows->setStretchFactor(0, 3);
+  rows->setStretchFactor(1, 4);
+  rows->setStretchFactor(2, 3);
+
+  auto* centre = new QWidget(&m_window);
+  auto* column = new QVBoxLayout(centre);
+  column->addLayout(head);
+  column->addWidget(rows, 1);
+  column->addWidget(keys);
+  m_window.setCentralWidget(centre);
+  m_textMenu = new TextMenu(&m_window);
+  m_textMenu->serve(&m_window);
+}
+
+void AnswerAreas::addLookUp(const QString& dictionaryHeading, LookUp& dictionary) {
+  auto* pane =
+      new LookUpPane(static_cast<int>(m_panes.size()), dictionaryHeading, dictionary, m_lookUps);
+  QObject::connect(pane, &LookUpPane::wordClicked, &m_window,
+                   [this](const QString& word) { lookUp(word); });
+  m_textMenu->serve(pane);
+  m_panes.append(pane);
+}
+
+void AnswerAreas::lookUp(const QString& text) {
+  for (LookUpPane* pane : std::as_const(m_panes)) pane->setWord(text);
+}
+
+}  // namespace tavoli

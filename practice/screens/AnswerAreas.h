@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QLabel>
+#include <QLayout>
+#include <QMainWindow>
+#include <QSplitter>
+
+#include "practice/AnswerScreen.h"
+
+namespace tavoli {
+
+class AnswerBox;
+class LookUp;
+class LookUpPane;
+class MessageLine;
+class TextMenu;
+class TimeStrip;
+class WordView;
+
+/// What every window has in which answers are typed: heading and time strip, question, answer box,
+/// message, full answer, and look-up panes.
+class AnswerAreas {
+ public:
+  /// Makes the areas as children of the window; they go with it.
+  explicit AnswerAreas(QMainWindow& window);
+  ~AnswerAreas();
+  AnswerAreas(const AnswerAreas&) = delete;
+  AnswerAreas& operator=(const AnswerAreas&) = delete;
+
+  /// Lays the window out: the row with the question, the full answer alone or among others, and the
+  /// function keys.
+  void arrange(QLayout* questionRow, QWidget* explanations, QWidget* keys);
+
+  /// Adds a look-up pane. The dictionary must be there as long as the window is used.
+  void addLookUp(const QString& heading, LookUp& dictionary);
+  /// Puts a text into all look-up panes.
+  void lookUp(const QString& text);
+
+  QLabel* const heading;
+  TimeStrip* const time;
+  WordView* const question;
+  AnswerBox* const answer;
+  MessageLine* const message;
+  WordView* const fullAnswer;
+
+ private:
+  QMainWindow& m_window;
+  QSplitter* m_lookUps;
+  QList<LookUpPane*> m_panes;
+  TextMenu* m_textMenu = nullptr;
+};
+
+/// A splitter whose parts cannot be closed.
+QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent);
+
+}  // namespace tavoli

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "practice/screens/AnswerAreas.h"
+#include "practice/screens/AnswerBox.h"
+#include "practice/screens/MessageLine.h"
+#include "practice/screens/TimeStrip.h"
+#include "practice/screens/WordView.h"
+
+namespace tavoli {
+
+/// A window in which answers are typed, for a `Screen` that is an AnswerScreen.
+template <class Screen>
+class AnswerWindow : public QMainWindow, public Screen {
+ public:
+  /// Adds a look-up pane. The dictionary must be there as long as the window is used.
+  void addLookUp(const QString& heading, LookUp& dictionary) {
+    m_areas.addLookUp(heading, dictionary);
+  }
+
+  void showQuestion(const MarkedText& text) override { m_areas.question->setMarkedText(text); }
+  void setAnswer(const QString& text) override { m_areas.answer->setText(text); }
+  void focusAnswer() override { m_areas.answer->setFocus(); }
+  void showFullAnswer(const MarkedText& text) override {
+    m_areas.fullAnswer->setMarkedText(text, MarkedView::Show::End);
+  }
+  void showMessage(const QString& text) override { m_areas.message->setText(text); }
+  void lookUp(const QString& text) override { m_areas.lookUp(text); }
+  void showTime(const AnswerTime& time) override { m_areas.time->showTime(time); }
+  void awaitConfirmation(bool awaited) override {
+    m_areas.answer->setReadOnly(awaited);
+    m_areas.answer->setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。")
+                                               : QString());
+  }
+
+ protected:
+  explicit AnswerWindow(QWidget* parent) : QMainWindow(parent), m_areas(*this) {}
+
+  AnswerAreas m_areas;
+};
+
+}  // namespace tavoli
