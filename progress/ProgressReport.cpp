@@ -123,6 +123,7 @@ std::vector<NumberTable> ProgressReport::printedTables() const {
 
 std::vector<NumberTable> ProgressReport::filled(const std::array<QString, 4>& titles) const {
   std::vector<NumberTable> tables;
+  tables.reserve(titles.size());
   for (const QString& title : titles) tables.push_back(titledTable(title));
   appendRows(tables[0], m_counters.記憶単熟, grouped);
   appendRows(tables[0], m_counters.記憶文, grouped);

@@ -49,7 +49,7 @@ WholeAxis wholeAxis(double largest) {
 QChart* drawnChart(const BarChart& chart, const QPalette& palette, const QFont& font) {
   auto* drawn = new QChart;
   drawn->setObjectName(chart.name);
-  const QBrush ink = palette.brush(QPalette::Text);
+  const QBrush& ink = palette.brush(QPalette::Text);
   QFont titleFont = font;
   titleFont.setBold(true);
   const QFont smallFont = scaled(font, legendShare);

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QRectF>
 
+#include <array>
+
 #include "progress/screens/BarChartDrawing.h"
 #include "system/PageSurface.h"
 
@@ -22,16 +24,16 @@ constexpr double headingTop = 500;
 constexpr double tablesTop = chartRows * chartHeight + 300 + 600;
 constexpr double rowPitch = 200;
 constexpr double titleLeft = 2900;
-constexpr double columnEnds[] = {5900, 7400, 8900};
+constexpr std::array<double, 3> columnEnds = {5900, 7400, 8900};
 constexpr double margin = 100;
 constexpr double specialLeft = 8950;
 constexpr int specialRow = 6;
 
 void drawCharts(PageSurface& page, const std::vector<BarChart>& charts, int firstRow) {
   for (size_t i = 0; i < charts.size(); ++i) {
-    const auto place = static_cast<int>(i);
-    const QRectF rect(chartsLeft + place % chartsARow * chartWidth,
-                      chartsTop + (firstRow + place / chartsARow) * chartHeight, chartWidth,
+    const int row = firstRow + static_cast<int>(i) / chartsARow;
+    const int column = static_cast<int>(i) % chartsARow;
+    const QRectF rect(chartsLeft + column * chartWidth, chartsTop + row * chartHeight, chartWidth,
                       chartHeight);
     page.drawPicture(rect, chartPicture(charts[i], rect.size()));
   }
@@ -39,7 +41,7 @@ void drawCharts(PageSurface& page, const std::vector<BarChart>& charts, int firs
 
 void drawFrame(PageSurface& page, double top, double bottom) {
   const double left = titleLeft - margin;
-  const double right = columnEnds[2];
+  const double right = columnEnds.back();
   for (const double y : {top, bottom}) page.drawLine(left, y, right, y);
   for (const double x : {left, right}) page.drawLine(x, top, x, bottom);
 }
@@ -49,8 +51,10 @@ double drawTable(PageSurface& page, double top, const NumberTable& table) {
   double y = top;
   const auto drawRow = [&](const QString& title, const QStringList& cells) {
     page.drawText(titleLeft, y, title);
-    for (int i = 0; i < cells.size(); ++i)
-      page.drawText(columnEnds[i] - margin - page.textWidth(cells[i]), y, cells[i]);
+    for (size_t i = 0; i < columnEnds.size(); ++i) {
+      const QString& cell = cells[static_cast<qsizetype>(i)];
+      page.drawText(columnEnds[i] - margin - page.textWidth(cell), y, cell);
+    }
     y += rowPitch;
   };
   drawRow(table.title, table.columns);
