@@ -36,7 +36,7 @@ std::optional<ProgressCounters> RunEnd::closeRun(std::unique_ptr<LearningTables>
   std::optional<ProgressCounters> stored = saveRunEnd(std::move(tables), set, run);
   if (stored && m_learner.placedElsewhere && !copyHome(m_learner, m_files, run.backToConditions)) {
     m_dialogs.show(
-        QStringLiteral("練習結果を配置場所に戻せませんでした。結果はこの機械の %1 に残っています。")
+        QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
             .arg(QFileInfo(m_learner.dbFileWork).path()));
   }
   return stored;

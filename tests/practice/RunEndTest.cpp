@@ -272,10 +272,11 @@ TEST_F(RunEndTest, KeepsHereWhatDoesNotGetHome) {
     EXPECT_EQ(files.exists(learner.condFileWork), !c.conditionsHome);
     EXPECT_EQ(files.copied.count(learner.historyFilePlaced), c.historyHome ? 1 : 2);
     const bool allHome = c.databaseHome && c.historyHome && c.conditionsHome;
-    EXPECT_EQ(dialogs.shown.count(QStringLiteral("練習結果を配置場所に戻せませんでした。結果はこの"
-                                                 "機械の %1 に残っています。")
-                                      .arg(store.folder())),
-              allHome ? 0 : 1);
+    EXPECT_EQ(
+        dialogs.shown.count(
+            QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
+                .arg(store.folder())),
+        allHome ? 0 : 1);
   }
 }
 
