@@ -1,6 +1,7 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+#include <set>
 
 #include "data/LessonFile.h"
 #include "system/Files.h"
@@ -131,22 +132,19 @@ TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
                       test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
   store.addSentence(rowPassword, QStringLiteral("secret"));
   conditions.selMethod = u'4';
+  conditions.levelTo = QStringLiteral("99");
   const struct {
     QChar course;
     const char16_t* start;
-    QStringList expected;
-  } cases[] = {
-      {course中学, u"000000", {QStringLiteral("B000010"), QStringLiteral("B499990")}},
-      {course中学, u"000011･彼は", {QStringLiteral("B499990")}},
-      {course高校, u"000000", {QStringLiteral("B500010"), QStringLiteral("B899990")}},
-      {course高校, u"apple", {QStringLiteral("B500010"), QStringLiteral("B899990")}},
-      {course専門, u"000000", {QStringLiteral("B900010"), QStringLiteral("BA00010")}},
-  };
-  conditions.levelTo = QStringLiteral("99");
+    const char16_t* expected;
+  } cases[] = {{course中学, u"000000", u"B000010 B499990"},
+               {course中学, u"000011･彼は", u"B499990"},
+               {course高校, u"000000", u"B500010 B899990"},
+               {course高校, u"apple", u"B500010 B899990"},
+               {course専門, u"000000", u"B900010 BA00010"}};
   for (const auto& c : cases) {
-    course.COURSE = c.course;
-    course.specialTable = QStringLiteral("BusinessTOEIC");
-    EXPECT_EQ(keysOf(load(QString::fromUtf16(c.start))), c.expected);
+    course = {c.course, QStringLiteral("BusinessTOEIC")};
+    EXPECT_EQ(keysOf(load(QString::fromUtf16(c.start))).join(u' '), QString::fromUtf16(c.expected));
   }
   EXPECT_TRUE(dialogs.shown.isEmpty());
 }
@@ -178,23 +176,19 @@ TEST(PracticeSetTest, ShufflingOnlyPermutesWhatIsBehindTheStart) {
     test::FakeRandom random(seed);
     PracticeSet set;
     for (int i = 1; i <= 50; ++i) {
-      PracticeItem item;
-      item.itemEnglish = QString::number(i);
-      item.itemTimes = i;
-      set.append(item);
+      set.append({});
+      set.item(i).itemTimes = i;
     }
     set.startIndex = 10;
     set.ShufflePracticeSet(random);
-    QList<int> seen;
+    std::set<int> seen;
     int moved = 0;
     for (int i = 1; i <= 50; ++i) {
-      EXPECT_EQ(set.item(i).itemEnglish, QString::number(set.item(i).itemTimes));
       if (i <= 10) EXPECT_EQ(set.item(i).itemTimes, i);
       moved += set.item(i).itemTimes != i;
-      seen.append(set.item(i).itemTimes);
+      seen.insert(set.item(i).itemTimes);
     }
-    std::sort(seen.begin(), seen.end());
-    for (int i = 1; i <= 50; ++i) EXPECT_EQ(seen[i - 1], i);
+    EXPECT_EQ(seen.size(), 50);
     EXPECT_GT(moved, 20);
   }
 }

@@ -76,6 +76,8 @@ TEST_F(QuestionSheetTest, PrintsSentencesAndWordsWithTheirLabels) {
           QStringLiteral("偉大な　0回　全然"), QStringLiteral("正解|big  *発音注意*［ b*i*g ］")}));
   EXPECT_EQ(pages.rules, 2) << "under the head and between the items";
   EXPECT_FALSE(unpaired);
+  draw({sentenceItem(QStringLiteral("000010"), QStringLiteral("問[題|000001a00000000^|"))});
+  EXPECT_TRUE(unpaired);
 }
 
 TEST_F(QuestionSheetTest, BreaksLongLinesBesideTheLabelColumn) {
@@ -90,24 +92,18 @@ TEST_F(QuestionSheetTest, BreaksLongLinesBesideTheLabelColumn) {
   EXPECT_GT(lines(1).size(), 6);
 }
 
-TEST_F(QuestionSheetTest, AnItemThatWouldPassThePageBeginsTheNextOne) {
-  draw({numbered(1, 30), numbered(2, 30), numbered(3)});
-  EXPECT_EQ(pages.pages, 2);
+TEST_F(QuestionSheetTest, AnItemThatWouldPassThePageBeginsTheNextOneUnlessItIsLonger) {
+  draw({numbered(1, 30), numbered(2, 30), numbered(3, 200), numbered(4)});
+  EXPECT_EQ(pages.pages, 6);
+  for (int page = 1; page <= 6; ++page)
+    EXPECT_TRUE(lines(page).first().endsWith(QStringLiteral("ページ %1").arg(page)));
   EXPECT_TRUE(lines(1).last().startsWith(QStringLiteral("####")));
   EXPECT_FALSE(lines(1).join(u' ').contains(QStringLiteral("問い2番")));
-  EXPECT_EQ(lines(2).first(), QStringLiteral(" UID= 000 2026/04/01  09:00:00|ページ 2"));
   EXPECT_EQ(lines(2)[1], QStringLiteral("問題|問い2番"));
+  EXPECT_TRUE(lines(6).contains(QStringLiteral("問題|問い4番")));
   const auto last = std::ranges::max_element(
       pages.pieces, {}, [](const test::RecordingPages::Piece& piece) { return piece.y; });
   EXPECT_LE(last->y + 210, 850.5 + 15138.9);
-}
-
-TEST_F(QuestionSheetTest, AnItemLongerThanAPageGoesOnOverPages) {
-  draw({numbered(1, 200), numbered(2)});
-  EXPECT_EQ(pages.pages, 4);
-  EXPECT_TRUE(lines(4).contains(QStringLiteral("問題|問い2番")));
-  for (int page = 1; page <= 4; ++page)
-    EXPECT_TRUE(lines(page).first().endsWith(QStringLiteral("ページ %1").arg(page)));
 }
 
 TEST_F(QuestionSheetTest, APdfHoldsEachQuestionOnce) {
@@ -159,12 +155,6 @@ TEST_F(QuestionSheetTest, WhatNoPrinterTakesBecomesAFile) {
     EXPECT_EQ(paper.printed.pieces.empty(), !c.prints);
     EXPECT_EQ(paper.written.pieces.empty(), c.prints || !c.writes);
   }
-}
-
-TEST_F(QuestionSheetTest, TellsMarksThatDoNotPair) {
-  draw({sentenceItem(QStringLiteral("000010"), QStringLiteral("問[題|000001a00000000^|"))});
-  EXPECT_TRUE(unpaired);
-  EXPECT_EQ(lines(1)[1], QStringLiteral("問題|問題"));
 }
 
 }  // namespace

@@ -3,9 +3,8 @@
 
 #include "practice/RestTime.h"
 #include "practice/ReviewDrill.h"
-#include "tests/support/Fakes.h"
+#include "tests/support/Drill.h"
 #include "tests/support/Print.h"
-#include "tests/support/RecordingScreen.h"
 
 namespace tavoli {
 namespace {
@@ -23,58 +22,24 @@ class ReviewDrillTest : public testing::Test {
 
   void start(const QStringList& packed) {
     records = packed;
-    set = PracticeSet();
-    for (const QString& record : records) {
-      PracticeItem item;
-      const bool isSentence = record.contains(u'問') || record.contains(u'次');
-      item.itemEnglish = isSentence ? QStringLiteral("000010") : QStringLiteral("big");
-      item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
-      item.itemRecord = record;
-      set.append(item);
-    }
+    set = test::setOf(packed);
     std::vector<int> all;
     for (int i = 1; i <= set.itemCount(); ++i) all.push_back(i);
     review.startReview(all);
   }
 
-  /// Keys: r right, v an accepted variant, o right without what may be left out, t tolerated, w
-  /// wrong, m the mark missing, q a wrong mark, e Enter on nothing, 1 F1, K F11.
+  /// Keys: 1 F1, K F11, any other types what `typedBy` says.
   void press(const char* keys) {
     for (; *keys != '\0'; ++keys) {
       const CurrentRecord& record = review.record();
-      const QString right =
-          record.sentence ? record.text(review.reviewPOS1()) : QStringLiteral("big");
-      switch (*keys) {
-        case 'r':
-          review.enter(right);
-          break;
-        case 'v':
-          review.enter(QStringLiteral("I'm so big."));
-          break;
-        case 'o':
-          review.enter(QStringLiteral("I am big."));
-          break;
-        case 't':
-          review.enter(record.sentence ? QStringLiteral("I am so huge.") : QStringLiteral("large"));
-          break;
-        case 'w':
-          review.enter(QStringLiteral("nonsense"));
-          break;
-        case 'm':
-          review.enter(right.chopped(1));
-          break;
-        case 'q':
-          review.enter(right.chopped(1) + u'?');
-          break;
-        case '1':
-          review.showAnswer();
-          break;
-        case 'K':
-          review.nextReviewItem();
-          break;
-        default:
-          review.enter(QString());
-      }
+      if (*keys == '1')
+        review.showAnswer();
+      else if (*keys == 'K')
+        review.nextReviewItem();
+      else
+        review.enter(test::typedBy(
+            *keys, record.sentence ? record.text(review.reviewPOS1()) : QStringLiteral("big"),
+            record.sentence));
     }
   }
 

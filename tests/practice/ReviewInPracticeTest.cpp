@@ -24,13 +24,8 @@ class ReviewInPracticeTest : public testing::Test {
     drill->conditions.reviewCycle = reviewCycle;
     drill->start();
   }
-  void right() const { drill->enter(QStringLiteral("big")); }
-  void go() const { drill->enter(QString()); }
   void finish(int items) const {
-    for (int i = 0; i < items; ++i) {
-      right();
-      go();
-    }
+    for (int i = 0; i < items; ++i) drill->press("re");
   }
   /// Answers all that is asked again, and returns which items that were.
   std::vector<int> reviewed() const {
@@ -51,23 +46,21 @@ class ReviewInPracticeTest : public testing::Test {
 TEST_F(ReviewInPracticeTest, ComesAfterTheItemThatEndsACycleAndHandsBack) {
   start(12, 3);
   finish(5);
-  right();
+  drill->press("r");
   EXPECT_FALSE(drill->loop->復習中()) << "not before the full answer was seen";
-  go();
-  EXPECT_TRUE(drill->loop->復習中());
+  drill->press("e");
   EXPECT_TRUE(drill->review.shown);
   EXPECT_EQ(drill->review.heading, QStringLiteral("高校"));
   EXPECT_EQ(drill->review.question, QStringLiteral("意味1"));
   EXPECT_FALSE(drill->loop->clockRunning());
   EXPECT_EQ(reviewed(), (std::vector<int>{1, 2, 3}));
   EXPECT_FALSE(drill->review.shown);
-  EXPECT_EQ(drill->loop->POS(), 7);
   EXPECT_EQ(drill->screen.question, QStringLiteral("意味7"));
   EXPECT_TRUE(drill->loop->clockRunning());
-  right();
+  drill->press("r");
   EXPECT_EQ(drill->stored(7).記(1), memoryうろ覚え) << "asked once, so the first try counts";
   EXPECT_EQ(drill->finished(), 7) << "a review counts nothing";
-  go();
+  drill->press("e");
   finish(2);
   EXPECT_EQ(reviewed(), (std::vector<int>{4, 5, 6}));
 }
@@ -81,24 +74,18 @@ TEST_F(ReviewInPracticeTest, HandsBackIntoAFullAnswer) {
   EXPECT_TRUE(drill->screen.awaited);
   EXPECT_EQ(drill->screen.fullAnswer, QStringLiteral("big\n意味3  "));
   EXPECT_EQ(drill->loop->POS(), 3);
-  go();
+  drill->press("e");
   EXPECT_EQ(drill->loop->POS(), 4);
   EXPECT_FALSE(drill->loop->復習中()) << "item 3 was not answered";
 }
 
 TEST_F(ReviewInPracticeTest, TakesOnlyItemsThatWereReallyAnswered) {
   start(12, 1);
-  drill->loop->nextItem();
-  drill->loop->nextSubQuestion();
-  drill->loop->markKnown(false);
-  go();
+  drill->press("32Ke");
   EXPECT_EQ(drill->loop->POS(), 4);
-  finish(1);
-  right();
-  drill->loop->previousItem();
+  drill->press("rer4");
   EXPECT_EQ(drill->loop->POS(), 4) << "left by F4: not taken";
-  go();
-  finish(1);
+  drill->press("ere");
   EXPECT_FALSE(drill->loop->復習中());
   finish(1);
   EXPECT_EQ(reviewed(), (std::vector<int>{4}));
@@ -114,15 +101,6 @@ TEST_F(ReviewInPracticeTest, ForgetsItemsThatWereMixed) {
   finish(4);
   EXPECT_EQ(reviewed(), (std::vector<int>{2, 3}))
       << "the cycle goes on; its batch is asked when all of it is known";
-}
-
-TEST_F(ReviewInPracticeTest, EndsTheRun) {
-  start(6, 1);
-  finish(2);
-  drill->loop->review().requestExit();
-  EXPECT_TRUE(drill->loop->exitConfirmed());
-  EXPECT_TRUE(drill->screen.closed);
-  EXPECT_FALSE(drill->loop->復習中());
 }
 
 /// Whatever is pressed in a review, the practice goes on at the next item, asked or shown from its

@@ -35,13 +35,5 @@ TEST(ReviewRingTest, LagsOneCycleBehindTheLearner) {
   }
 }
 
-TEST(ReviewRingTest, WithACycleOfThreeTheSixthItemBringsTheFirstThree) {
-  ReviewRing ring(3);
-  for (int i = 1; i <= 5; ++i) EXPECT_TRUE(ring.reviewCheck(i).empty()) << i;
-  EXPECT_EQ(ring.reviewCheck(6), (std::vector<int>{1, 2, 3}));
-  for (int i = 7; i <= 8; ++i) EXPECT_TRUE(ring.reviewCheck(i).empty()) << i;
-  EXPECT_EQ(ring.reviewCheck(9), (std::vector<int>{4, 5, 6}));
-}
-
 }  // namespace
 }  // namespace tavoli

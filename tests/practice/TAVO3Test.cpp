@@ -1,33 +1,26 @@
 #include <QAccessible>
-#include <QApplication>
 #include <QClipboard>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTest>
 #include <QTextBlock>
 
 #include <gtest/gtest.h>
 
-#include "practice/LookUp.h"
-#include "practice/PracticeLoop.h"
-#include "practice/screens/MarkedView.h"
 #include "practice/screens/TAVO3.h"
 #include "practice/screens/TimeStrip.h"
-#include "tests/support/Fakes.h"
+#include "tests/support/AnswerWindow.h"
 #include "tests/support/Print.h"
 #include "tests/support/RecordingScreen.h"
-#include "tests/support/TestStore.h"
 
 namespace tavoli {
 namespace {
 
-/// The window over a sentence and two words, driven through its controls.
-class TAVO3Test : public testing::Test {
+/// The practice of a sentence and two words.
+class TAVO3Test : public test::AnswerWindow<TAVO3> {
  protected:
   TAVO3Test() {
     add(QStringLiteral("000120"), tableOfSentences,
@@ -50,42 +43,9 @@ class TAVO3Test : public testing::Test {
     QApplication::setActiveWindow(&window);
   }
 
-  void add(const QString& key, QChar table, const QString& record) {
-    PracticeItem item;
-    item.itemEnglish = key;
-    item.itemTable = table;
-    item.itemRecord = record;
-    set.append(item);
-  }
-  template <class T>
-  T* find(const char16_t* name) {
-    return window.findChild<T*>(QString::fromUtf16(name));
-  }
-  static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-  void type(const QString& text) {
-    QTest::keyClicks(answer, text);
-    press(Qt::Key_Return);
-  }
-
-  PracticeSet set;
-  CourseChoice course;
-  PracticeConditions conditions;
-  RunClock times;
-  test::ScriptedDialogs dialogs;
-  test::FakeRandom random;
-  test::FakeClock clock;
-  test::RecordingSpeaker speaker;
-  test::TestStore store;
-  std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
-  LookUp dictionary{*cursor};
-  TAVO3 window{conditions};
   test::RecordingReview review;
   std::unique_ptr<PracticeLoop> loop;
   int closed = 0;
-  QLineEdit* answer = find<QLineEdit>(u"Text2");
-  MarkedView* question = find<MarkedView>(u"RichTextBox4");
-  MarkedView* fullAnswer = find<MarkedView>(u"RichTextBox2");
-  QLabel* message = find<QLabel>(u"RichTextBox5");
 };
 
 TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
@@ -112,10 +72,6 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   EXPECT_EQ(loop->POS(), 3) << "a click into the answer box goes on too";
   press(Qt::Key_F4);
   EXPECT_EQ(loop->POS(), 2);
-  window.enableKey(FunctionKey::F3, false);
-  press(Qt::Key_F3);
-  EXPECT_EQ(loop->POS(), 2) << "a key is off together with its button";
-  window.enableKey(FunctionKey::F3, true);
   press(Qt::Key_F3);
   EXPECT_EQ(loop->POS(), 3);
 
@@ -144,21 +100,6 @@ TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
   EXPECT_TRUE(loop->確認中());
   press(Qt::Key_F9);
   EXPECT_EQ(loop->printRequests().items().size(), 1);
-}
-
-TEST_F(TAVO3Test, TypesTheWaveByItsKeysInEveryBox) {
-  for (QLineEdit* box : {answer, find<QLineEdit>(u"Text3(1)")}) {
-    box->clear();
-    QTest::keyClick(box, '~');
-    QTest::keyClick(box, Qt::Key_0, Qt::ShiftModifier);
-    EXPECT_EQ(box->text(), QStringLiteral("～～"));
-  }
-}
-
-TEST_F(TAVO3Test, AnyKeyEmptiesTheMessageBeforeItTakesEffect) {
-  window.showMessage(QStringLiteral("前の回答"));
-  QTest::keyClick(answer, Qt::Key_Left);
-  EXPECT_EQ(message->text(), QString());
 }
 
 TEST_F(TAVO3Test, ClicksSelectNothingInASentenceToCorrect) {

@@ -1,27 +1,20 @@
-#include <QApplication>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include "practice/LookUp.h"
-#include "practice/PracticeLoop.h"
-#include "practice/screens/MarkedView.h"
 #include "practice/screens/TAVO4.h"
 #include "practice/screens/TimeStrip.h"
-#include "tests/support/Fakes.h"
+#include "tests/support/AnswerWindow.h"
 #include "tests/support/Print.h"
 #include "tests/support/RecordingScreen.h"
-#include "tests/support/TestStore.h"
 
 namespace tavoli {
 namespace {
 
-/// The window in a review of a word and a sentence, driven through its controls.
-class TAVO4Test : public testing::Test {
+/// The review of a word and a sentence.
+class TAVO4Test : public test::AnswerWindow<TAVO4> {
  protected:
   TAVO4Test() {
     add(QStringLiteral("big"), u'1', test::wordRecord({QStringLiteral("大きい")}));
@@ -42,43 +35,10 @@ class TAVO4Test : public testing::Test {
     QApplication::setActiveWindow(&window);
   }
 
-  void add(const QString& key, QChar table, const QString& record) {
-    PracticeItem item;
-    item.itemEnglish = key;
-    item.itemTable = table;
-    item.itemRecord = record;
-    set.append(item);
-  }
-  template <class T>
-  T* find(const char16_t* name) {
-    return window.findChild<T*>(QString::fromUtf16(name));
-  }
-  static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-  void type(const QString& text) {
-    QTest::keyClicks(answer, text);
-    press(Qt::Key_Return);
-  }
-
-  PracticeSet set;
-  CourseChoice course;
-  PracticeConditions conditions;
-  RunClock times;
   test::RecordingScreen practice;
-  test::ScriptedDialogs dialogs;
-  test::FakeRandom random;
-  test::FakeClock clock;
-  test::RecordingSpeaker speaker;
-  test::TestStore store;
-  std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
-  LookUp dictionary{*cursor};
-  TAVO4 window{conditions};
   PracticeLoop loop{set, course, conditions, times,
                     LoopServices{practice, window, dialogs, random, clock, speaker}};
   int over = 0;
-  QLineEdit* answer = find<QLineEdit>(u"Text2");
-  MarkedView* question = find<MarkedView>(u"RichTextBox4");
-  MarkedView* fullAnswer = find<MarkedView>(u"RichTextBox2");
-  QLabel* message = find<QLabel>(u"RichTextBox5");
 };
 
 TEST_F(TAVO4Test, ReviewsWithTheKeyboardAlone) {

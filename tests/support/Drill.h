@@ -9,22 +9,52 @@
 
 namespace tavoli::test {
 
-/// A run over given packed records, driven by the keys of the practice. A record whose first
-/// character is 問 is a sentence, any other the word "big". All memory states are asked, and
-/// nothing is reviewed, unless told otherwise.
+/// The packed records as a list of items: one that begins with its synonyms is the word "big", any
+/// other a sentence.
+inline PracticeSet setOf(const QStringList& records) {
+  PracticeSet set;
+  for (const QString& record : records) {
+    PracticeItem item;
+    const bool isSentence = !record.startsWith(u'|');
+    item.itemEnglish = isSentence ? digits(10 * (set.itemCount() + 1), 6) : QStringLiteral("big");
+    item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
+    item.itemRecord = record;
+    set.append(item);
+  }
+  return set;
+}
+
+/// What a key types where `right` is asked: r itself, v with a contraction, o without "so ", t a
+/// tolerated word, m without its mark, q with a wrong one, w something wrong, any other nothing.
+inline QString typedBy(char key, QString right, bool isSentence) {
+  switch (key) {
+    case 'r':
+      return right;
+    case 'v':
+      return right.replace(QStringLiteral("I am "), QStringLiteral("I'm "));
+    case 'o':
+      return right.remove(QStringLiteral("so "));
+    case 't':
+      return isSentence ? right.replace(QStringLiteral("big"), QStringLiteral("huge"))
+                        : QStringLiteral("large");
+    case 'm':
+      return right.left(right.size() - 1);
+    case 'q':
+      return right.left(right.size() - 1) + u'?';
+    case 'w':
+      return QStringLiteral("nonsense");
+    default:
+      return {};
+  }
+}
+
+/// A run over given packed records, driven by the keys of the practice. All memory states are
+/// asked, and nothing is reviewed, unless told otherwise.
 class Drill {
  public:
-  explicit Drill(const QStringList& records) {
+  explicit Drill(const QStringList& records) : set(setOf(records)) {
     conditions.memorySelect = u'5';
     conditions.reviewCycle = 0;
-    for (const QString& record : records) {
-      PracticeItem item;
-      const bool isSentence = record.startsWith(u'問');
-      item.itemEnglish = isSentence ? digits(10 * (set.itemCount() + 1), 6) : QStringLiteral("big");
-      item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
-      item.itemRecord = record;
-      set.append(item);
-    }
   }
 
   void start() {
@@ -35,6 +65,48 @@ class Drill {
   }
 
   void enter(const QString& typed) const { loop->enter(typed); }
+  void pass(int seconds) {
+    clock.time = clock.time.addSecs(seconds);
+    loop->tick();
+  }
+  /// Presses keys one after the other: 1 2 3 4 F1 to F4, K F11, c a click into the answer box, T
+  /// nearly a minute passes, x F6 and No; any other as `typedBy` says.
+  void press(const char* keys) {
+    for (; *keys != '\0'; ++keys) {
+      switch (*keys) {
+        case '1':
+          loop->showAnswer();
+          break;
+        case '2':
+          loop->nextSubQuestion();
+          break;
+        case '3':
+          loop->nextItem();
+          break;
+        case '4':
+          loop->previousItem();
+          break;
+        case 'K':
+          loop->markKnown(false);
+          break;
+        case 'c':
+          loop->answerBoxClicked(screen.answer);
+          break;
+        case 'T':
+          pass(59);
+          break;
+        case 'x':
+          dialogs.answers = {false};
+          loop->requestExit();
+          break;
+        default: {
+          const CurrentRecord& record = loop->state().record;
+          const QString right = record.sentence ? record.text(loop->POS1()) : record.英語;
+          enter(typedBy(*keys, right, record.sentence));
+        }
+      }
+    }
+  }
   CurrentRecord stored(int i = 1) const { return set.parsed(i); }
   /// How many items have been counted as finished.
   int finished() const {
