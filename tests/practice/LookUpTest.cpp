@@ -231,18 +231,15 @@ TEST_F(LookUpTest, PaneShowsWhatIsTypedSteppedToAndClicked) {
   QTest::keyClick(box, Qt::Key_Up);
   EXPECT_EQ(head(), QStringLiteral("apple"));
   EXPECT_EQ(box->text(), QStringLiteral("app")) << "stepping leaves the box alone";
-
   box->clear();
   EXPECT_EQ(head(), QStringLiteral("apple")) << "an empty box keeps the entry on show";
-  QTest::keyClick(box, Qt::Key_0, Qt::ShiftModifier);
-  QTest::keyClick(box, '~');
-  EXPECT_EQ(box->text(), QStringLiteral("～～"));
+  for (int i = 0; i < 2; ++i) {
+    pane.setWord(QStringLiteral("apple pie"));
+    EXPECT_EQ(head(), QStringLiteral("apple pie")) << "the same word again, too";
+    QTest::keyClick(box, Qt::Key_Down);
+  }
 
   pane.setWord(QStringLiteral("apple pie"));
-  QTest::keyClick(box, Qt::Key_Down);
-  pane.setWord(QStringLiteral("apple pie"));
-  EXPECT_EQ(head(), QStringLiteral("apple pie")) << "the same word again";
-
   QSignalSpy words(&pane, &LookUpPane::wordClicked);
   const auto pointAt = [&](int position) {
     QTextCursor cursor(view->document());
@@ -254,12 +251,9 @@ TEST_F(LookUpTest, PaneShowsWhatIsTypedSteppedToAndClicked) {
   QTest::mouseMove(view->viewport(), pointAt(4));
   QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, pointAt(4));
   QTest::mouseClick(view->viewport(), Qt::RightButton, {}, pointAt(7));
-  view->moveCursor(QTextCursor::Start);
-  QTest::keyClick(view, Qt::Key_F11);
-  QStringList reported;
-  for (const QList<QVariant>& arguments : words) reported += arguments[0].toString();
-  EXPECT_EQ(reported,
-            QStringList({QStringLiteral("pie"), QStringLiteral("appl"), QStringLiteral("apple")}));
+  ASSERT_EQ(words.size(), 2);
+  EXPECT_EQ(words[0][0], QStringLiteral("pie"));
+  EXPECT_EQ(words[1][0], QStringLiteral("appl"));
 }
 
 }  // namespace

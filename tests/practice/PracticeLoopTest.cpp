@@ -254,9 +254,16 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       const char key = keys[static_cast<size_t>(upTo(static_cast<int>(keys.size())))];
       const int finished = drill.finished();
       const bool asking = !loop.確認中();
+      const int POS = loop.POS();
+      const int POS1 = loop.POS1();
+      const QChar before = loop.state().record.記(POS1);
       drill.press(std::string(1, key).c_str());
       ASSERT_EQ(drill.dialogs.shown, QStringList());
       ASSERT_FALSE(loop.exitConfirmed());
+      const QChar after = drill.stored(POS).記(POS1);
+      ASSERT_TRUE(after.unicode() - before.unicode() <= 1) << "a state climbs one step at a time";
+      ASSERT_TRUE(after >= before || (after == memory全然 && loop.POS1() == POS1))
+          << "and a fall asks the same again";
       const CurrentRecord& record = loop.state().record;
       if (loop.確認中()) {
         ASSERT_FALSE(loop.clockRunning());

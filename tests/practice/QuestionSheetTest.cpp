@@ -1,13 +1,9 @@
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 #include "practice/QuestionPrinting.h"
 #include "practice/QuestionSheet.h"
-#include "system/screens/PagedPaper.h"
 #include "tests/support/FakePaper.h"
 #include "tests/support/Fakes.h"
-#include "tests/support/Pdf.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
@@ -104,19 +100,6 @@ TEST_F(QuestionSheetTest, AnItemThatWouldPassThePageBeginsTheNextOneUnlessItIsLo
   const auto last = std::ranges::max_element(
       pages.pieces, {}, [](const test::RecordingPages::Piece& piece) { return piece.y; });
   EXPECT_LE(last->y + 210, 850.5 + 15138.9);
-}
-
-TEST_F(QuestionSheetTest, APdfHoldsEachQuestionOnce) {
-  std::vector<PracticeItem> items;
-  for (int i = 1; i <= 30; ++i) items.push_back(numbered(i, 5));
-  const QuestionSheet sheet(items, QStringLiteral("000"), clock.now());
-  const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("sheet.pdf"));
-  ASSERT_TRUE(PagedPaper().writePdf(path, QString(), [&](PageSurface& page) { sheet.draw(page); }));
-  const QString text = test::textOfPdf(path, {QStringLiteral("-layout")});
-  for (int i = 1; i <= 30; ++i)
-    EXPECT_EQ(text.count(QStringLiteral("問い%1番").arg(i)), 1) << qPrintable(text);
-  EXPECT_EQ(text.count(QStringLiteral("正解")), 30);
 }
 
 TEST_F(QuestionSheetTest, WhatNoPrinterTakesBecomesAFile) {
