@@ -36,22 +36,30 @@ class TerminalDrillTest : public testing::Test {
     return folder.filePath(QStringLiteral("TavoliPersonalData/TavoDB000.mdb"));
   }
 
-  Outcome run(const QStringList& arguments, const QString& input) const {
+  Outcome run(const QStringList& arguments, const char* input) const {
     QProcess program;
     program.start(
         QStringLiteral(TAVOLI_PROGRAM),
         QStringList{QStringLiteral("--terminal"), QStringLiteral("--app-folder"), folder.path()} +
             arguments);
-    program.write(input.toUtf8());
+    program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished());
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
             QString::fromUtf8(program.readAllStandardError())};
   }
 
-  static void expectInOrder(const QString& output, const QStringList& expected) {
+  /// The arguments that set conditions, `NAME=VALUE` each with a blank between.
+  static QStringList settings(const QString& values) {
+    QStringList arguments = {QStringLiteral("--user"), QStringLiteral("000")};
+    for (const QString& value : values.split(u' ')) arguments += {QStringLiteral("--set"), value};
+    return arguments;
+  }
+
+  static void expectInOrder(const QString& output, const std::vector<const char16_t*>& expected) {
     qsizetype from = 0;
-    for (const QString& line : expected) {
+    for (const char16_t* text : expected) {
+      const QString line = QString::fromUtf16(text);
       from = output.indexOf(line, from);
       ASSERT_GE(from, 0) << qPrintable(line) << " is missing in\n" << qPrintable(output);
       from += line.size();
@@ -70,97 +78,72 @@ class TerminalDrillTest : public testing::Test {
 
   QTemporaryDir folder;
   test::TestStore store;
-  const QStringList sentences = {QStringLiteral("--user"), QStringLiteral("000"),
-                                 QStringLiteral("--set"),  QStringLiteral("COURSE=0"),
-                                 QStringLiteral("--set"),  QStringLiteral("selMethod=4"),
-                                 QStringLiteral("--set"),  QStringLiteral("startMode=1")};
+  const QStringList sentences = settings(QStringLiteral("COURSE=0 selMethod=4 startMode=1"));
 };
 
 TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
-  const QString input = QStringLiteral(
-      ":yes\n"
-      "answer 1\n\n"
-      "wrong\nanswer 2\n\n"
-      "answer 3\n\n"
-      "answer 4\n\n"
-      "wrong again\nANSWER 5\n\n"
-      ":F6\n:no\n:F6\n:yes\n");
-  Outcome outcome = run(sentences, input);
+  Outcome outcome = run(sentences,
+                        ":yes\nanswer 1\n\nwrong\nanswer 2\n\nanswer 3\n\nanswer 4\n\n"
+                        "wrong again\nANSWER 5\n\n:F6\n:no\n:F6\n:yes\n");
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  for (const char16_t* line :
-       {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
-        u"[状態2] 位置=6／6 000060", u"[表示] ○　正解です。　『うろ覚え』にしました。",
-        u"[正解] {wrong again} は正解ではありません。", u"[箱] 終了しますか？（:yes / :no）"})
-    EXPECT_TRUE(outcome.output.contains(QString::fromUtf16(line))) << qPrintable(outcome.output);
+  expectInOrder(outcome.output,
+                {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
+                 u"[表示] ○　正解です。　『うろ覚え』にしました。",
+                 u"[正解] {wrong again} は正解ではありません。", u"[状態2] 位置=6／6 000060",
+                 u"[箱] 終了しますか？（:yes / :no）"});
   for (const int i : {1, 3, 4}) EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("101"));
   for (const int i : {2, 5})
     EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("001")) << "not at the first try";
   EXPECT_EQ(stored(QStringLiteral("000060")), QStringLiteral("000"));
 
-  outcome = run(sentences, QString());
+  outcome = run(sentences, "");
   EXPECT_EQ(outcome.status, 0) << "the end of the input is a confirmed end";
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[状態7] 練習回数 = 1")));
+  expectInOrder(outcome.output, {u"[状態7] 練習回数 = 1"});
   EXPECT_FALSE(outcome.output.contains(QStringLiteral("[箱]")));
 }
 
 TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
-  const Outcome outcome =
-      run(sentences, QStringLiteral(":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
-                                    ":conditions\n:menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n"));
+  const Outcome outcome = run(sentences,
+                              ":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
+                              ":conditions\n:menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n");
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  const QStringList expected = {QStringLiteral("[状態2] 位置=1／6 000010"),
-                                QStringLiteral("[状態2] 位置=2／6 000020"),
-                                QStringLiteral("[状態2] 位置=1／6 000010"),
-                                QStringLiteral("[状態2] 位置=2／6 000020"),
-                                QStringLiteral("[正解] 正解：answer 2"),
-                                QStringLiteral("[経過] -------------- 0001 -------------"),
-                                QStringLiteral("[中学DB] apple：Not found."),
-                                QStringLiteral("[条件] コース：中学"),
-                                QStringLiteral("[前回] コース：中学"),
-                                QStringLiteral("[状態3] 比較方法 ABCDE≠abcde"),
-                                QStringLiteral(":F12 というキーはありません。"),
-                                QStringLiteral("[箱] このレッスンファイルを終了して")};
-  expectInOrder(outcome.output, expected);
+  expectInOrder(outcome.output,
+                {u"[状態2] 位置=1／6 000010", u"[状態2] 位置=2／6 000020",
+                 u"[状態2] 位置=1／6 000010", u"[状態2] 位置=2／6 000020", u"[正解] 正解：answer 2",
+                 u"[経過] -------------- 0001 -------------", u"[中学DB] apple：Not found.",
+                 u"[条件] コース：中学", u"[前回] コース：中学", u"[状態3] 比較方法 ABCDE≠abcde",
+                 u":F12 というキーはありません。", u"[箱] このレッスンファイルを終了して"});
   EXPECT_EQ(stored(QStringLiteral("000010")), QStringLiteral("000")) << "left by F2";
   EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("001")) << "the answer was shown";
 }
 
 TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
   const Outcome outcome =
-      run(sentences + QStringList{QStringLiteral("--set"), QStringLiteral("reviewCycle=1")},
-          QStringLiteral(":yes\nanswer 1\n\nanswer 2\n\n"
-                         ":F1\nanswer 1\n\n"
-                         "answer 3\n\nno\n:F2\nnever\n\n"
-                         "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n"));
+      run(settings(QStringLiteral("COURSE=0 selMethod=4 startMode=1 reviewCycle=1")),
+          ":yes\nanswer 1\n\nanswer 2\n\n"
+          ":F1\nanswer 1\n\n"
+          "answer 3\n\nno\n:F2\nnever\n\n"
+          "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n");
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  const QStringList expected = {QStringLiteral("[復習] 中学\n[問題] 問題{1}"),
-                                QStringLiteral("[表示] answer 1"),
-                                QStringLiteral("[確認] 空の行で次に進みます。"),
-                                QStringLiteral("[問題] 問題{3}"),
-                                QStringLiteral("[復習] 中学\n[問題] 問題{2}"),
-                                QStringLiteral("[正解] {no} は正解"),
-                                QStringLiteral(":F2 というキーはありません。"),
-                                QStringLiteral("answer 2　が正解です。"),
-                                QStringLiteral("[問題] 問題{4}"),
-                                QStringLiteral("[問題] 問題{3}"),
-                                QStringLiteral("[箱] 終了しますか？"),
-                                QStringLiteral("[問題] 問題{5}"),
-                                QStringLiteral("[問題] 問題{4}"),
-                                QStringLiteral("[箱] 終了しますか？")};
-  expectInOrder(outcome.output, expected);
+  expectInOrder(outcome.output, {u"[復習] 中学\n[問題] 問題{1}", u"[表示] answer 1",
+                                 u"[確認] 空の行で次に進みます。", u"[問題] 問題{3}",
+                                 u"[復習] 中学\n[問題] 問題{2}", u"[正解] {no} は正解",
+                                 u":F2 というキーはありません。", u"answer 2　が正解です。",
+                                 u"[問題] 問題{4}", u"[問題] 問題{3}", u"[箱] 終了しますか？",
+                                 u"[問題] 問題{5}", u"[問題] 問題{4}", u"[箱] 終了しますか？"});
   EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("101")) << "a review changes nothing";
   EXPECT_EQ(stored(QStringLiteral("000050")), QStringLiteral("101"));
 }
 
 TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
-  const Outcome outcome = run(sentences, QStringLiteral(":yes\n:F9\n\nanswer 1\n:F9\n\n\n"
-                                                        ":F9\n\n:F6\n:yes\n"));
+  const Outcome outcome = run(sentences,
+                              ":yes\n:F9\n\nanswer 1\n:F9\n\n\n"
+                              ":F9\n\n:F6\n:yes\n");
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  expectInOrder(outcome.output,
-                {QStringLiteral("[箱] 終了時に、この問題と正解、コメントを印刷します。"),
-                 QStringLiteral("[箱] 既に印刷が要求されています。"),
-                 QStringLiteral("[箱] 終了時に、この問題と正解、コメントを印刷します。"),
-                 QStringLiteral("[箱] プリンターで印刷できないので、")});
+  expectInOrder(outcome.output, {u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
+                                 u"[箱] 既に印刷が要求されています。",
+                                 u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
+                                 u"[箱] プリンターで印刷できないので、"});
   const QDir data(folder.filePath(QStringLiteral("TavoliPersonalData")));
   const QStringList files = data.entryList({QStringLiteral("TavoPrint000-*.pdf")});
   ASSERT_EQ(files.size(), 1);
@@ -172,39 +155,27 @@ TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
 }
 
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
-  const Outcome outcome = run({QStringLiteral("--set"), QStringLiteral("COURSE=0"),
-                               QStringLiteral("--set"), QStringLiteral("selMethod=4")},
-                              QStringLiteral("\n\n\n:yes\n"));
+  const Outcome outcome = run(sentences.sliced(2), "\n\n\n:yes\n");
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[問題] 問題{1}")))
-      << qPrintable(outcome.output);
+  expectInOrder(outcome.output, {u"[問題] 問題{1}"});
 }
 
 TEST_F(TerminalDrillTest, TheStartIsCheckedAsOnTheScreen) {
-  QStringList arguments = sentences;
-  arguments.last() = QStringLiteral("startMode=3");
-  arguments += {QStringLiteral("--set"), QStringLiteral("startEnglish=000099")};
-  const QString question =
-      QStringLiteral("[箱] 指定開始英語の 000099 はデータベース中にありません。");
-  Outcome outcome = run(arguments, QStringLiteral(":yes\n:no\n"));
+  const QString start = QStringLiteral("COURSE=0 selMethod=4 startMode=3 startEnglish=");
+  Outcome outcome = run(settings(start + QStringLiteral("000099")), ":yes\n:no\n");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_TRUE(outcome.output.contains(question)) << qPrintable(outcome.output);
+  expectInOrder(outcome.output, {u"[箱] 指定開始英語の 000099 はデータベース中にありません。"});
   EXPECT_FALSE(outcome.output.contains(QStringLiteral("[問題]")));
-  arguments.last() = QStringLiteral("startEnglish=000040･問");
-  outcome = run(arguments, QString());
+  outcome = run(settings(start + QStringLiteral("000040･問")), "");
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[問題] 問題{4}")));
+  expectInOrder(outcome.output, {u"[問題] 問題{4}"});
 }
 
 TEST_F(TerminalDrillTest, ASpecialistDictionaryIsAskedFor) {
-  const QStringList course = {QStringLiteral("--user"), QStringLiteral("000"),
-                              QStringLiteral("--set"),  QStringLiteral("COURSE=2"),
-                              QStringLiteral("--set"),  QStringLiteral("specialTable=Gone")};
-  const Outcome outcome = run(course, QStringLiteral(":yes\nNone\nBusinessTOEIC\n"));
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("専門ＤＢを選択して下さい。")));
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("[箱] None はありません。")));
-  EXPECT_TRUE(outcome.output.contains(QStringLiteral("コース：専門 BusinessTOEIC")))
-      << qPrintable(outcome.output);
+  const Outcome outcome =
+      run(settings(QStringLiteral("COURSE=2 specialTable=Gone")), ":yes\nNone\nBusinessTOEIC\n");
+  expectInOrder(outcome.output, {u"専門ＤＢを選択して下さい。", u"[箱] None はありません。",
+                                 u"コース：専門 BusinessTOEIC"});
 }
 
 TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
@@ -214,17 +185,15 @@ TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
     QString complaint;
   } cases[] = {
       {"unknown option", {QStringLiteral("--fast")}, QStringLiteral("fast")},
-      {"no value",
-       {QStringLiteral("--set"), QStringLiteral("selMethod")},
-       QStringLiteral("NAME=VALUE")},
-      {"unknown name", sentences + QStringList{QStringLiteral("--set"), QStringLiteral("speed=9")},
+      {"no value", settings(QStringLiteral("selMethod")), QStringLiteral("NAME=VALUE")},
+      {"unknown name", settings(QStringLiteral("COURSE=0 speed=9")),
        QStringLiteral("speed という条件はありません")},
-      {"bad value", sentences + QStringList{QStringLiteral("--set"), QStringLiteral("selMethod=9")},
+      {"bad value", settings(QStringLiteral("COURSE=0 selMethod=9")),
        QStringLiteral("selMethod: 012345")},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const Outcome outcome = run(c.arguments, QStringLiteral(":yes\n"));
+    const Outcome outcome = run(c.arguments, ":yes\n");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_TRUE(outcome.errors.contains(c.complaint)) << qPrintable(outcome.errors);
   }
