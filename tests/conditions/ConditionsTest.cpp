@@ -89,18 +89,6 @@ TEST(ConditionsTest, NoValueShiftsTheFieldsBehindIt) {
   EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
 }
 
-TEST(ConditionsTest, StartsAtTheFirstItemUntilThereWasARun) {
-  PracticeConditions c;
-  for (const QChar mode : {u'0', u'1', u'2', u'3'}) {
-    c.startMode = mode;
-    EXPECT_EQ(startKeyOf(c), startKeyFirst);
-  }
-  c = unusual();
-  EXPECT_EQ(startKeyOf(c), QStringLiteral("120･彼は"));
-  c.startMode = u'2';
-  EXPECT_EQ(startKeyOf(c), QStringLiteral("look forward to ～ing"));
-}
-
 TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   test::TestStore store;
   CourseChoice course = readCourse(store.database(), CourseChoice());
