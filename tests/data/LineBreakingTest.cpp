@@ -45,16 +45,13 @@ TEST(LineBreakingTest, BreaksWhereAReaderExpectsIt) {
       {"the blank itself needs no room", u"I am big.", 4, {u"I am ", u"big."}},
       {"between Japanese characters", u"日本語です", 6, {u"日本語", u"です"}},
       {"behind Latin punctuation before Japanese", u"He is.彼は", 7, {u"He is.", u"彼は"}},
-      {"no closing mark at the beginning", u"日本語。です", 6, {u"日本", u"語。で", u"す"}},
       {"nor two", u"「日本語」。", 10, {u"「日本", u"語」。"}},
       {"no opening mark at the end", u"日本（語）", 6, {u"日本", u"（語）"}},
       {"a number stays whole", u"答は 3.14です", 7, {u"答は ", u"3.14で", u"す"}},
-      {"so does a full-width one", u"平成２０年", 6, {u"平成", u"２０年"}},
       {"an apostrophe", u"we don't", 6, {u"we ", u"don't"}},
       {"a hyphen", u"an ice-cream", 8, {u"an ", u"ice-", u"cream"}},
       {"a blank to fill in", u"He (   ) it", 7, {u"He ", u"(   ) ", u"it"}},
       {"a word beyond the line", u"abcdefghij kl", 4, {u"abcd", u"efgh", u"ij ", u"kl"}},
-      {"one character beyond the line", u"日本", 1, {u"日", u"本"}},
       {"a pair of code units", u"\U00020BB7\U00020BB7", 1, {u"\U00020BB7", u"\U00020BB7"}},
       {"line marks", u"一％％二", 9, {u"一", u"", u"二"}},
       {"a mark goes on", u"I {am big} now", 6, {u"I {am }", u"{big} ", u"now"}},
@@ -74,13 +71,9 @@ TEST(LineBreakingTest, RandomTextKeepsTheRules) {
   const unsigned seed = std::random_device{}();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
-  const QStringList pieces = {
-      QStringLiteral("日本語"), QStringLiteral("です"),  QStringLiteral("。"),
-      QStringLiteral("、"),     QStringLiteral("「"),    QStringLiteral("」"),
-      QStringLiteral("word"),   QStringLiteral("don't"), QStringLiteral("3.14"),
-      QStringLiteral("big,"),   QStringLiteral("end."),  QStringLiteral("(a)"),
-      QStringLiteral(" "),      QStringLiteral("  "),    QStringLiteral("　"),
-      QStringLiteral("％"),     QStringLiteral("～"),    QStringLiteral("a")};
+  const QStringList pieces =
+      QStringLiteral("日本語|です|。|、|「|」|word|don't|3.14|big,|end.|(a)| |  |　|％|～|a")
+          .split(u'|');
   static const QRegularExpression latinEnd(QStringLiteral("[A-Za-z0-9]$"));
   static const QRegularExpression latinStart(QStringLiteral("^[A-Za-z0-9]"));
   static const QRegularExpression closing(QStringLiteral("^[。、．，）」』.,)!?]"));
