@@ -41,18 +41,18 @@ TEST(ChoiceDialogTest, ShowsThePresentEntryAndGivesWhatIsChosen) {
 }
 
 TEST(ChoiceDialogTest, EnterAcceptsAndTheButtonsSayWhichWayItEnded) {
-  for (const auto& [button, result] :
-       {std::pair("Command1", QDialog::Accepted), std::pair("Command2", QDialog::Rejected)}) {
+  for (const auto& [button, result] : {std::pair("", QDialog::Accepted),
+                                       {"Command1", QDialog::Accepted},
+                                       {"Command2", QDialog::Rejected}}) {
     ChoiceDialog dialog({QString(), QString(), {QStringLiteral("Anatomy")}, QString()});
     dialog.show();
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+    if (*button == '\0')
+      QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    else
+      QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), result);
   }
-  ChoiceDialog dialog({QString(), QString(), {QStringLiteral("Anatomy")}, QString()});
-  dialog.show();
-  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
 
 }  // namespace
