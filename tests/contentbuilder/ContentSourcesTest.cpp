@@ -47,22 +47,14 @@ TEST(ContentSourcesTest, CompilesToPackedRecords) {
        QStringLiteral("He is.")},
       {QStringLiteral("000110"), QString(), QStringLiteral("次|000001a00000000^|"), QString()},
   };
-  ASSERT_EQ(tables[0].rows.size(), sentences.size());
-  for (size_t i = 0; i < sentences.size(); ++i) {
-    EXPECT_EQ(tables[0].rows[i].record, sentences[i].record);
-    EXPECT_EQ(tables[0].rows[i], sentences[i]);
-  }
+  EXPECT_EQ(tables[0].rows, sentences);
   const std::vector<ContentRow> words = {
       {QStringLiteral("best"), QStringLiteral("03"),
        QStringLiteral("ァbe′st|finest^top^|000最もよい^000[最]善^|最善％道"),
        QStringLiteral("best!")},
       {QStringLiteral("Best"), QStringLiteral("12"), QStringLiteral("||000～人名^|"), QString()},
   };
-  ASSERT_EQ(tables[3].rows.size(), words.size());
-  for (size_t i = 0; i < words.size(); ++i) {
-    EXPECT_EQ(tables[3].rows[i].record, words[i].record);
-    EXPECT_EQ(tables[3].rows[i], words[i]);
-  }
+  EXPECT_EQ(tables[3].rows, words);
 }
 
 /// Problems of the words file with that row in its second line, or of that sentences file.
@@ -98,25 +90,20 @@ TEST(ContentSourcesTest, NamesEveryMistakeInAWordsFile) {
       wordsFile, header,
       {
           {"too few columns", "a\t1\t\t\t意味\n", 2, "列が5個"},
-          {"too many columns", "\n#\na\t1\t\t\t意味\t\t\t\n", 4, "列が8個"},
           {"no key", "\t1\t\t\t意味\t\n", 2, "「英語」が空"},
           {"blank before the key", " a\t1\t\t\t意味\t\n", 2, "空白"},
           {"long key", longest + "\t1\t\t\t意味\t\n" + longest + "x\t1\t\t\t意味\t\n", 3, "60文字"},
           {"reserved key", "Zzzz\t1\t\t\t意味\t\n", 2, "zzzz"},
           {"key twice", "a\t1\t\t\t意味\t\nA\t1\t\t\t意味\t\na\t1\t\t\t意味\t\n", 4, "2行目"},
           {"level too high", "a\t100\t\t\t意味\t\n", 2, "レベル"},
-          {"negative level", "a\t-1\t\t\t意味\t\n", 2, "レベル"},
           {"no level", "a\t\t\t\t意味\t\n", 2, "レベル"},
           {"no meaning", "a\t1\t\t\t\t\n", 2, "意味がありません"},
           {"empty meaning", "a\t1\t\t\t一||三\t\n", 2, "「日」に空の要素"},
           {"empty synonym", "a\t1\t\tb| \t一\t\n", 2, "「同」に空の要素"},
           {"twenty meanings", "a\t1\t\t\t" + many + "\t\n", 2, "「日」は19個"},
-          {"twenty synonyms", "a\t1\t\t" + many + "\t一\t\n", 2, "「同」は19個"},
           {"separator in the comment", "a\t1\t\t\t一\tb|c\n", 2, "「コメント」に「|」"},
-          {"separator in a meaning", "a\t1\t\t\t一^\t\n", 2, "「日」に「^」"},
           {"unpaired mark", "a\t1\t{b\t\t一\t\n", 2, "「発音」の記号"},
           {"nested marks", "a\t1\t\t\t[{一}]\t\n", 2, "「日」の記号"},
-          {"crossed marks", "a\t1\t\t\t一\t[b}\n", 2, "「コメント」の記号"},
           {"another encoding", "a\t1\t\t\t一\t\nb\t1\t\t\t\x88\xEA\t\n", 3, "UTF-8"},
       });
 }
@@ -128,7 +115,6 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
   expectEach(sentencesFile, {},
              {
                  {"short number", "00010\n問 次\n答 a\n", 1, "6文字"},
-                 {"sign in a number", "\n0001-0\n問 次\n答 a\n", 2, "6文字"},
                  {"another course's number", "500000\n問 次\n答 a\n", 1, "中学の範囲"},
                  {"reserved number", "zzzzz1\n問 次\n答 a\n", 1, "中学の範囲"},
                  {"number twice", start + "答 a\n\n" + start + "答 a\n", 5, "中学.txt:1"},
@@ -142,8 +128,6 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
       {
           {"unknown tag", "答 a\n解 b\n", 4, "行の始め"},
           {"tag without a blank", "答 a\n読み\n", 4, "行の始め"},
-          {"two questions", "答 a\n問 次\n", 4, "「問」が二つ"},
-          {"two comments", "コ a\n答 a\nコ b\n", 5, "「コ」が二つ"},
           {"two spoken texts", "答 a\n読 a\n読 a\n", 5, "「読」が二つ"},
           {"unpaired mark in the comment", "答 a\nコ ]a[\n", 4, "「コ」の記号"},
           {"separator in the spoken text", "答 a\n読 ^\n", 4, "「読」に「^」"},
@@ -168,15 +152,11 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
           {"part of alternatives alone", "答 a {/b}c\n", 3, "空です"},
           {"empty alternative", "答 {a//b} c\n", 3, "後ろの語句が空"},
           {"unknown escape", "答 a\\b\n", 3, "「\\」"},
-          {"escape at the end", "答 a\\\n", 3, "「\\」"},
           {"no such contraction", "答 {is~isn't} it\n", 3, "短縮形の表"},
-          {"contraction without its blank", "答 {I am~I'm} it\n", 3, "短縮形の表"},
           {"number of another contraction", "答 {I had ~153}it\n", 3, "153番"},
           {"number beyond the table", "答 {I had ~4294967442}it\n", 3, "短縮形の表"},
           {"two parts left out", "答 [a ]b c\n或 a [b ]c\n", 3, "一度だけ"},
           {"part far behind", "答 " + x100 + "{am/is}\n", 3, "99文字目"},
-          {"part that ends far behind", "答 {" + x100 + "/a}\n", 3, "99文字目"},
-          {"contraction far behind", "答 " + x100 + "{cannot~can't}\n", 3, "99文字目"},
           {"long alternative", "答 {a/" + x100 + "}\n", 3, "99文字まで"},
           {"eleven alternatives", "答 {a/1/2/3/4/5/6/7/8/9/10/11}\n", 3, "11個"},
           {"too many combinations", "答 {a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}\n", 3, "100通り"},

@@ -151,25 +151,21 @@ TEST_F(ContentToolTest, ADumpLeavesOutWhatIsDamagedAndNamesIt) {
 
 TEST_F(ContentToolTest, TellsByItsExitStatus) {
   write("sentences-中学.txt", "000010\n問 次\n");
+  const QString content = path("content");
+  const QString delivered = QStringLiteral(TAVOLI_CONTENT_FOLDER);
   const struct {
     const char* name;
     QStringList arguments;
     int status;
     QString said;
   } cases[] = {
-      {"sound", {QStringLiteral("check"), QStringLiteral(TAVOLI_CONTENT_FOLDER)}, 0, QString()},
+      {"sound", {QStringLiteral("check"), delivered}, 0, QString()},
       {"mistakes",
-       {QStringLiteral("check"), path("content")},
+       {QStringLiteral("check"), content},
        1,
-       path("content/sentences-中学.txt") + QStringLiteral(":1: 「答」")},
-      {"no target",
-       {QStringLiteral("build"), path("content")},
-       2,
-       QStringLiteral("-o で書き込み先を")},
-      {"unknown option",
-       {QStringLiteral("check"), QStringLiteral("--all"), path("x")},
-       2,
-       QString()},
+       path("content/sentences-中学.txt:1: 「答」")},
+      {"no target", {QStringLiteral("build"), content}, 2, QStringLiteral("-o で書き込み先を")},
+      {"unknown option", {QStringLiteral("check"), QStringLiteral("--all")}, 2, QString()},
       {"nothing to dump",
        {QStringLiteral("dump"), path("x"), QStringLiteral("-o"), path("y")},
        1,
@@ -295,8 +291,7 @@ TEST_F(ContentToolTest, AnythingSoundComesBackFromADump) {
   EXPECT_EQ(messages(problems), QStringList());
   ASSERT_EQ(again.size(), tables.size());
   for (size_t t = 0; t < tables.size(); ++t) {
-    ASSERT_EQ(again[t].rows.size(), tables[t].rows.size());
-    for (size_t i = 0; i < tables[t].rows.size(); ++i)
+    for (size_t i = 0; i < std::min(tables[t].rows.size(), again[t].rows.size()); ++i)
       ASSERT_EQ(again[t].rows[i].record, tables[t].rows[i].record);
     EXPECT_EQ(again[t].rows, tables[t].rows);
   }
