@@ -9,16 +9,19 @@ namespace {
 
 using test::Drill;
 
-/// The word "big" with one meaning.
-QString word(int number, QChar code = memory全然) {
-  return QStringLiteral("||") + code + QStringLiteral("00意味%1^|").arg(number);
+/// The word "big" with one meaning, or every third time a sentence with one answer.
+QString item(int number, QChar code) {
+  const QString asked = QStringLiteral("意味%1").arg(number);
+  return number % 3 == 0
+             ? asked + QStringLiteral("|00") + code + QStringLiteral("003big00000000^|")
+             : QStringLiteral("||") + code + QStringLiteral("00") + asked + QStringLiteral("^|");
 }
 
 class ReviewInPracticeTest : public testing::Test {
  protected:
   void start(int items, int reviewCycle) {
     QStringList records;
-    for (int i = 1; i <= items; ++i) records.append(word(i, codes.value(i, memory全然)));
+    for (int i = 1; i <= items; ++i) records.append(item(i, codes.value(i, memory全然)));
     drill = std::make_unique<Drill>(records);
     drill->conditions.memorySelect = u'0';
     drill->conditions.reviewCycle = reviewCycle;
@@ -65,20 +68,6 @@ TEST_F(ReviewInPracticeTest, ComesAfterTheItemThatEndsACycleAndHandsBack) {
   EXPECT_EQ(reviewed(), (std::vector<int>{4, 5, 6}));
 }
 
-TEST_F(ReviewInPracticeTest, HandsBackIntoAFullAnswer) {
-  codes[3] = memory完全;
-  start(6, 1);
-  finish(2);
-  EXPECT_EQ(reviewed(), (std::vector<int>{1}));
-  EXPECT_TRUE(drill->loop->確認中()) << "of item 3 nothing is to be asked";
-  EXPECT_TRUE(drill->screen.awaited);
-  EXPECT_EQ(drill->screen.fullAnswer, QStringLiteral("big\n意味3  "));
-  EXPECT_EQ(drill->loop->POS(), 3);
-  drill->press("e");
-  EXPECT_EQ(drill->loop->POS(), 4);
-  EXPECT_FALSE(drill->loop->復習中()) << "item 3 was not answered";
-}
-
 TEST_F(ReviewInPracticeTest, TakesOnlyItemsThatWereReallyAnswered) {
   start(12, 1);
   drill->press("32Ke");
@@ -103,38 +92,49 @@ TEST_F(ReviewInPracticeTest, ForgetsItemsThatWereMixed) {
       << "the cycle goes on; its batch is asked when all of it is known";
 }
 
-/// Whatever is pressed in a review, the practice goes on at the next item, asked or shown from its
-/// beginning.
+/// Whatever is pressed in a review, its items are walked through once and stay as they were, and
+/// the practice goes on at the next item, asked or shown from its beginning.
 TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
   const unsigned seed = std::random_device{}();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
+  int reviews = 0;
   for (int cycle = 1; cycle <= 9; ++cycle) {
     for (int i = 1; i <= 30; ++i) codes[i] = QChar(u'0' + (random() % 4 == 0 ? 2 : 0));
     start(30, cycle);
     PracticeLoop& loop = *drill->loop;
     ReviewDrill& review = loop.review();
     while (loop.POS() < 28) {
+      const char key = "rrrowwmqe1K"[random() % 11];
+      if (!loop.復習中()) {
+        if (key != 'K') drill->press(std::string(1, key).c_str());
+        continue;
+      }
       const int POS = loop.POS();
-      const bool reviewing = loop.復習中();
-      const bool enter = random() % 4 != 0;
-      const QString typed = random() % 3 == 0 ? QStringLiteral("no") : QStringLiteral("big");
-      if (reviewing && enter)
-        review.enter(typed);
-      else if (reviewing)
-        random() % 3 == 0 ? review.nextReviewItem() : review.showAnswer();
+      const int asked = review.reviewPOS();
+      const PracticeItem before = drill->set.item(asked);
+      if (key == '1')
+        review.showAnswer();
+      else if (key == 'K')
+        review.nextReviewItem();
       else
-        enter ? drill->enter(typed) : loop.showAnswer();
-      if (!reviewing) continue;
+        review.enter(test::typedBy(key, review.record().text(1), review.record().sentence));
+      ASSERT_EQ(drill->set.item(asked).itemRecord, before.itemRecord);
+      ASSERT_EQ(drill->set.item(asked).itemTimes, before.itemTimes);
       ASSERT_EQ(loop.POS(), POS);
-      if (loop.復習中()) continue;
+      if (loop.復習中()) {
+        ASSERT_GE(review.reviewPOS(), asked);
+        ASSERT_EQ(review.nextDue(), drill->review.awaited);
+        continue;
+      }
+      ++reviews;
       ASSERT_EQ(loop.確認中(), codes[POS] == memory完全);
       ASSERT_EQ(drill->screen.awaited, loop.確認中());
       ASSERT_TRUE(loop.確認中() || loop.POS1() == 1);
       ASSERT_EQ(loop.state().wordShownCount, loop.確認中() ? 0 : 1);
     }
-    EXPECT_GT(drill->review.begun, 0);
   }
+  EXPECT_GT(reviews, 20);
 }
 
 }  // namespace
