@@ -51,6 +51,7 @@ TEST(ConditionsTest, KeepsEveryFieldAtItsPosition) {
         << "at " << field.position;
   EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
 
+  EXPECT_EQ(startKeyOf(c), QStringLiteral("120･彼は"));
   PracticeConditions read = decodeConditions(record, QStringLiteral("/default"));
   read.userId = c.userId;
   EXPECT_EQ(encodeConditions(read), record);

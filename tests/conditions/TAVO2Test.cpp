@@ -109,7 +109,9 @@ TEST_F(TAVO2Test, EveryControlReachesTheRecord) {
 
   click("Command2");
   click("Command3");
-  EXPECT_EQ(conditions.targetSentB + conditions.reviewCycle, 23) << "the standard values are back";
+  EXPECT_EQ(conditions.reviewCycle, 3) << "the standard values are back";
+  EXPECT_EQ(conditions.targetSentA + conditions.targetSentB, 20.5);
+  EXPECT_EQ(conditions.targetWordA + conditions.targetWordB, 10.5);
   EXPECT_EQ(control<QLineEdit>("Text13")->text(), QStringLiteral("0.5"));
 }
 
