@@ -20,6 +20,36 @@ TEST(SpriteWalk, WalksInStandsThroughItsClipAndBeginsAgain) {
   }
 }
 
+TEST(LoginLayout, FollowsTheClassOfTheScreen) {
+  constexpr QSize smallForm(800, 587);
+  const struct {
+    const char* name;
+    QSize screen;
+    std::optional<QSize> form;
+    int fontSize;
+    int spriteTop;
+    QPoint logo;
+    QPoint motto;
+  } cases[] = {
+      {"small", {640, 480}, smallForm, 10, 460, {200, 100}, {180, 520}},
+      {"last small", {800, 600}, smallForm, 10, 460, {200, 100}, {180, 520}},
+      {"low", {1280, 720}, std::nullopt, 12, 540, {329, 100}, {300, 530}},
+      {"centred", {1024, 768}, std::nullopt, 12, 540, {321, 100}, {292, 570}},
+      {"full HD", {1920, 1080}, std::nullopt, 12, 540, {315, 100}, {300, 570}},
+      {"tallest", {1920, 1400}, std::nullopt, 12, 540, {315, 100}, {300, 570}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const LoginLayout layout = loginLayout(c.screen);
+    EXPECT_EQ(layout.form, c.form);
+    EXPECT_EQ(layout.fontSize, c.fontSize);
+    EXPECT_EQ(layout.scale, 1);
+    EXPECT_EQ(layout.spriteTop, c.spriteTop);
+    EXPECT_EQ(layout.logo, c.logo);
+    EXPECT_EQ(layout.motto, c.motto);
+  }
+}
+
 TEST(LoginLayout, EnlargesEverythingOnAVeryLargeScreen) {
   const LoginLayout layout = loginLayout({3840, 2160});
   EXPECT_EQ(layout.scale, 2);
