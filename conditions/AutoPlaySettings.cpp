@@ -23,15 +23,9 @@ AutoPlaySettings readAutoPlaySettings(TableCursor& rsBDIC) {
 }
 
 bool saveAutoPlaySettings(TableCursor& rsBDIC, const AutoPlaySettings& settings) {
-  rsBDIC.Seek(SeekOp::Equal, rowAutoPlay);
-  if (rsBDIC.NoMatch()) {
-    rsBDIC.AddNew();
-    rsBDIC.setValue(field文番, rowAutoPlay);
-    rsBDIC.setValue(field回数, QStringLiteral("67"));
-    rsBDIC.setValue(field記憶, QStringLiteral("2"));
-  } else {
-    rsBDIC.Edit();
-  }
+  if (!rsBDIC.EditOrAddNew(rowAutoPlay,
+                           {{field回数, QStringLiteral("67")}, {field記憶, QStringLiteral("2")}}))
+    return false;
   rsBDIC.setValue(field問正コ, digits(settings.autoCount, 4) + digits(settings.autoKeyTime, 4) +
                                    digits(settings.autoEnterTime, 5) +
                                    digits(settings.timeUpSound, 1));

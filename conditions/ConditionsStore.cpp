@@ -27,14 +27,7 @@ CourseChoice readCourse(Database& database, const CourseChoice& before) {
 }
 
 bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course) {
-  rsBDIC.Seek(SeekOp::Equal, rowCourse);
-  if (rsBDIC.NoMatch()) {
-    rsBDIC.AddNew();
-    rsBDIC.setValue(field文番, rowCourse);
-    rsBDIC.setValue(field回数, QStringLiteral("00"));
-  } else {
-    rsBDIC.Edit();
-  }
+  if (!rsBDIC.EditOrAddNew(rowCourse, {{field回数, QStringLiteral("00")}})) return false;
   rsBDIC.setValue(field記憶, QString(course.COURSE));
   if (course.COURSE == course専門) rsBDIC.setValue(field問正コ, trimBlanks(course.specialTable));
   return rsBDIC.Update();
@@ -62,13 +55,7 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
 }
 
 bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions) {
-  rsTDIC.Seek(SeekOp::Equal, rowConditions);
-  if (rsTDIC.NoMatch()) {
-    rsTDIC.AddNew();
-    rsTDIC.setValue(field英語, rowConditions);
-  } else {
-    rsTDIC.Edit();
-  }
+  if (!rsTDIC.EditOrAddNew(rowConditions)) return false;
   rsTDIC.setValue(field発同日コ, encodeConditions(conditions));
   return rsTDIC.Update();
 }

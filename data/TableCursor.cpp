@@ -199,6 +199,20 @@ void TableCursor::Edit() {
   m_changes.clear();
 }
 
+bool TableCursor::EditOrAddNew(const QString& key,
+                               const QList<std::pair<QString, QString>>& ifNew) {
+  Seek(SeekOp::Equal, key);
+  if (m_failed) return false;
+  if (!m_noMatch) {
+    Edit();
+    return true;
+  }
+  AddNew();
+  setValue(m_keyField, key);
+  for (const auto& [field, value] : ifNew) setValue(field, value);
+  return true;
+}
+
 void TableCursor::setValue(const QString& field, const Field& value) {
   const qsizetype known = m_changedFields.indexOf(field);
   if (known >= 0) {

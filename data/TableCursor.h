@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <array>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace SQLite {
@@ -56,6 +58,9 @@ class TableCursor {
   void AddNew();
   /// Begins a change of the current row; Update stores it.
   void Edit();
+  /// Begins a change of the row with that key, or, where there is none, a new row with the key and
+  /// the fields `ifNew`. False when the table could not be read; nothing is begun then.
+  bool EditOrAddNew(const QString& key, const QList<std::pair<QString, QString>>& ifNew = {});
   void setValue(const QString& field, const Field& value);
   /// Stores what AddNew or Edit began. False when it could not be stored.
   bool Update();

@@ -40,16 +40,9 @@ void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Cloc
 }
 
 bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord) {
-  rsBDIC.Seek(SeekOp::Equal, rowProgress);
-  if (rsBDIC.failed()) return false;
-  if (rsBDIC.NoMatch()) {
-    rsBDIC.AddNew();
-    rsBDIC.setValue(field文番, rowProgress);
-    rsBDIC.setValue(field記憶, QStringLiteral("0"));
-    rsBDIC.setValue(field回数, QStringLiteral("00"));
-  } else {
-    rsBDIC.Edit();
-  }
+  if (!rsBDIC.EditOrAddNew(rowProgress,
+                           {{field記憶, QStringLiteral("0")}, {field回数, QStringLiteral("00")}}))
+    return false;
   rsBDIC.setValue(field問正コ, progressRecord);
   return rsBDIC.Update();
 }
