@@ -29,15 +29,16 @@ void MemorySurvey::surveySentences() {
   });
 }
 
-void MemorySurvey::surveySpecial(const QString& table) {
-  m_specialTable = trimBlanks(table);
+void MemorySurvey::surveySpecial() {
   std::optional<Database> database;
   int dbOpenError = 0;
   openDatabase(m_dbFileWork, database, dbOpenError);
-  const bool found =
-      database && isSpecialTable(m_specialTable) && database->TableDefs().contains(m_specialTable);
+  const QStringList tables = database ? specialTables(*database) : QStringList();
   database.reset();
-  if (!found) {
+  const std::optional<QString> chosen = m_screen.chooseSpecialTable(tables);
+  if (!chosen) return;
+  m_specialTable = trimBlanks(*chosen);
+  if (!tables.contains(m_specialTable)) {
     m_dialogs.show(QStringLiteral("専門単熟DB %1 が見つかりません。"
                                   "「中学／高校／専門の選択」で指定し直してください。")
                        .arg(m_specialTable));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -21,6 +21,8 @@ class SurveyScreen {
   virtual void DispAchieve() = 0;
   /// Brings the page with the tables over all courses to the front.
   virtual void showTables() = 0;
+  /// Lets the learner choose one of the specialist dictionaries; nothing when none is wanted.
+  virtual std::optional<QString> chooseSpecialTable(const QStringList& tables) = 0;
 };
 
 /// Counts the tables of the learner's database anew on request. The figures are stored with the
@@ -35,8 +37,9 @@ class MemorySurvey {
   void surveyWords(Level level);
   /// The same for the sentences of all levels.
   void surveySentences();
-  /// The same for a specialist dictionary; tells when there is none of that name.
-  void surveySpecial(const QString& table);
+  /// The same for a specialist dictionary that is chosen first; tells when there is none of that
+  /// name.
+  void surveySpecial();
 
  private:
   /// Asks, and on Yes counts with `count`; when that fails the figures stay what they were.

@@ -11,13 +11,11 @@
 
 #include <utility>
 
-#include "data/Database.h"
+#include "progress/ReportPrinting.h"
 #include "progress/screens/PrintedReport.h"
 #include "progress/screens/ProgressLayout.h"
 #include "system/Clock.h"
-#include "system/Dialogs.h"
 #include "system/PageSurface.h"
-#include "system/Paper.h"
 #include "system/screens/ChoiceDialog.h"
 
 namespace tavoli {
@@ -112,7 +110,7 @@ void TAVOstate::makeMenus() {
       ->setObjectName(QStringLiteral("menu11"));
   survey->addAction(QStringLiteral("高校単熟"), this, [this] { m_survey.surveyWords(高校); })
       ->setObjectName(QStringLiteral("menu12"));
-  survey->addAction(QStringLiteral("専門単熟"), this, &TAVOstate::chooseSpecialist)
+  survey->addAction(QStringLiteral("専門単熟"), this, [this] { m_survey.surveySpecial(); })
       ->setObjectName(QStringLiteral("menu13"));
   survey->addAction(QStringLiteral("文"), this, [this] { m_survey.surveySentences(); })
       ->setObjectName(QStringLiteral("menu14"));
@@ -147,39 +145,22 @@ void TAVOstate::setBusy(bool busy) {
   if (!busy) m_command1->setFocus();
 }
 
-void TAVOstate::chooseSpecialist() {
-  std::optional<Database> database;
-  int dbOpenError = 0;
-  openDatabase(m_sources.dbFileWork, database, dbOpenError);
-  const QStringList entries = database ? specialTables(*database) : QStringList();
-  database.reset();
-  ChoiceDialog tavo9(
-      {QStringLiteral("専門ＤＢの指定"), QStringLiteral("専門ＤＢを選択して下さい。"), entries,
-       m_sources.specialTable},
-      this);
+std::optional<QString> TAVOstate::chooseSpecialTable(const QStringList& tables) {
+  ChoiceDialog tavo9({QStringLiteral("専門ＤＢの指定"),
+                      QStringLiteral("専門ＤＢを選択して下さい。"), tables, m_sources.specialTable},
+                     this);
   tavo9.setObjectName(QStringLiteral("TAVO9"));
-  if (tavo9.exec() == QDialog::Accepted) m_survey.surveySpecial(tavo9.chosen());
+  if (tavo9.exec() != QDialog::Accepted) return std::nullopt;
+  return tavo9.chosen();
 }
 
 void TAVOstate::printReport() {
   const bool with専門 = m_tabs->currentIndex() == static_cast<int>(専門);
-  const QString title = windowTitle();
   const auto draw = [&](PageSurface& page) {
     drawReport(page, m_report,
                {m_sources.userId, m_sources.specialTable, m_sources.clock.now(), with専門});
   };
-  if (m_sources.paper.hasPrinter()) {
-    if (m_sources.paper.print(title, draw)) return;
-    m_sources.dialogs.show(
-        QStringLiteral("プリンタで印刷できませんでした。代わりにPDFファイルに保存できます。"));
-  }
-  const QString path = choosePdf();
-  if (path.isEmpty()) return;
-  m_sources.dialogs.show(
-      (m_sources.paper.writePdf(path, title, draw)
-           ? QStringLiteral("%1 に保存しました。")
-           : QStringLiteral("%1 に保存できませんでした。別の場所を選んで下さい。"))
-          .arg(path));
+  printOrSave(m_sources.paper, m_sources.dialogs, windowTitle(), draw, choosePdf);
 }
 
 void TAVOstate::showEvent(QShowEvent* event) {

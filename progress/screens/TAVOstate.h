@@ -49,12 +49,12 @@ class TAVOstate final : public QMainWindow, private SurveyScreen {
   void setBusy(bool busy) override;
   void DispAchieve() override;
   void showTables() override;
+  std::optional<QString> chooseSpecialTable(const QStringList& tables) override;
 
   void makeMenus();
   QPushButton* makeButton(const QString& name, const QString& caption);
   /// Draws the page in front, if its figures have changed since.
   void drawPage();
-  void chooseSpecialist();
   void printReport();
 
   ProgressSources m_sources;
