@@ -34,10 +34,14 @@ Terminal::Terminal() : m_in(stdin), m_out(stdout) {
 void Terminal::show(const QString& area, const QString& text) {
   if (m_shown.value(area) == text) return;
   m_shown[area] = text;
-  if (text.isEmpty()) return;
+  print(area, text);
+}
+
+void Terminal::print(const QString& area, const QString& text) {
   QString lines = text.endsWith(u'\n') ? text.chopped(1) : text;
   lines.replace(u'\n', QStringLiteral("\n    "));
-  m_out << u'[' << area << QStringLiteral("] ") << lines << Qt::endl;
+  if (!lines.isEmpty()) lines.prepend(u' ');
+  m_out << u'[' << area << u']' << lines << Qt::endl;
 }
 
 std::optional<QString> Terminal::readLine() {
@@ -51,8 +55,7 @@ void TerminalDialogs::show(const QString& text) {
   m_terminal.show(areaBox, text + QStringLiteral("（空の行でOK）"));
   while (const std::optional<QString> line = m_terminal.readLine()) {
     if (line->isEmpty() || *line == u":ok") break;
-    m_terminal.show(areaBox, QStringLiteral("先に空の行を入れてください。"));
-    m_terminal.show(areaBox, QString());
+    m_terminal.print(areaBox, QStringLiteral("先に空の行を入れてください。"));
   }
   m_terminal.show(areaBox, QString());
 }
@@ -63,8 +66,7 @@ bool TerminalDialogs::ask(const QString& text) {
   while (const std::optional<QString> line = m_terminal.readLine()) {
     yes = *line == u":yes";
     if (yes || *line == u":no") break;
-    m_terminal.show(areaBox, QStringLiteral("先に :yes か :no を入れてください。"));
-    m_terminal.show(areaBox, QString());
+    m_terminal.print(areaBox, QStringLiteral("先に :yes か :no を入れてください。"));
   }
   m_terminal.show(areaBox, QString());
   return yes;

@@ -21,8 +21,10 @@ class Terminal {
  public:
   Terminal();
   /// Prints an area's text, its name in front and further lines indented, unless it shows the text
-  /// already. An area that becomes empty prints nothing.
+  /// already. An area that becomes empty prints its name alone.
   void show(const QString& area, const QString& text);
+  /// Prints a text in an area that goes on showing what it shows.
+  void print(const QString& area, const QString& text);
   /// The next line; nothing at the end of the input.
   std::optional<QString> readLine();
 

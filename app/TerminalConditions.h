@@ -36,9 +36,6 @@ class TerminalConditions final : public ConditionsScreen {
   void setBusy(bool) override {}
 
  private:
-  /// Prints an area even where it shows the text already.
-  void print(const QString& area, const QString& text);
-
   Terminal& m_terminal;
   PastRun m_past;
 };

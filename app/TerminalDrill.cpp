@@ -82,15 +82,13 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
   }
   for (;;) {
     const QString before = screen.userId;
-    m_terminal.show(QStringLiteral("入力"), QStringLiteral("ユーザーID："));
-    m_terminal.show(QStringLiteral("入力"), QString());
+    m_terminal.print(QStringLiteral("入力"), QStringLiteral("ユーザーID："));
     const std::optional<QString> id = m_terminal.readLine();
     if (!id) return false;
     screen.userId = id->isEmpty() ? before : *id;
     QString password = m_options.password;
     if (!screen.userId.isEmpty()) {
-      m_terminal.show(QStringLiteral("入力"), QStringLiteral("パスワード："));
-      m_terminal.show(QStringLiteral("入力"), QString());
+      m_terminal.print(QStringLiteral("入力"), QStringLiteral("パスワード："));
       const std::optional<QString> typed = m_terminal.readLine();
       if (!typed) return false;
       password = *typed;
