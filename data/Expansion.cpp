@@ -13,8 +13,15 @@ struct Growing {
   Variant variant;
   /// How much longer the text is than the answer, all of it left of `lastEnd`.
   int difference = 0;
-  /// Last position of the answer that a substitution has taken.
+  /// First and last position of the answer that the last substitution has taken.
+  int lastStart = 0;
   int lastEnd = 0;
+
+  /// Whether a substitution lies behind all that this form has taken. Of several insertions at one
+  /// place only one can be there.
+  bool endsBefore(const Substitution& s) const {
+    return lastEnd < s.start && (lastStart < s.start || s.end >= s.start);
+  }
 };
 
 Growing apply(const Growing& base, const Substitution& s) {
@@ -24,6 +31,7 @@ Growing apply(const Growing& base, const Substitution& s) {
                        cutFrom(text, base.difference + s.end + 1);
   grown.variant.literal = base.variant.literal || s.kind == Substitution::Kind::Literal;
   grown.difference = base.difference + static_cast<int>(s.text.size()) - (s.end - s.start + 1);
+  grown.lastStart = s.start;
   grown.lastEnd = s.end;
   return grown;
 }
@@ -62,21 +70,22 @@ std::vector<Variant> ExpandAnswers(const SubQuestion& answer) {
   substitutions.erase(stop, substitutions.end());
   if (substitutions.size() > maxExpandedSubstitutions)
     substitutions.resize(maxExpandedSubstitutions, substitutions.front());
-  std::erase_if(substitutions,
-                [&](const Substitution& s) { return s.end < s.start || s.end > answer.正.size(); });
 
-  const Growing plain{{answer.正, false}, 0, 0};
+  const Growing plain{{answer.正, false}, 0, 0, 0};
   std::vector<Growing> grown;
   grown.reserve(maxVariants);
   for (const Substitution& s : substitutions) grown.push_back(apply(plain, s));
 
-  // From left to right, each substitution also joins every form that ends before it begins.
-  std::stable_sort(substitutions.begin(), substitutions.end(),
-                   [](const Substitution& a, const Substitution& b) { return a.start < b.start; });
+  // From left to right, each substitution also joins every form that ends before it begins. An
+  // insertion comes before what takes the place of the text behind it.
+  const auto place = [](const Substitution& s) { return std::pair(s.start, s.end >= s.start); };
+  std::stable_sort(
+      substitutions.begin(), substitutions.end(),
+      [&](const Substitution& a, const Substitution& b) { return place(a) < place(b); });
   for (const Substitution& s : substitutions) {
     const size_t existing = grown.size();
     for (size_t m = 0; m < existing; ++m) {
-      if (grown[m].lastEnd >= s.start) continue;
+      if (!grown[m].endsBefore(s)) continue;
       if (grown.size() == maxVariants) return {};
       grown.push_back(apply(grown[m], s));
     }

@@ -16,7 +16,8 @@ struct Variant {
   bool literal = false;
 };
 
-/// A stretch of an answer, positions from 1 and both included, with what may take its place.
+/// A stretch of an answer, positions from 1 and both included, with what may take its place. One
+/// that ends before it starts takes nothing: its text is put in before `start`.
 struct Substitution {
   enum class Kind { Omission, Coded, Literal };
   Kind kind;

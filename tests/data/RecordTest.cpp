@@ -119,14 +119,18 @@ QStringList allCombinations(const QString& answer, const std::vector<Substitutio
     std::vector<Substitution> chosen;
     for (size_t i = 0; i < all.size(); ++i)
       if (choice >> i & 1U) chosen.push_back(all[i]);
-    std::sort(chosen.begin(), chosen.end(), [](auto& a, auto& b) { return a.start > b.start; });
+    const auto inserts = [](const Substitution& s) { return s.end < s.start; };
+    std::sort(chosen.begin(), chosen.end(), [&](auto& a, auto& b) {
+      return std::pair(a.start, !inserts(a)) > std::pair(b.start, !inserts(b));
+    });
     QString text = answer;
-    int limit = static_cast<int>(answer.size()) + 1;
+    const Substitution* behind = nullptr;
     bool apart = true;
     for (const Substitution& s : chosen) {
-      apart = apart && s.end < limit;
+      apart = apart && (!behind ||
+                        (s.end < behind->start && (s.start < behind->start || !inserts(*behind))));
       if (apart) text.replace(s.start - 1, s.end - s.start + 1, s.text);
-      limit = s.start;
+      behind = &s;
     }
     if (apart) texts.append(text);
   }
@@ -152,9 +156,10 @@ TEST(ExpansionTest, HoldsEveryCombinationThatDoesNotOverlap) {
     }
     tail += digits(1 + upTo(18), 2) + digits(1 + upTo(6), 2) + digits(1 + upTo(182), 3);
     for (int i = 0; i < literals; ++i) {
-      const int start = 1 + upTo(20);
+      // From an insertion, which takes nothing, to an end behind the answer's.
+      const int start = 1 + upTo(23);
       const int length = upTo(4);
-      tail += digits(start, 2) + digits(start + upTo(4), 2) + digits(length, 2) +
+      tail += digits(start, 2) + digits(start - 1 + upTo(5), 2) + digits(length, 2) +
               QString(length, QChar(u'A' + i));
     }
     answer.同 = tail;
