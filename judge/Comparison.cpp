@@ -173,7 +173,7 @@ QString NormaliseAnswer(const QString& text, const ComparisonSettings& settings)
 }
 
 QString CleanTypedAnswer(const QString& typed) {
-  QString clean = typed;
+  QString clean = storedSpelling(typed);
   clean = trimBlanks(clean.replace(u'\u3000', u' '));
   for (qsizetype i = 0; i + 1 < clean.size();) {
     if (clean[i] == u' ' && (clean[i + 1] == u',' || clean[i + 1] == u' '))

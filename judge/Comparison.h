@@ -61,8 +61,8 @@ Comparison COMP(const CurrentRecord& record, int k, const QString& typed,
 /// The text without blanks, and without hyphens where the settings ignore them.
 QString NormaliseAnswer(const QString& text, const ComparisonSettings& settings);
 
-/// The typed text tidied: full-width blanks made plain ones, outer blanks off, no doubled blank, no
-/// blank before a comma.
+/// The typed text tidied: the wave dash and the minus sign as the stored texts spell them,
+/// full-width blanks made plain ones, outer blanks off, no doubled blank, no blank before a comma.
 QString CleanTypedAnswer(const QString& typed);
 
 /// Widens the stretch of a verdict Wrong that is a single blank by the characters on both sides, so

@@ -165,6 +165,7 @@ TEST(ComparisonTest, TidiesWhatWasTyped) {
   EXPECT_EQ(CleanTypedAnswer(QStringLiteral("  Yes ,  I   am　. ")), QStringLiteral("Yes, I am ."));
   EXPECT_EQ(CleanTypedAnswer(QStringLiteral(" 　 ")), QString());
   EXPECT_EQ(CleanTypedAnswer(QStringLiteral("a  ,b")), QStringLiteral("a,b"));
+  EXPECT_EQ(CleanTypedAnswer(QStringLiteral("〜 −")), QStringLiteral("～ －"));
 }
 
 TEST(ComparisonTest, ChoicesAndStoredSettingsAreTheSame) {
