@@ -19,6 +19,7 @@ std::vector<int> ReviewRing::reviewCheck(int reviewSlot) {
 }
 
 void ReviewRing::clear() {
+  m_reviewCount = 0;
   std::fill(m_reviewList.begin(), m_reviewList.end(), 0);
 }
 
