@@ -21,10 +21,11 @@ constexpr int badArguments = 2;
 using KeyTable = QList<std::tuple<QString, QString, std::function<void(PracticeLoop&)>>>;
 
 /// Presses one of the keys, or looks a word up; tells what can be pressed when it is neither, with
-/// `others` that are known elsewhere.
+/// `others` that are known elsewhere. `keyPressed` is what a function key does before its own work.
 template <class Screen>
 void pressOneOf(const KeyTable& keys, const QStringList& others, Terminal& terminal,
-                PracticeLoop& loop, Screen& screen, const QString& key) {
+                PracticeLoop& loop, Screen& screen, const QString& key,
+                const std::function<void()>& keyPressed) {
   const QString look = QStringLiteral(":look ");
   if (key.startsWith(look)) {
     screen.lookUp(key.sliced(look.size()));
@@ -33,6 +34,7 @@ void pressOneOf(const KeyTable& keys, const QStringList& others, Terminal& termi
   QStringList help = QStringList{QStringLiteral(":look 語 辞書を引く")} + others;
   for (const auto& [name, caption, action] : keys) {
     if (name == key) {
+      if (name.startsWith(u":F")) keyPressed();
       action(loop);
       return;
     }
@@ -200,7 +202,9 @@ void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen
        [](PracticeLoop& l) { l.chooseTimeUpSound(2); }},
       {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
   };
-  pressOneOf(keys, {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen, key);
+  pressOneOf(keys, {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen, key, [&] {
+    if (!loop.確認中()) loop.keyPressed();
+  });
 }
 
 void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key) {
@@ -213,7 +217,7 @@ void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, co
        [](PracticeLoop& l) { l.review().nextReviewItem(); }},
       {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
   };
-  pressOneOf(keys, {}, m_terminal, loop, screen, key);
+  pressOneOf(keys, {}, m_terminal, loop, screen, key, [&] { loop.review().keyPressed(); });
 }
 
 }  // namespace tavoli

@@ -15,12 +15,10 @@ AnswerBox::AnswerBox(QWidget* parent) : EnglishBox(parent) {
 }
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {
-  if (event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35) {
-    event->ignore();
-    return;
-  }
   Q_EMIT keyArrived();
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+  if (event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35)
+    event->ignore();
+  else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
     Q_EMIT entered();
   else
     EnglishBox::keyPressEvent(event);
