@@ -99,8 +99,8 @@ void TerminalAnswers<Screen>::showFullAnswer(const MarkedText& text) {
 }
 
 template <class Screen>
-void TerminalAnswers<Screen>::showMessage(const QString& text) {
-  m_terminal.show(areaMessage, text);
+void TerminalAnswers<Screen>::showMessage(const MarkedText& text) {
+  m_terminal.show(areaMessage, withMarks(text));
 }
 
 template <class Screen>

@@ -73,7 +73,7 @@ class TerminalAnswers : public Screen {
   void setAnswer(const QString& text) override;
   void focusAnswer() override {}
   void showFullAnswer(const MarkedText& text) override;
-  void showMessage(const QString& text) override;
+  void showMessage(const MarkedText& text) override;
   void lookUp(const QString& text) override;
   void showTime(const AnswerTime& time) override;
   void awaitConfirmation(bool awaited) override;

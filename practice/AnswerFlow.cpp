@@ -1,11 +1,15 @@
 #include "practice/AnswerFlow.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "practice/DamageGuard.h"
 #include "practice/PracticeScreen.h"
 #include "practice/QuestionText.h"
 #include "practice/VerdictText.h"
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -15,8 +19,9 @@ constexpr int maxTimes = 99;
 
 }  // namespace
 
-AnswerFlow::AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs)
-    : m_state(state), m_screen(screen), m_dialogs(dialogs) {}
+AnswerFlow::AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs,
+                       DamageGuard& damage)
+    : m_state(state), m_screen(screen), m_dialogs(dialogs), m_damage(damage) {}
 
 AnswerFlow::After AnswerFlow::enter(const QString& typed) {
   const bool miniTest = m_state.inMiniTest();
@@ -35,9 +40,9 @@ AnswerFlow::After AnswerFlow::enter(const QString& typed) {
   switch (transition.next) {
     case NextStep::NextSubQuestion:
       if (miniTest) guardMemoryCode();
-      return moveOn(transition);
+      return moveOn(transition, comparison.ANScomp);
     case NextStep::Repeat:
-      return repeat(transition);
+      return repeat(transition, comparison.ANScomp);
     case NextStep::SameSubQuestion:
       break;
   }
@@ -59,26 +64,33 @@ MemoryTransition AnswerFlow::judged(const Comparison& comparison) {
   return memoryTransition(entry);
 }
 
-AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition) {
+void AnswerFlow::remember(QChar code, const QString& message, const QString& otherwise) {
+  const bool changes = std::exchange(m_state.小問().記, code) != code;
+  const bool stored = m_state.RewriteRecord();
+  const QString told = stored || !changes ? message : otherwise + m_damage.memoryUnchanged();
+  // A meaning may hold display marks; an answer is plain text.
+  m_screen.showMessage(m_state.record.sentence ? plainText(told) : parseMarks(told));
+}
+
+AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition, Verdict verdict) {
   SubQuestion& s = m_state.小問();
   const bool learnt = s.記 == memory全然;
-  s.記 = transition.state;
-  if (m_state.record.sentence) {
-    m_state.repeatsLeft = m_state.conditions.firstRepeatSent;
-  } else {
+  if (!m_state.record.sentence) {
     s.小問回数 = std::min(maxTimes, s.小問回数 + 1);
     if (learnt) m_state.repeatsLeft = 1;
+  } else if (learnt || (verdict == Verdict::Variant && m_state.tryCount <= 1)) {
+    // Of the right entries of a mini test, a variant alone sets the repeats anew.
+    m_state.repeatsLeft = m_state.conditions.firstRepeatSent;
   }
-  m_state.RewriteRecord();
-  m_screen.showMessage(transition.message);
+  remember(transition.state, transition.message, praise(verdict));
   ++m_state.POS1;
   return After::Advance;
 }
 
-AnswerFlow::After AnswerFlow::repeat(const MemoryTransition& transition) {
+AnswerFlow::After AnswerFlow::repeat(const MemoryTransition& transition, Verdict verdict) {
   --m_state.repeatsLeft;
-  if (m_state.repeatsLeft <= 0) return moveOn(transition);
-  m_screen.showMessage(repeatsText(m_state.repeatsLeft));
+  if (m_state.repeatsLeft <= 0) return moveOn(transition, verdict);
+  m_screen.showMessage(plainText(repeatsText(m_state.repeatsLeft)));
   askAgain();
   return After::Stay;
 }
@@ -109,9 +121,7 @@ void AnswerFlow::refuse(const Comparison& comparison, const MemoryTransition& tr
   if (!miniTest && !m_state.record.sentence) m_screen.lookUp(comparison.typedAnswer);
   askAgain();
   if (transition.state == m_state.小問().記) return;
-  m_state.小問().記 = transition.state;
-  m_state.RewriteRecord();
-  m_screen.showMessage(transition.message);
+  remember(transition.state, transition.message, QString());
   m_screen.enableKey(FunctionKey::F1, true);
 }
 
@@ -130,20 +140,14 @@ void AnswerFlow::guardMemoryCode() const {
 }
 
 AnswerFlow::After AnswerFlow::KnownKey(bool byButton) {
-  SubQuestion& s = m_state.小問();
   const QString text = m_state.record.text(m_state.POS1);
-  const QChar known = knownTransition(s.記);
-  if (known != s.記) {
-    s.記 = known;
-    m_state.RewriteRecord();
-    m_screen.showMessage(m_state.record.sentence
-                             ? QStringLiteral("『うろ覚え』にしました。")
-                             : QStringLiteral("『うろ覚え』にしました。『 %1 』").arg(text));
-  } else {
-    m_screen.showMessage(
-        (byButton ? QStringLiteral("「 %1」") : QStringLiteral("『 %1』")).arg(text) +
-        QStringLiteral("：記憶状態の変化なし。"));
-  }
+  const QChar before = m_state.小問().記;
+  const QChar known = knownTransition(before);
+  const QString kept = (byButton ? u"「 "_s + text + u"」"_s : u"『 "_s + text + u"』"_s) +
+                       u"：記憶状態の変化なし。"_s;
+  const QString changed = u"『うろ覚え』にしました。"_s +
+                          (m_state.record.sentence ? QString() : u"『 "_s + text + u" 』"_s);
+  remember(known, known == before ? kept : changed, QString());
   m_screen.showMiniTest(MarkedText());
   ++m_state.POS1;
   return After::Advance;

@@ -7,6 +7,7 @@
 
 namespace tavoli {
 
+class DamageGuard;
 class Dialogs;
 class PracticeScreen;
 
@@ -14,7 +15,7 @@ class PracticeScreen;
 /// test of the others.
 class AnswerFlow {
  public:
-  AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs);
+  AnswerFlow(RunState& state, PracticeScreen& screen, Dialogs& dialogs, DamageGuard& damage);
 
   /// What the loop has to do after a key.
   enum class After {
@@ -32,9 +33,12 @@ class AnswerFlow {
   void ShowMiniTestNotice();
 
  private:
+  /// Gives the present 小問 a memory code, stores the record, and tells the learner so; what is
+  /// told of a damaged record instead is `otherwise` and that its memory stays.
+  void remember(QChar code, const QString& message, const QString& otherwise);
   MemoryTransition judged(const Comparison& comparison);
-  After moveOn(const MemoryTransition& transition);
-  After repeat(const MemoryTransition& transition);
+  After moveOn(const MemoryTransition& transition, Verdict verdict);
+  After repeat(const MemoryTransition& transition, Verdict verdict);
   void refuse(const Comparison& comparison, const MemoryTransition& transition);
   /// Puts the given start back into the answer box of a sentence, empties that of a word.
   void askAgain();
@@ -43,6 +47,7 @@ class AnswerFlow {
   RunState& m_state;
   PracticeScreen& m_screen;
   Dialogs& m_dialogs;
+  DamageGuard& m_damage;
 };
 
 }  // namespace tavoli

@@ -23,7 +23,7 @@ class AnswerScreen {
   virtual void focusAnswer() = 0;
   /// The full answer, or what a wrong answer is told.
   virtual void showFullAnswer(const MarkedText& text) = 0;
-  virtual void showMessage(const QString& text) = 0;
+  virtual void showMessage(const MarkedText& text) = 0;
   /// Puts a text into the look-up boxes.
   virtual void lookUp(const QString& text) = 0;
   virtual void showTime(const AnswerTime& time) = 0;

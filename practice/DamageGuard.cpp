@@ -4,9 +4,16 @@
 
 namespace tavoli {
 
-bool DamageGuard::isNews() {
+namespace {
+
+const QString kindShown = QStringLiteral("shown");
+const QString kindStored = QStringLiteral("stored");
+
+}  // namespace
+
+bool DamageGuard::isNews(const QString& kind) {
   const PracticeItem& item = m_state.set.item(m_state.POS);
-  const QString key = item.itemTable + item.itemEnglish;
+  const QString key = kind + item.itemTable + item.itemEnglish;
   if (m_told.contains(key)) return false;
   m_told.insert(key);
   return true;
@@ -14,16 +21,22 @@ bool DamageGuard::isNews() {
 
 MarkedText DamageGuard::marked(const QString& text) {
   MarkedText result = parseMarks(text);
-  if (result.unpaired && isNews()) m_dialogs.show(QStringLiteral("下線高輝度エラー：dispComment"));
+  if (result.unpaired && isNews(kindShown))
+    m_dialogs.show(QStringLiteral("下線高輝度エラー：dispComment"));
   return result;
 }
 
 void DamageGuard::guardEmptyRecord(bool FK前問題) {
-  if (m_state.record.小問数 > 0 || !isNews()) return;
+  if (m_state.record.小問数 > 0 || !isNews(kindShown)) return;
   const QString guard = !m_state.record.sentence ? QStringLiteral("Stop32")
                         : FK前問題               ? QStringLiteral("Stop321")
                                                  : QStringLiteral("Stop31");
   m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.set.item(m_state.POS).itemEnglish);
+}
+
+QString DamageGuard::memoryUnchanged() {
+  if (!isNews(kindStored)) return {};
+  return QStringLiteral("この項目のデータに誤りがあるため、記憶状態は変更しません。");
 }
 
 }  // namespace tavoli

@@ -19,14 +19,17 @@ class DamageGuard {
   MarkedText marked(const QString& text);
   /// Tells when the present record has no 小問. `FK前問題` says that F4 led to it.
   void guardEmptyRecord(bool FK前問題);
+  /// That the present item's memory cannot change, since its record cannot be written again.
+  /// Empty where that was said before.
+  QString memoryUnchanged();
 
  private:
-  /// Whether damage of the present item is to be told: the first time only.
-  bool isNews();
+  /// Whether a kind of damage of the present item is to be told: the first time only.
+  bool isNews(const QString& kind);
 
   const RunState& m_state;
   Dialogs& m_dialogs;
-  QSet<QString> m_told;  ///< tables and keys of the items
+  QSet<QString> m_told;  ///< kinds with tables and keys of the items
 };
 
 }  // namespace tavoli

@@ -29,16 +29,16 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
     : m_state{set, course, conditions,
               comparisonSettings(conditions.compareMode, conditions.compareFlag)},
       m_screen(services.screen),
-      m_dialogs(services.dialogs),
+      m_restTime(times, services.clock, services.screen),
+      m_dialogs(services.dialogs, m_restTime),
       m_random(services.random),
       m_speaker(services.speaker),
-      m_flow(m_state, services.screen, services.dialogs),
+      m_damage(m_state, m_dialogs),
+      m_flow(m_state, services.screen, m_dialogs, m_damage),
       m_answerClock(services.clock, services.screen, services.speaker),
-      m_restTime(times, services.clock, services.screen),
       m_report(services.progress),
-      m_damage(m_state, services.dialogs),
       m_reviewRing(conditions.reviewCycle),
-      m_review(m_state, {services.reviewScreen, services.dialogs, services.clock, services.speaker,
+      m_review(m_state, {services.reviewScreen, m_dialogs, services.clock, services.speaker,
                          m_restTime, [this] { advance(); }, [this] { exitAtOnce(); }}) {}
 
 void PracticeLoop::start(int timeUpSound) {
@@ -102,8 +102,11 @@ void PracticeLoop::advance() {
     // Left by F2 at its last 小問: neither shown nor counted.
     nextQuestion();
   } else {
-    // An item of which nothing was asked is only shown.
-    if (m_state.wordShownCount > 0) 回数カウント();
+    // An item of which nothing was asked is only shown, and what the last one left goes away.
+    if (m_state.wordShownCount > 0)
+      回数カウント();
+    else
+      emptyQuestion();
     m_damage.guardEmptyRecord(m_FK前問題);
     dispAnswerFull();
   }
@@ -207,13 +210,19 @@ void PracticeLoop::leaveFullAnswer() {
     m_review.startReview(due);
 }
 
+void PracticeLoop::emptyQuestion() {
+  m_screen.showSource(QString());
+  m_screen.showQuestion(MarkedText());
+  m_screen.showStatus(StatusPanel::Times, QString());
+}
+
 void PracticeLoop::emptyAreas() {
   m_screen.showFullAnswer(MarkedText());
-  m_screen.showMessage(QString());
+  m_screen.showMessage(MarkedText());
 }
 
 void PracticeLoop::keyPressed() {
-  m_screen.showMessage(QString());
+  m_screen.showMessage(MarkedText());
   ++m_state.speechKeyCount;
   const int stopAt = m_state.inMiniTest() ? 1 : 2;
   if (m_state.speechKeyCount == stopAt) m_speaker.stop();
@@ -238,7 +247,7 @@ void PracticeLoop::answerBoxClicked(const QString& typed) {
     return;
   }
   if (!m_state.record.sentence || typed != answerStart(m_state.record, m_state.POS1)) return;
-  m_screen.showMessage(QString());
+  m_screen.showMessage(MarkedText());
   if (!m_state.inMiniTest()) m_answerClock.resume(targetSeconds());
 }
 
@@ -283,9 +292,8 @@ void PracticeLoop::markKnown(bool byButton) {
 }
 
 void PracticeLoop::requestPrint() {
-  activity();
   m_dialogs.show(m_printRequests.request(m_state.item()));
-  m_screen.showMessage(QString());
+  m_screen.showMessage(MarkedText());
   if (!m_確認中) stay();
 }
 
@@ -324,7 +332,6 @@ void PracticeLoop::nextComparison() {
 
 void PracticeLoop::reshuffle() {
   const bool wanted = m_dialogs.ask(QStringLiteral("問題の出題を順不同にしますか？"));
-  activity();
   m_random.reseed();
   if (!wanted) return;
   m_screen.showStatus(StatusPanel::Order, QStringLiteral("順不同出題"));
@@ -346,19 +353,15 @@ void PracticeLoop::回数カウント() {
 }
 
 void PracticeLoop::requestExit() {
-  const bool confirmed = m_dialogs.ask(QStringLiteral("終了しますか？"));
-  activity();
-  if (confirmed)
+  if (m_dialogs.ask(QStringLiteral("終了しますか？")))
     exitAtOnce();
   else
     exitRefused();
 }
 
 void PracticeLoop::requestLessonChange() {
-  const bool confirmed = m_dialogs.ask(
-      QStringLiteral("このレッスンファイルを終了して別のレッスンファイルに変更しますか"));
-  activity();
-  if (confirmed) {
+  if (m_dialogs.ask(
+          QStringLiteral("このレッスンファイルを終了して別のレッスンファイルに変更しますか"))) {
     m_backToConditions = true;
     exitAtOnce();
   } else {

@@ -8,6 +8,7 @@
 #include "practice/QuestionRequests.h"
 #include "practice/QuestionText.h"
 #include "practice/RestTime.h"
+#include "practice/RestingDialogs.h"
 #include "practice/ReviewDrill.h"
 #include "practice/ReviewRing.h"
 #include "practice/RunReport.h"
@@ -133,6 +134,8 @@ class PracticeLoop {
   void leaveConfirmation();
   /// Enter on the full answer: the next item, or before it the review that is due.
   void leaveFullAnswer();
+  /// Takes away what tells of a question.
+  void emptyQuestion();
   void emptyAreas();
   /// No to the question whether the run is to end.
   void exitRefused();
@@ -141,14 +144,14 @@ class PracticeLoop {
 
   RunState m_state;
   PracticeScreen& m_screen;
-  Dialogs& m_dialogs;
+  RestTime m_restTime;
+  RestingDialogs m_dialogs;
   Random& m_random;
   Speaker& m_speaker;
+  DamageGuard m_damage;
   AnswerFlow m_flow;
   AnswerClock m_answerClock;
-  RestTime m_restTime;
   RunReport m_report;
-  DamageGuard m_damage;
   QuestionRequests m_printRequests;
   ReviewRing m_reviewRing;
   ReviewDrill m_review;

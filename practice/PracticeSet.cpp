@@ -28,8 +28,9 @@ CurrentRecord PracticeSet::parsed(int i) const {
   return ParseRecord(item(i).itemRecord, item(i).itemEnglish, item(i).itemTable);
 }
 
-void PracticeSet::RewriteRecord(int i, const CurrentRecord& record) {
+bool PracticeSet::RewriteRecord(int i, const CurrentRecord& record) {
   if (record.complete) item(i).itemRecord = packRecord(record);
+  return record.complete;
 }
 
 }  // namespace tavoli

@@ -46,8 +46,9 @@ class PracticeSet {
 
   /// The i-th item taken apart.
   CurrentRecord parsed(int i) const;
-  /// Packs the record into item i. A record that was damaged leaves the item's text as it is.
-  void RewriteRecord(int i, const CurrentRecord& record);
+  /// Packs the record into item i. A record that was damaged leaves the item's text as it is, and
+  /// false is returned.
+  [[nodiscard]] bool RewriteRecord(int i, const CurrentRecord& record);
 
  private:
   std::vector<PracticeItem> m_items;

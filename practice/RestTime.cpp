@@ -1,5 +1,7 @@
 #include "practice/RestTime.h"
 
+#include <cmath>
+
 #include "practice/PracticeScreen.h"
 #include "system/Clock.h"
 
@@ -11,7 +13,8 @@ constexpr int restFrom = 60;
 constexpr int secondsPerMinute = 60;
 
 QString minutes(qint64 seconds) {
-  return QString::number(seconds / secondsPerMinute) + QStringLiteral("分");
+  return QString::number(std::llround(static_cast<double>(seconds) / secondsPerMinute)) +
+         QStringLiteral("分");
 }
 
 }  // namespace

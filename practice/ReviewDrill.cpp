@@ -95,7 +95,7 @@ bool ReviewDrill::correcting() const {
 
 void ReviewDrill::emptyAreas() {
   m_screen.showFullAnswer(MarkedText());
-  m_screen.showMessage(QString());
+  m_screen.showMessage(MarkedText());
 }
 
 void ReviewDrill::keyPressed() {
@@ -140,11 +140,11 @@ void ReviewDrill::right(Verdict verdict) {
   const int required =
       m_record.sentence ? m_run.conditions.requiredRepeatSent : m_run.conditions.requiredRepeatWord;
   if (m_answerAsked && ++m_requiredDone < required) {
-    m_screen.showMessage(repeatsText(required - m_requiredDone));
+    m_screen.showMessage(plainText(repeatsText(required - m_requiredDone)));
     askAgain();
     return;
   }
-  m_screen.showMessage(praise(verdict));
+  m_screen.showMessage(plainText(praise(verdict)));
   leaveSubQuestion();
 }
 
@@ -156,7 +156,7 @@ void ReviewDrill::wrong(const Comparison& comparison) {
     askAgain();
     return;
   }
-  m_screen.showMessage(answer() + QStringLiteral("　が正解です。"));
+  m_screen.showMessage(plainText(answer() + QStringLiteral("　が正解です。")));
   leaveSubQuestion();
 }
 
@@ -196,15 +196,13 @@ void ReviewDrill::showAnswer() {
   if (m_nextDue) return;
   m_requiredDone = 0;
   m_answerAsked = true;
-  m_screen.showMessage(answerLine(m_record, m_reviewPOS1));
+  m_screen.showMessage(plainText(answerLine(m_record, m_reviewPOS1)));
   speakAnswer();
   m_screen.focusAnswer();
 }
 
 void ReviewDrill::requestExit() {
-  const bool confirmed = m_services.dialogs.ask(QStringLiteral("終了しますか？"));
-  m_services.restTime.takeRestTime();
-  if (confirmed)
+  if (m_services.dialogs.ask(QStringLiteral("終了しますか？")))
     m_services.exitRun();
   else if (m_nextDue)
     nextReviewItem();

@@ -32,8 +32,8 @@ struct RunState {
   SubQuestion& 小問() { return record.at(POS1); }
   /// A 小問 that is not 全然 is asked as a mini test.
   bool inMiniTest() const { return record.has(POS1) && record.記(POS1) != memory全然; }
-  /// Folds what changed in the present record into the set.
-  void RewriteRecord() { set.RewriteRecord(POS, record); }
+  /// Folds what changed in the present record into the set. False when the record is damaged.
+  [[nodiscard]] bool RewriteRecord() { return set.RewriteRecord(POS, record); }
 };
 
 }  // namespace tavoli

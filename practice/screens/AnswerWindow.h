@@ -23,7 +23,7 @@ class AnswerWindow : public QMainWindow, public Screen {
   void showFullAnswer(const MarkedText& text) override {
     m_areas.fullAnswer->setMarkedText(text, MarkedView::Show::End);
   }
-  void showMessage(const QString& text) override { m_areas.message->setText(text); }
+  void showMessage(const MarkedText& text) override { m_areas.message->showMarked(text); }
   void lookUp(const QString& text) override { m_areas.lookUp(text); }
   void showTime(const AnswerTime& time) override { m_areas.time->showTime(time); }
   void awaitConfirmation(bool awaited) override {

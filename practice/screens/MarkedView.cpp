@@ -5,15 +5,10 @@
 
 namespace tavoli {
 
-namespace {
-
-/// The colour of marked text: a strong pink, lightened where the paper is dark.
 QColor markColour(const QPalette& palette) {
   const QColor colour(255, 0, 100);
   return palette.color(QPalette::Base).lightness() < 128 ? colour.lighter(140) : colour;
 }
-
-}  // namespace
 
 MarkedView::MarkedView(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);

@@ -6,6 +6,9 @@
 
 namespace tavoli {
 
+/// The colour of marked text: a strong pink, lightened where the paper is dark.
+QColor markColour(const QPalette& palette);
+
 /// A read-only area that shows texts with their marks drawn. Its text can be selected and copied;
 /// a click gives it no focus, so that the caret stays in the answer box.
 class MarkedView : public QTextEdit {

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "data/MarkedText.h"
+
 namespace tavoli {
 
 /// The place of the one-line messages, with room for two lines so that nothing jumps.
@@ -9,6 +11,7 @@ class MessageLine final : public QLabel {
   Q_OBJECT
  public:
   explicit MessageLine(QWidget* parent = nullptr);
+  void showMarked(const MarkedText& marked);
 };
 
 }  // namespace tavoli

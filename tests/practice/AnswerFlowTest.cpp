@@ -99,6 +99,56 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
   }
 }
 
+TEST(AnswerFlowTest, ADamagedRecordIsToldToKeepItsMemory) {
+  const QString kept = QStringLiteral("この項目のデータに誤りがあるため、記憶状態は変更しません。");
+  const QString right = QStringLiteral("○　正解です。\n");
+  const struct {
+    QChar from;
+    const char* keys;
+    QString message;
+  } rows[] = {
+      {u'0', "r", right + kept},
+      {u'0', "K", kept},
+      {u'1', "r", right + kept},
+      {u'1', "ww", kept},
+      {u'0', "r4r", right},
+      {u'2', "r", QStringLiteral("○　正解です。　『完全記憶を維持』します。")},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::Message() << row.from.toLatin1() << " " << row.keys);
+    const QString record = QStringLiteral("||") + row.from + QStringLiteral("5大きい^000偉大な^|");
+    Drill drill({record});
+    drill.conditions.firstRepeatWord = 1;
+    drill.start();
+    drill.press(row.keys);
+    EXPECT_EQ(drill.screen.message, row.message);
+    EXPECT_EQ(drill.set.item(1).itemRecord, record);
+  }
+}
+
+TEST(AnswerFlowTest, AMiniTestLeavesTheRepeatsToTheNextLearntBlank) {
+  const QString blanks = QStringLiteral("問題|000009I am big.000001010105001^") +
+                         QStringLiteral("001009I am big.000001010105001^") +
+                         QStringLiteral("000004next00000000^|");
+  for (const auto& [keys, left] :
+       {std::pair("wrKr", 2), std::pair("wrKwr", 2), std::pair("wrKv", 3)}) {
+    Drill drill({blanks});
+    drill.conditions.firstRepeatSent = 3;
+    drill.start();
+    drill.press(keys);
+    EXPECT_EQ(drill.loop->POS1(), 3) << keys;
+    EXPECT_EQ(drill.loop->state().repeatsLeft, left) << keys;
+  }
+}
+
+TEST(AnswerFlowTest, DrawsTheMarksOfAMeaningInItsMessage) {
+  Drill drill({QStringLiteral("||000{大きな}箱^|")});
+  drill.start();
+  drill.press("r");
+  EXPECT_EQ(drill.screen.message,
+            QStringLiteral("○　正解です。『うろ覚え』にしました。『 大きな箱 』"));
+}
+
 TEST(AnswerFlowTest, TellsWhatWasWrong) {
   const QString S = sentenceWith(u'0');
   const QString W = wordWith(u'0');

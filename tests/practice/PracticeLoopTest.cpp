@@ -95,6 +95,8 @@ TEST(PracticeLoopTest, ItemsWithNothingToAskAreOnlyShown) {
   EXPECT_EQ(drill.finished(), 1);
   drill.press("e");
   EXPECT_TRUE(drill.loop->確認中());
+  EXPECT_EQ(drill.screen.question + drill.screen.source + drill.screen.panels.value(7), QString())
+      << "nothing is left of the item before";
   EXPECT_EQ(drill.finished(), 1);
   EXPECT_TRUE(drill.set.item(3).itemDirty);
   EXPECT_EQ(drill.speaker.said.size(), 3);
@@ -227,6 +229,56 @@ TEST(PracticeLoopTest, TakesRestFromAMinuteOn) {
   }
   EXPECT_EQ(drill.screen.panels.value(5), QStringLiteral("休憩時間  3分"));
   EXPECT_EQ(drill.screen.panels.value(6), QStringLiteral("経過時間  4分"));
+  drill.clock.time = drill.clock.time.addSecs(26);
+  drill.press("w");
+  EXPECT_EQ(drill.screen.panels.value(6), QStringLiteral("経過時間  5分")) << "rounded";
+}
+
+TEST(PracticeLoopTest, AnHourInFrontOfABoxIsRestAndTheSecondsBeforeItAreWork) {
+  using Press = void (PracticeLoop::*)();
+  for (const Press press :
+       {&PracticeLoop::requestExit, &PracticeLoop::requestLessonChange, &PracticeLoop::requestPrint,
+        &PracticeLoop::reshuffle, &PracticeLoop::nextItem}) {
+    Drill drill({word(u'0', u'0')});
+    drill.start();
+    drill.dialogs.answers = {false, false};
+    drill.dialogs.whileOpen = [&] { drill.clock.time = drill.clock.time.addSecs(3600); };
+    drill.clock.time = drill.clock.time.addSecs(10);
+    ((*drill.loop).*press)();
+    const auto boxes = static_cast<int>(drill.dialogs.asked.size() + drill.dialogs.shown.size());
+    EXPECT_EQ(drill.times.休憩時間, 3600 * boxes);
+    EXPECT_GE(boxes, 1);
+  }
+}
+
+TEST(PracticeLoopTest, AnyKeyEmptiesTheMessageAndOneOfTheFirstStopsTheVoice) {
+  Drill drill({word(u'0', u'0'), word(u'1', u'1')});
+  drill.conditions.firstRepeatWord = 3;
+  drill.start();
+  EXPECT_EQ(drill.screen.caption, QStringLiteral("単語熟語　順に"));
+  EXPECT_EQ(drill.screen.panels.value(1), QStringLiteral("復習なし"));
+  for (const char* leave : {"3", "4"}) {
+    drill.press("wr");
+    EXPECT_FALSE(drill.screen.message.isEmpty());
+    drill.press(leave);
+    EXPECT_TRUE(drill.screen.message.isEmpty());
+    drill.press("4");
+  }
+  const auto keysUntilStop = [&] {
+    const int before = drill.speaker.stopped;
+    int keys = 0;
+    while (drill.speaker.stopped == before && keys < 9) {
+      drill.loop->keyPressed();
+      ++keys;
+    }
+    for (int more = 0; more < 3; ++more) drill.loop->keyPressed();
+    EXPECT_EQ(drill.speaker.stopped, before + 1) << "once";
+    return keys;
+  };
+  drill.press("34");
+  EXPECT_EQ(keysUntilStop(), 2) << "the first key of an answer is typed while it speaks";
+  drill.press("3");
+  EXPECT_EQ(keysUntilStop(), 1) << "in a mini test";
 }
 
 /// Anything may be pressed at any time.

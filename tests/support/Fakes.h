@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QStringList>
 
+#include <functional>
 #include <random>
 
 #include "practice/PracticeSetLoader.h"
@@ -36,14 +37,19 @@ class FakeRandom final : public Random {
 /// left.
 class ScriptedDialogs final : public Dialogs {
  public:
-  void show(const QString& text) override { shown.append(text); }
+  void show(const QString& text) override {
+    shown.append(text);
+    if (whileOpen) whileOpen();
+  }
   bool ask(const QString& text) override {
     asked.append(text);
+    if (whileOpen) whileOpen();
     return answers.isEmpty() || answers.takeFirst();
   }
   QStringList shown;
   QStringList asked;
   QList<bool> answers;
+  std::function<void()> whileOpen;
 };
 
 /// A voice that remembers what it was told.

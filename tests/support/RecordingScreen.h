@@ -20,7 +20,7 @@ class RecordingAnswers : public Screen {
     red = text.spans.empty() ? QString()
                              : text.text.mid(text.spans.front().offset, text.spans.front().length);
   }
-  void showMessage(const QString& text) override { message = text; }
+  void showMessage(const MarkedText& text) override { message = text.text; }
   void lookUp(const QString& text) override { lookedUp = text; }
   void showTime(const AnswerTime& shown) override { time = shown; }
   void awaitConfirmation(bool on) override { awaited = on; }
