@@ -179,12 +179,24 @@ void ConditionsRules::chooseMethod(QChar selMethod) {
     readLesson();
     m_lesson.dropMissing();
   }
-  if (groupOf(selMethod) != groupOf(m_prevSelMethod)) {
+  if (!sameMethodAsLastRun()) {
     chooseStartMode(u'1');
     setStart(QString());
   } else if (m_conditions.startMode == u'3') {
     fillStarts();
+  } else {
+    m_startBroken = m_startBroken && !goesOnFromLastRun();
   }
+}
+
+bool ConditionsRules::sameMethodAsLastRun() const {
+  return groupOf(m_conditions.selMethod) == groupOf(m_prevSelMethod);
+}
+
+bool ConditionsRules::goesOnFromLastRun() const {
+  return sameMethodAsLastRun() &&
+         (!m_conditions.usesLesson() ||
+          trimBlanks(m_snapshot.lessonFile) == trimBlanks(m_conditions.lessonFile));
 }
 
 void ConditionsRules::chooseStartMode(QChar startMode) {
@@ -197,20 +209,17 @@ void ConditionsRules::chooseStartMode(QChar startMode) {
     if (m_snapshot.startMode == u'3') restoreSpecifiedStart();
     return;
   }
-  const bool sameMethod = groupOf(m_conditions.selMethod) == groupOf(m_prevSelMethod);
-  const bool sameLesson = !m_conditions.usesLesson() ||
-                          trimBlanks(m_snapshot.lessonFile) == trimBlanks(m_conditions.lessonFile);
-  if (!sameMethod || !sameLesson) tellBrokenStart(sameMethod);
+  if (!goesOnFromLastRun()) tellBrokenStart();
 }
 
-void ConditionsRules::tellBrokenStart(bool sameMethod) {
+void ConditionsRules::tellBrokenStart() {
   m_startBroken = true;
   QStringList lines = {
       QStringLiteral("開始英語の指定が"),
       QStringLiteral("「・前回と同じ英語から」、「・前回の最後に続けて」の場合は"),
       QStringLiteral(
           "前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 ")};
-  if (sameMethod) lines.append(m_snapshot.lessonFile + u'≠' + m_conditions.lessonFile);
+  if (sameMethodAsLastRun()) lines.append(m_snapshot.lessonFile + u'≠' + m_conditions.lessonFile);
   lines.append(QStringLiteral("今回は最初から実行します。"));
   m_services.dialogs.show(lines.join(u'\n'));
 }
@@ -348,8 +357,6 @@ std::optional<QString> ConditionsRules::next() {
   } else if (!m_startBroken) {
     startKey = startKeyOf(m_conditions);
   }
-  m_startBroken = false;
-  m_prevSelMethod = m_conditions.selMethod;
   return startKey;
 }
 

@@ -86,7 +86,10 @@ class ConditionsRules {
   void fillStarts();
   void setStart(const QString& text);
   void restoreSpecifiedStart();
-  void tellBrokenStart(bool sameMethod);
+  void tellBrokenStart();
+  /// Whether the kind of item is the last run's, and, for a lesson, its file too.
+  bool sameMethodAsLastRun() const;
+  bool goesOnFromLastRun() const;
   std::optional<QString> specifiedStart();
 
   const LearnerFiles& m_learner;
