@@ -62,12 +62,15 @@ void MemoryGrowth::move(QChar COURSE, QChar itemTable, const QString& itemEnglis
   const std::optional<size_t> source = memoryPlace(from);
   const std::optional<size_t> target = memoryPlace(to);
   if (!source || !target) return;
-  const bool sentence = itemTable == tableOfSentences;
-  if (!sentence && itemTable == thirdPlace && courseLevel(COURSE) != 専門) return;
-  Three& counts = sentence ? 記憶文増[levelOf(itemEnglish).value_or(専門)]
-                           : 記憶単熟増[wordLevel(COURSE, itemTable)];
-  --counts[*source];
-  ++counts[*target];
+  const auto moveIn = [&](Three& counts) {
+    --counts[*source];
+    ++counts[*target];
+  };
+  if (itemTable == tableOfSentences) {
+    if (const std::optional<Level> level = levelOf(itemEnglish)) moveIn(記憶文増[*level]);
+  } else if (itemTable != thirdPlace || courseLevel(COURSE) == 専門) {
+    moveIn(記憶単熟増[wordLevel(COURSE, itemTable)]);
+  }
 }
 
 void MemoryGrowth::addTo(ProgressCounters& counters) const {

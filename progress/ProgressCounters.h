@@ -55,7 +55,7 @@ struct MemoryGrowth {
   ByLevel 記憶文増{};
 
   /// An item has moved from one memory code to another. A dictionary that the course only has as a
-  /// third helper is not counted, except in 専門.
+  /// third helper is not counted, except in 専門, nor is a sentence of no level.
   void move(QChar COURSE, QChar itemTable, const QString& itemEnglish, QChar from, QChar to);
   /// Adds the growth to the counts. A count that would leave 0 to 32000 becomes 0.
   void addTo(ProgressCounters& counters) const;

@@ -114,9 +114,8 @@ TEST(ProgressCountersTest, CountEveryItemInItsCourseAndItsLevel) {
     learnt.記憶単熟.fill({0, 0, 1});
     learnt.記憶文.fill({0, 0, 1});
     ProgressCounters grown = learnt;
-    const bool sentence = c.itemTable == u'B';
-    (sentence ? grown.記憶文[c.sentences.value_or(専門)]
-              : grown.記憶単熟[c.words.value_or(専門)]) = {1, 0, 0};
+    if (c.words) grown.記憶単熟[*c.words] = {1, 0, 0};
+    if (c.sentences) grown.記憶文[*c.sentences] = {1, 0, 0};
     MemoryGrowth growth;
     growth.move(c.COURSE, c.itemTable, key, u'0', u'2');
     growth.move(c.COURSE, c.itemTable, key, u'7', u'2');
