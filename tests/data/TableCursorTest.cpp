@@ -24,8 +24,9 @@ QStringList keysBackward(TableCursor& rows) {
 class TableCursorTest : public testing::Test {
  protected:
   TableCursorTest() {
-    for (const char* key : {"may", "apple", "～ or so", "May", "3D", "apple pie", "Zoo", "zzz",
-                            "'em", "café", "@home", "in time", "in-box", "zzzzzzzzzzzzzzzzzzzz2"})
+    for (const char* key :
+         {"may", "apple", "～ or so", "May", "3D", "apple pie", "Zoo", "zzz", "'em", "café",
+          "@home", "in time", "in ～", "in-box", "zzzzzzzzzzzzzzzzzzzz2"})
       store.addWord(tableJTDIC, QString::fromUtf8(key), QStringLiteral("||000意味^|"));
   }
   TestStore store;
@@ -34,7 +35,8 @@ class TableCursorTest : public testing::Test {
 TEST_F(TableCursorTest, WalksSymbolsThenDigitsThenLettersThenReservedKeys) {
   auto rows = store.database().OpenRecordset(tableJTDIC);
   QStringList expected =
-      QStringLiteral("'em,@home,～ or so,3D,apple,apple pie,café,in time,in-box,May,may,Zoo,zzz")
+      QStringLiteral(
+          "'em,@home,～ or so,3D,apple,apple pie,café,in ～,in time,in-box,May,may,Zoo,zzz")
           .split(u',');
   expected += {rowContentEnd, rowConditions};
   EXPECT_EQ(keysForward(*rows), expected);
@@ -55,7 +57,7 @@ TEST_F(TableCursorTest, SeeksInKeyOrder) {
       {"the other variant", Equal, "May", "May", "may", "in-box"},
       {"no exact row: the first variant", Equal, "MAY", "May", "may", "in-box"},
       {"nothing equal", Equal, "banana", "", "", ""},
-      {"at or after", AtOrAfter, "b", "café", "in time", "apple pie"},
+      {"at or after", AtOrAfter, "b", "café", "in ～", "apple pie"},
       {"at or after lands on an equal key", AtOrAfter, "MAY", "May", "may", "in-box"},
       {"at or before", AtOrBefore, "b", "apple pie", "café", "apple"},
       {"at or before takes the last equal key", AtOrBefore, "may", "may", "Zoo", "May"},

@@ -149,6 +149,13 @@ TEST(ComparisonTest, TellsRightVariantsFromToleratedOnes) {
   }
 }
 
+TEST(ComparisonTest, AnAcceptedVariantCountsWhereAToleratedOneReadsTheSame) {
+  const CurrentRecord record =
+      sentence(QStringLiteral("I am very big."), QStringLiteral("06100101010500101"
+                                                                "1004I'm "));
+  EXPECT_TRUE(COMP(record, 1, QStringLiteral("I'm big."), mode(1)).accepted);
+}
+
 TEST(ComparisonTest, SynonymsOfAWordAreTolerated) {
   const CurrentRecord record = word(QStringLiteral("big"), QStringLiteral("large^great size^"));
   EXPECT_EQ(COMP(record, 1, QStringLiteral("BIG"), mode(3)).ANScomp, Verdict::Right);
