@@ -91,14 +91,18 @@ void TableCursor::step() {
     }
     m_rowId = m_walk->getColumn(0).getInt64();
     m_row.resize(static_cast<size_t>(m_fields.size()));
+    m_damaged.assign(m_row.size(), false);
     for (int i = 0; i < m_fields.size(); ++i) {
       const SQLite::Column column = m_walk->getColumn(i + 1);
       Field& field = m_row[static_cast<size_t>(i)];
       const char* text = column.getText(nullptr);
-      if (text)
-        field = QString::fromUtf8(text, column.getBytes());
-      else
+      if (text) {
+        const QUtf8StringView bytes(text, column.getBytes());
+        field = bytes.toString();
+        m_damaged[static_cast<size_t>(i)] = !bytes.isValidUtf8();
+      } else {
         field.reset();
+      }
     }
     m_place = Place::OnRow;
   } catch (const SQLite::Exception&) {
@@ -185,6 +189,11 @@ const Field& TableCursor::value(const QString& field) const {
   const qsizetype index = m_fields.indexOf(field);
   if (!hasRow() || index < 0) return null;
   return m_row[static_cast<size_t>(index)];
+}
+
+bool TableCursor::isDamaged(const QString& field) const {
+  const qsizetype index = m_fields.indexOf(field);
+  return hasRow() && index >= 0 && m_damaged[static_cast<size_t>(index)];
 }
 
 void TableCursor::AddNew() {

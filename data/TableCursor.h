@@ -51,6 +51,8 @@ class TableCursor {
   QString key() const;
   /// NULL where there is no current row. Stands until the cursor moves.
   const Field& value(const QString& field) const;
+  /// Whether the field's bytes are no UTF-8, so that its text is not all of what is stored.
+  bool isDamaged(const QString& field) const;
   /// The same with "" for NULL.
   QString text(const QString& field) const { return value(field).value_or(QString()); }
 
@@ -102,6 +104,7 @@ class TableCursor {
   bool m_failed = false;
   qint64 m_rowId = 0;
   std::vector<Field> m_row;
+  std::vector<bool> m_damaged;  ///< by field
 
   Pending m_pending = Pending::None;
   QStringList m_changedFields;

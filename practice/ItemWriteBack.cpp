@@ -31,6 +31,8 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
   // One blank of a sentence that is not known makes the sentence unknown; a word is known a little
   // as soon as one of its meanings is.
   if (any全然 && (record.sentence || (!anyうろ覚え && !any完全))) result.state = memory全然;
+  if (!record.sentence && !any全然 && !anyうろ覚え && !any完全)
+    result.complaints.append(QStringLiteral("Stop3A ") + key);
   return result;
 }
 
@@ -53,8 +55,7 @@ bool ItemWriteBack::WriteBackItem(PracticeItem& item) {
 }
 
 void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item) {
-  // The row's own state, not the one that was loaded: a lesson may name an item twice, and then the
-  // second one finds what the first has left.
+  // The row's own state, not the one that was loaded: so the counts stay those of a survey.
   const QString code = rows.text(field記憶);
   const QChar old = code.size() == 1 ? code[0] : QChar();
   if (!memoryPlace(old)) {
@@ -72,7 +73,7 @@ bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& ite
   rows.Edit();
   rows.setValue(field記憶, QString(item.itemMemory));
   rows.setValue(field回数, digits(item.itemTimes, 2));
-  rows.setValue(field問正コ, item.itemRecord);
+  if (!item.damaged) rows.setValue(field問正コ, item.itemRecord);
   return rows.Update();
 }
 
@@ -93,7 +94,7 @@ bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& i
   rows.setValue(fieldレベル, item.itemLevel);
   rows.setValue(field記憶, QString(item.itemMemory));
   rows.setValue(field回数, digits(item.itemTimes, 2));
-  rows.setValue(field発同日コ, item.itemRecord);
+  if (!item.damaged) rows.setValue(field発同日コ, item.itemRecord);
   return rows.Update();
 }
 

@@ -6,12 +6,21 @@
 
 namespace tavoli {
 
+void PracticeSet::append(PracticeItem item) {
+  m_rows.push_back(m_items.size());
+  m_items.push_back(std::move(item));
+}
+
+void PracticeSet::swap(int i, int j) {
+  std::swap(m_rows[static_cast<size_t>(i - 1)], m_rows[static_cast<size_t>(j - 1)]);
+}
+
 void PracticeSet::ShufflePracticeSet(Random& random) {
   if (itemCount() <= startIndex + 1) return;
   const int span = itemCount() - startIndex;
   for (int i = startIndex + 1; i <= itemCount(); ++i) {
     const int j = static_cast<int>(random.next() * span) + startIndex;
-    if (j != startIndex) std::swap(item(i), item(j));
+    if (j != startIndex) swap(i, j);
   }
 }
 
@@ -20,12 +29,15 @@ void PracticeSet::reshuffle(Random& random) {
   if (span == 0) return;
   for (int i = startIndex; i <= itemCount(); ++i) {
     const int j = static_cast<int>(random.next() * span) + startIndex;
-    std::swap(item(i), item(j));
+    swap(i, j);
   }
 }
 
 CurrentRecord PracticeSet::parsed(int i) const {
-  return ParseRecord(item(i).itemRecord, item(i).itemEnglish, item(i).itemTable);
+  const PracticeItem& row = item(i);
+  CurrentRecord record = ParseRecord(row.itemRecord, row.itemEnglish, row.itemTable);
+  record.complete = record.complete && !row.damaged;
+  return record;
 }
 
 bool PracticeSet::RewriteRecord(int i, const CurrentRecord& record) {

@@ -14,7 +14,6 @@ inline constexpr int maxItems = 25000;
 
 /// One question of the run: a copy of a table's row.
 struct PracticeItem {
-  QString lessonLine;   ///< the lesson file's entry; in a run over a table the 英語
   QString itemEnglish;  ///< 英語 of a word, 文番 of a sentence
   QChar itemTable;      ///< "B" for BDIC, "1" to "3" for the place in the course's look-up order
   QString itemLevel;    ///< two digits; of a sentence "0" and the first character of its 文番
@@ -23,18 +22,25 @@ struct PracticeItem {
   QString itemRecord;   ///< the packed record
   QString itemReading;  ///< 読上
   bool itemDirty = false;
+  bool damaged = false;  ///< the row's record is no proper text: it cannot be written again
 
   bool isSentence() const { return itemTable == tableOfSentences; }
 };
 
 /// The run's items, counted from 1, in the order in which they are asked. It carries all changes
-/// until the run ends.
+/// until the run ends. Items that stand for the same row are one and the same.
 class PracticeSet {
  public:
-  int itemCount() const { return static_cast<int>(m_items.size()); }
-  PracticeItem& item(int i) { return m_items[static_cast<size_t>(i - 1)]; }
-  const PracticeItem& item(int i) const { return m_items[static_cast<size_t>(i - 1)]; }
-  void append(PracticeItem item) { m_items.push_back(std::move(item)); }
+  int itemCount() const { return static_cast<int>(m_rows.size()); }
+  PracticeItem& item(int i) { return m_items[rowOf(i)]; }
+  const PracticeItem& item(int i) const { return m_items[rowOf(i)]; }
+  void append(PracticeItem item);
+  /// Lets item i come once more.
+  void appendCopy(int i) { m_rows.push_back(rowOf(i)); }
+
+  /// The different rows, and which of them, from 0, item i stands for.
+  size_t rowCount() const { return m_items.size(); }
+  size_t rowOf(int i) const { return m_rows[static_cast<size_t>(i - 1)]; }
 
   /// The item of the first question, to which the run wraps round too.
   int startIndex = 1;
@@ -51,7 +57,10 @@ class PracticeSet {
   [[nodiscard]] bool RewriteRecord(int i, const CurrentRecord& record);
 
  private:
+  void swap(int i, int j);
+
   std::vector<PracticeItem> m_items;
+  std::vector<size_t> m_rows;  ///< by the order of asking
 };
 
 }  // namespace tavoli

@@ -35,6 +35,7 @@ PracticeItem itemOf(const TableCursor& row, const QString& recordField) {
   item.itemMemory = memory.isEmpty() ? QChar() : memory[0];
   item.itemTimes = numberOf(row.text(field回数));
   item.itemRecord = row.text(recordField);
+  item.damaged = row.isDamaged(recordField);
   item.itemReading = row.text(field読上);
   return item;
 }
@@ -43,14 +44,23 @@ bool isDigit(QChar c) {
   return c >= u'0' && c <= u'9';
 }
 
+/// A sentence's entry, or its number alone.
+bool namesSentence(const QString& startKey) {
+  return isSentenceEntry(startKey) ||
+         (startKey.size() == 6 && std::all_of(startKey.begin(), startKey.end(), isDigit));
+}
+
 }  // namespace
 
 int lessonStartLine(const QStringList& lines, const QString& startKey) {
-  const bool sentence = isSentenceEntry(startKey);
-  const auto matches = [&](const QString& line) {
-    return sentence ? cut(line, 1, 6) == cut(startKey, 1, 6) : trimBlanks(line) == startKey;
+  const auto bySentence = [&](const QString& line) {
+    return cut(line, 1, 6) == cut(startKey, 1, 6);
   };
-  const auto found = std::find_if(lines.begin(), lines.end(), matches);
+  const auto byWord = [&](const QString& line) { return trimBlanks(line) == startKey; };
+  auto found = lines.end();
+  if (!isSentenceEntry(startKey)) found = std::find_if(lines.begin(), lines.end(), byWord);
+  if (found == lines.end() && namesSentence(startKey))
+    found = std::find_if(lines.begin(), lines.end(), bySentence);
   if (found == lines.end() || std::next(found) == lines.end()) return 1;
   return static_cast<int>(std::distance(lines.begin(), found)) + 1;
 }
@@ -68,6 +78,7 @@ PracticeSetLoader::PracticeSetLoader(LearningTables& tables, const CourseChoice&
 
 PracticeSet PracticeSetLoader::LoadPracticeSet(const QString& startKey) {
   m_set = PracticeSet();
+  m_named.clear();
   if (m_conditions.usesLesson())
     loadLesson(startKey);
   else if (m_conditions.usesWords())
@@ -92,7 +103,7 @@ void PracticeSetLoader::loadLesson(const QString& startKey) {
     const QString& line = lines[n - 1];
     if (isSentenceEntry(line)) {
       m_tables.rsBDIC().Seek(SeekOp::Equal, cut(line, 1, 6));
-      if (!m_tables.rsBDIC().NoMatch()) appendSentence(line);
+      if (!m_tables.rsBDIC().NoMatch()) appendNamed(tableOfSentences, m_tables.rsBDIC().key());
     } else {
       appendLessonWord(trimBlanks(line));
     }
@@ -107,10 +118,21 @@ void PracticeSetLoader::appendLessonWord(const QString& line) {
     for (rows.Seek(SeekOp::Equal, line);
          rows.hasRow() && rows.key().compare(line, Qt::CaseInsensitive) == 0; rows.MoveNext()) {
       if (rows.key() != line) continue;
-      appendWord(place, line);
+      appendNamed(QChar(u'0' + place), line);
       return;
     }
   }
+}
+
+void PracticeSetLoader::appendNamed(QChar itemTable, const QString& key) {
+  const std::pair row(itemTable, key);
+  if (const auto named = m_named.constFind(row); named != m_named.constEnd()) {
+    m_set.appendCopy(*named);
+    return;
+  }
+  const bool kept =
+      itemTable == tableOfSentences ? appendSentence() : appendWord(itemTable.unicode() - u'0');
+  if (kept) m_named.insert(row, m_set.itemCount());
 }
 
 void PracticeSetLoader::LoadWords(const QString& startKey) {
@@ -123,7 +145,7 @@ void PracticeSetLoader::LoadWords(const QString& startKey) {
   const int wanted = std::min(m_conditions.maxLoadWords, maxItems);
   beginProgress(wanted);
   for (int n = 1; n <= wanted && rows.hasRow() && !isReservedKey(rows.key()) && goesOn(n); ++n) {
-    appendWord(1, rows.key());
+    appendWord(1);
     rows.MoveNext();
   }
   endProgress();
@@ -142,7 +164,7 @@ void PracticeSetLoader::LoadSentences(const QString& startKey) {
   const int wanted = std::min(m_conditions.maxLoadSent, maxItems);
   beginProgress(wanted);
   for (int n = 1; n <= wanted && rows.hasRow() && rows.key() < end && goesOn(n); ++n) {
-    appendSentence(QString());
+    appendSentence();
     rows.MoveNext();
   }
   endProgress();
@@ -161,21 +183,25 @@ bool PracticeSetLoader::goesOn(int number) {
   return !m_progressShown || number % pumpEvery != 1 || m_progress.reached(number);
 }
 
-void PracticeSetLoader::appendSentence(const QString& lessonLine) {
+bool PracticeSetLoader::appendSentence() {
   PracticeItem item = itemOf(m_tables.rsBDIC(), field問正コ);
-  item.lessonLine = lessonLine;
   item.itemTable = tableOfSentences;
   item.itemLevel = u'0' + item.itemEnglish.left(1);
-  if (KeepIfConditionsMet(item)) m_set.append(std::move(item));
+  return appendIfKept(std::move(item));
 }
 
-void PracticeSetLoader::appendWord(int place, const QString& lessonLine) {
+bool PracticeSetLoader::appendWord(int place) {
   const TableCursor& row = m_tables.rsTDIC(place);
   PracticeItem item = itemOf(row, field発同日コ);
-  item.lessonLine = lessonLine;
   item.itemTable = QChar(u'0' + place);
   item.itemLevel = digits(numberOf(row.text(fieldレベル)), 2);
-  if (KeepIfConditionsMet(item)) m_set.append(std::move(item));
+  return appendIfKept(std::move(item));
+}
+
+bool PracticeSetLoader::appendIfKept(PracticeItem item) {
+  const bool kept = KeepIfConditionsMet(item);
+  if (kept) m_set.append(std::move(item));
+  return kept;
 }
 
 bool PracticeSetLoader::KeepIfConditionsMet(const PracticeItem& item) const {

@@ -39,8 +39,12 @@ class PracticeSetLoader {
   void beginProgress(int loadTotal);
   void endProgress();
 
-  void appendSentence(const QString& lessonLine);
-  void appendWord(int place, const QString& lessonLine);
+  /// Appends the present row of a table if the conditions admit it; true when they did.
+  bool appendSentence();
+  bool appendWord(int place);
+  bool appendIfKept(PracticeItem item);
+  /// The same for a row that a lesson names: one that was named before comes once more.
+  void appendNamed(QChar itemTable, const QString& key);
   void appendLessonWord(const QString& line);
   bool KeepIfConditionsMet(const PracticeItem& item) const;
 
@@ -53,6 +57,7 @@ class PracticeSetLoader {
   LoadProgress& m_progress;
   bool m_progressShown = false;
   PracticeSet m_set;
+  QHash<std::pair<QChar, QString>, int> m_named;  ///< items by table and key
 };
 
 /// The line, from 1, at which a lesson run starts: the one that `startKey` names, but never the

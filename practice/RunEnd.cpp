@@ -55,8 +55,12 @@ std::optional<ProgressCounters> RunEnd::saveRunEnd(std::unique_ptr<LearningTable
   ProgressCounters stored;
   const auto writeAll = [&] {
     ItemWriteBack items(tables->database(), run.course);
-    for (int i = 1; i <= set.itemCount(); ++i)
-      if (set.item(i).itemDirty && !items.WriteBackItem(set.item(i))) return false;
+    std::vector<bool> written(set.rowCount());
+    for (int i = 1; i <= set.itemCount(); ++i) {
+      if (!set.item(i).itemDirty || written[set.rowOf(i)]) continue;
+      if (!items.WriteBackItem(set.item(i))) return false;
+      written[set.rowOf(i)] = true;
+    }
     complaints = items.complaints();
     stored = counted;
     items.growth().addTo(stored);

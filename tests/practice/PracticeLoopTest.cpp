@@ -195,6 +195,8 @@ TEST(PracticeLoopTest, NotesUpToThirtyItemsForPrinting) {
 
 TEST(PracticeLoopTest, KeepsTheAnswersTime) {
   Drill drill({QStringLiteral("問題|000010ten letter00000000^|"), word(u'0', u'0')});
+  drill.conditions.targetWordA = 1.5;
+  drill.conditions.targetWordB = 7;
   drill.start();
   EXPECT_TRUE(drill.screen.time.running);
   drill.pass(5);

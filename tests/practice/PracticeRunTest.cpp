@@ -130,6 +130,9 @@ TEST_F(PracticeRunTest, CountsOnFromTheMonth) {
   EXPECT_EQ(screen.counts.run.sentences, (std::array{1, 0, 0}));
   EXPECT_EQ(screen.counts.month.sentences, (std::array{42, 0, 0}));
   EXPECT_EQ(screen.counts.month.words, (std::array{0, 7, 0}));
+  finish();
+  open();
+  EXPECT_EQ(screen.counts.month.sentences, (std::array{42, 0, 0})) << "the next run counts on";
 }
 
 TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {

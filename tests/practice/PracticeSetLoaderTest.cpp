@@ -80,11 +80,33 @@ TEST_F(PracticeSetLoaderTest, LooksWordsUpInTheCoursesOrderAndByTheirExactSpelli
                                          QStringLiteral("B000010")}));
 }
 
+TEST_F(PracticeSetLoaderTest, WhatALessonNamesTwiceIsOneItem) {
+  for (const char16_t* key : {u"000010", u"000020"})
+    store.addSentence(QString::fromUtf16(key),
+                      test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  store.addWord(tableSTDIC, QStringLiteral("May"), wordRecord({QStringLiteral("五月")}));
+  store.addWord(tableSTDIC, QStringLiteral("may"), wordRecord({QStringLiteral("してもよい")}));
+  writeLesson("May\n000010\xA5 a\nmay\n000020\xA5\n000010\xA5 b\nMay\n");
+  conditions.selMethod = u'0';
+  PracticeSet set = load();
+  for (const auto& [first, second] : {std::pair(1, 6), std::pair(2, 5)}) {
+    CurrentRecord learnt = set.parsed(first);
+    learnt.at(1).記 = memoryうろ覚え;
+    ASSERT_TRUE(set.RewriteRecord(first, learnt));
+    EXPECT_EQ(set.parsed(second).記(1), memoryうろ覚え);
+  }
+  EXPECT_EQ(set.parsed(3).記(1), memory全然);
+  EXPECT_EQ(set.parsed(4).記(1), memory全然);
+  EXPECT_EQ(set.itemCount(), 6) << "asked wherever it is named";
+}
+
 TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
   for (const char16_t* word : {u"a1", u"a2", u"a3", u"a4"})
     store.addWord(tableSTDIC, QString::fromUtf16(word), wordRecord({QStringLiteral("意味")}),
                   QString::fromUtf16(word) == u"a3" ? memory完全 : memory全然);
-  writeLesson("*a2\na1\na2\na3\na4\n");
+  store.addSentence(QStringLiteral("000010"),
+                    test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  writeLesson("*a2\na1\na2\na3\n000010\xA5\na4\n");
   conditions.selMethod = u'0';
   conditions.memorySelect = u'1';
   const struct {
@@ -94,6 +116,8 @@ TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
   } cases[] = {{"from the first", u"000000", 1},
                {"a line in the middle", u"a2", 2},
                {"a start that the filter rejects: the item before it", u"a3", 2},
+               {"a sentence", u"000010･", 3},
+               {"a sentence by its number alone", u"000010", 3},
                {"never the last line", u"a4", 1},
                {"not in the lesson", u"b", 1}};
   for (const auto& c : cases) {
@@ -109,12 +133,12 @@ TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
                   i % 20);
   store.addWord(tableSTDIC, QStringLiteral("～ or so"), wordRecord({QStringLiteral("～かそこら")}));
   conditions.memorySelect = u'0';
-  conditions.maxLoadWords = 21;
+  conditions.maxLoadWords = 22;
   const PracticeSet set = load();
   EXPECT_EQ(keysOf(set), (QStringList{QStringLiteral("1～ or so"), QStringLiteral("1w00"),
-                                      QStringLiteral("1w10")}));
+                                      QStringLiteral("1w10"), QStringLiteral("1w20")}));
   EXPECT_EQ(dialogs.shown.last(),
-            QStringLiteral("最大読込数 21 のうち 3が練習条件を満足しました。"));
+            QStringLiteral("最大読込数 22 のうち 4が練習条件を満足しました。"));
   EXPECT_EQ(keysOf(load(QStringLiteral("w10"))),
             (QStringList{QStringLiteral("1w10"), QStringLiteral("1w20")}));
   conditions.levelFrom = QStringLiteral("10");

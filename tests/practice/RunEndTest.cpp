@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -44,7 +45,10 @@ TEST(ItemStateTest, SumsUpItsSubQuestions) {
       if (any0 && (sentence || (!any1 && !any2))) expected = memory全然;
       EXPECT_EQ(summed.state, expected) << sentence << qPrintable(codes);
       const bool none = !any0 && !any1 && !any2;
-      EXPECT_EQ(summed.complaints.size(), codes.count(u'7') + (none ? 1 : 0)) << qPrintable(codes);
+      EXPECT_EQ(summed.complaints.size(), codes.count(u'7') + (!none      ? 0
+                                                               : sentence ? 1
+                                                                          : 2))
+          << qPrintable(codes);
     }
   }
 }
@@ -167,7 +171,8 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
         store.addWord(table, QStringLiteral("word %1").arg(i), record, stateOf(false, record));
       }
       const QString record = packedCodes(true, codes());
-      store.addSentence(digits(i % 10, 1) + digits(i, 5), record, stateOf(true, record));
+      const QString initial(u"0123456789A"[i % 11]);
+      store.addSentence(initial + digits(i, 5), record, stateOf(true, record));
     }
     return true;
   });
@@ -214,6 +219,30 @@ TEST_F(RunEndTest, WritesALineOfHistory) {
   EXPECT_EQ(lines[0].mid(55 + 336), encodeConditions(conditions).mid(9));
 }
 
+TEST_F(RunEndTest, WritesAWordsCountAndNoRecordThatCouldNotBeRead) {
+  const QString whole = packedCodes(false, QStringLiteral("0"));
+  for (const char16_t* word : {u"broken", u"whole"})
+    store.addWord(course.specialTable, QString::fromUtf16(word), whole);
+  {
+    SQLite::Database raw(store.path().toStdString(), SQLite::OPEN_READWRITE);
+    raw.exec(
+        "UPDATE BusinessTOEIC SET 発同日コ=CAST(x'7C7C303030FF5E7C' AS TEXT) "
+        "WHERE 英語='broken'");
+  }
+  const auto bytes = [&] {
+    SQLite::Database raw(store.path().toStdString());
+    return raw.execAndGet("SELECT hex(発同日コ) FROM BusinessTOEIC WHERE 英語='broken'")
+        .getString();
+  };
+  ASSERT_TRUE(run(QStringLiteral("2"), [](PracticeItem& item) {
+    item.itemDirty = true;
+    item.itemTimes = 7;
+  }));
+  EXPECT_EQ(store.stored(course.specialTable, QStringLiteral("whole"), field回数),
+            QStringLiteral("07"));
+  EXPECT_EQ(bytes(), "7C7C303030FF5E7C");
+}
+
 TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
   store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("7")), u'9');
   store.addWord(course.specialTable, QStringLiteral("a"), packedCodes(false, QStringLiteral("7")));
@@ -225,9 +254,10 @@ TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
     item.itemDirty = true;
     item.itemEnglish = QStringLiteral("gone");
   }));
-  EXPECT_EQ(dialogs.shown,
-            (QStringList{QStringLiteral("Stop38 gone"), QStringLiteral("Stop39 gone"),
-                         QStringLiteral("No Match rsTDIC :##gone##")}));
+  EXPECT_EQ(
+      dialogs.shown,
+      (QStringList{QStringLiteral("Stop38 gone"), QStringLiteral("Stop39 gone"),
+                   QStringLiteral("Stop3A gone"), QStringLiteral("No Match rsTDIC :##gone##")}));
 }
 
 TEST_F(RunEndTest, KeepsHereWhatDoesNotGetHome) {
