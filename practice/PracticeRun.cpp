@@ -34,9 +34,9 @@ bool PracticeRun::openTables() {
   int errorNumber = 0;
   m_tables = LearningTables::open(m_learner.dbFileWork, m_course, errorNumber);
   if (!m_tables) {
-    m_services.dialogs.show(QStringLiteral("%1 : OpenDatabase error    Err.Number=%2")
-                                .arg(m_learner.dbFileWork)
-                                .arg(errorNumber));
+    m_services.dialogs.show(m_learner.dbFileWork +
+                            QStringLiteral(" : OpenDatabase error    Err.Number=") +
+                            QString::number(errorNumber));
     return false;
   }
   const QStringList tables = prWhichTable(m_course);

@@ -74,6 +74,11 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
     EXPECT_EQ(dialogs.shown.join(u'|'), c.message);
     EXPECT_EQ(recounted.join(u'|'), c.counted);
   }
+  course = {course専門, vanished};
+  screen.choices = {vanished};
+  ASSERT_TRUE(rules.enter());
+  EXPECT_EQ(course.COURSE, course高校) << "the screen opens with a dictionary that is there";
+  EXPECT_EQ(screen.lesson.size(), 4);
 }
 
 TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
