@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+
 #include "conditions/PracticeConditions.h"
 #include "practice/LearningTables.h"
 #include "practice/PracticeSet.h"
