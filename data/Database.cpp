@@ -2,10 +2,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include "data/Descent.h"
 #include "data/Schema.h"
 
 namespace tavoli {
@@ -94,14 +96,7 @@ bool Database::scanCodes(const QString& table, const QString& field,
 }
 
 bool Database::write(const std::function<bool()>& work) {
-  try {
-    SQLite::Transaction transaction(*m_connection, SQLite::TransactionBehavior::IMMEDIATE);
-    if (!work()) return false;
-    transaction.commit();
-    return true;
-  } catch (const SQLite::Exception&) {
-    return false;
-  }
+  return writeCounted(*m_connection, work);
 }
 
 bool Database::createTable(const QString& table) {
@@ -151,6 +146,18 @@ void openDatabase(const QString& path, std::optional<Database>& database, int& e
     database.emplace(std::move(connection));
   } catch (const SQLite::Exception& error) {
     errorNumber = errorNumberOf(error.getErrorCode());
+  }
+}
+
+std::optional<Database> peekDatabase(const QString& path) {
+  if (QFileInfo(path).size() == 0) return std::nullopt;
+  try {
+    const QByteArray uri =
+        QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
+    return Database(std::make_unique<SQLite::Database>(
+        uri.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI | SQLite::OPEN_NOMUTEX));
+  } catch (const SQLite::Exception&) {
+    return std::nullopt;
   }
 }
 

@@ -43,8 +43,8 @@ class Database {
   bool scanCodes(const QString& table, const QString& field,
                  const std::function<void(char initial, char code)>& visit) const;
 
-  /// Does all the work's writing in one transaction: all of it is kept, or, when the work returns
-  /// false or a write fails, nothing. Returns whether it was kept.
+  /// Does all the work's writing in one transaction: all of it is kept and counted as a change, or,
+  /// when the work returns false or a write fails, nothing. Returns whether it was kept.
   bool write(const std::function<bool()>& work);
 
   /// Makes an empty table: BDIC or a dictionary.
@@ -60,6 +60,10 @@ class Database {
 /// The only way in which a personal database is opened, read-write and shared. `errorNumber` is one
 /// of openError; `database` is empty unless it is 0.
 void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber);
+
+/// A file for reading as it lies there, without a lock and without a look at what lies beside it;
+/// nothing when it cannot be opened. For copies that nobody writes just then.
+std::optional<Database> peekDatabase(const QString& path);
 
 /// The specialist dictionaries of a database, in the order in which they were made.
 QStringList specialTables(const Database& database);

@@ -28,6 +28,7 @@ inline const QString rowPassword = QStringLiteral("zzzzz0");
 inline const QString rowCourse = QStringLiteral("zzzzz1");
 inline const QString rowProgress = QStringLiteral("zzzzz2");
 inline const QString rowAutoPlay = QStringLiteral("zzzzz5");
+inline const QString rowDescent = QStringLiteral("zzzzz6");
 /// Reserved rows of every dictionary: the end of its content, and its practice conditions.
 inline const QString rowContentEnd = QStringLiteral("zzzzzzzzzzzzzzzzzzzz1");
 inline const QString rowConditions = QStringLiteral("zzzzzzzzzzzzzzzzzzzz2");

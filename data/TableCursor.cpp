@@ -1,7 +1,9 @@
 #include "data/TableCursor.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
 
+#include "data/Descent.h"
 #include "data/Schema.h"
 
 namespace tavoli {
@@ -250,6 +252,23 @@ bool TableCursor::Update() {
   const Pending pending = std::exchange(m_pending, Pending::None);
   if (pending == Pending::None) return false;
   stopWalk();
+  const bool alone = sqlite3_get_autocommit(m_database.getHandle()) != 0;
+  const bool stored =
+      alone ? writeCounted(m_database, [&] { return store(pending); }) : store(pending);
+  if (!stored) {
+    m_failed = true;
+    return false;
+  }
+  if (pending == Pending::Editing) {
+    for (qsizetype i = 0; i < m_changedFields.size(); ++i) {
+      const qsizetype index = m_fields.indexOf(m_changedFields[i]);
+      if (index >= 0) m_row[static_cast<size_t>(index)] = m_changes[static_cast<size_t>(i)];
+    }
+  }
+  return true;
+}
+
+bool TableCursor::store(Pending pending) {
   const auto places = static_cast<int>(m_changes.size());
   std::vector<std::string> texts(m_changes.size());
   const auto bindChanges = [&](SQLite::Statement& statement) {
@@ -278,17 +297,10 @@ bool TableCursor::Update() {
       bindChanges(statement);
       statement.exec();
     }
+    return true;
   } catch (const SQLite::Exception&) {
-    m_failed = true;
     return false;
   }
-  if (pending == Pending::Editing) {
-    for (int i = 0; i < places; ++i) {
-      const qsizetype index = m_fields.indexOf(m_changedFields[i]);
-      if (index >= 0) m_row[static_cast<size_t>(index)] = m_changes[static_cast<size_t>(i)];
-    }
-  }
-  return true;
 }
 
 }  // namespace tavoli

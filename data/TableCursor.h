@@ -64,7 +64,8 @@ class TableCursor {
   /// the fields `ifNew`. False when the table could not be read; nothing is begun then.
   bool EditOrAddNew(const QString& key, const QList<std::pair<QString, QString>>& ifNew = {});
   void setValue(const QString& field, const Field& value);
-  /// Stores what AddNew or Edit began. False when it could not be stored.
+  /// Stores what AddNew or Edit began, in a transaction of its own unless one is open, so that it
+  /// counts as a change. False when it could not be stored.
   bool Update();
 
   bool failed() const { return m_failed; }
@@ -90,6 +91,7 @@ class TableCursor {
   void step();
   void move(Direction direction);
   void stopWalk();
+  bool store(Pending pending);
 
   SQLite::Database& m_database;
   QString m_table;

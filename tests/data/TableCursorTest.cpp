@@ -121,6 +121,8 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
   store.close();
   SystemFiles files;
   const QByteArray content = files.read(store.path()).value();
+  QByteArray newer = content;
+  newer[63] = 2;  // where SQLite keeps the last byte of the version
   const struct {
     const char* name;
     std::optional<QByteArray> content;
@@ -130,6 +132,7 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
                {"foreign", QByteArray(2000, 'x'), openError::notADatabase},
                {"cut inside its first page", content.left(60), openError::notADatabase},
                {"cut in half", content.left(content.size() / 2), openError::notADatabase},
+               {"of a newer program", newer, openError::notADatabase},
                {"sound", content, openError::none}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
