@@ -85,7 +85,7 @@ bool Login::takeWorkingCopy() {
 bool Login::bringPlacedCopy() {
   const LearnerFiles& learner = m_module.learner;
   if (!keepNewerWork()) return false;
-  if (m_files.copy(learner.dbFilePlaced, learner.dbFileWork, true) == FileResult::Ok) return true;
+  if (m_files.copy(learner.dbFilePlaced, learner.dbFileWork) == FileResult::Ok) return true;
   return fail(
       QStringLiteral("%1 を %2 に写せません。空き容量とフォルダを確かめてから入れ直してください。")
           .arg(learner.dbFilePlaced, learner.dbFileWork));
@@ -220,7 +220,7 @@ void Login::fetchTexts() {
        {std::pair(learner.condFilePlaced, learner.condFileWork),
         std::pair(learner.historyFilePlaced, learner.historyFileWork)}) {
     // A working text of an earlier run that did not get home is newer: it stays.
-    if (!(m_files.modified(work) > m_files.modified(placed))) m_files.copy(placed, work, true);
+    if (!(m_files.modified(work) > m_files.modified(placed))) m_files.copy(placed, work);
   }
 }
 

@@ -71,7 +71,7 @@ bool fillApplicationFolder(Files& files, const QString& programFolder,
     for (const QFileInfo& file : QDir(from).entryInfoList({pattern}, QDir::Files)) {
       const QString target = to + u'/' + file.fileName();
       if (!files.exists(target))
-        filled = files.copy(file.filePath(), target) == FileResult::Ok && filled;
+        filled = files.copy(file.canonicalFilePath(), target) == FileResult::Ok && filled;
     }
   };
   deliver(originals, QStringLiteral("TavoDB*.mdb"), dataFolder);

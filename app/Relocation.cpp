@@ -69,8 +69,7 @@ bool Relocation::copyFolder(const QString& from, const QString& to) {
 }
 
 bool Relocation::copyFile(const QString& from, const QString& to) {
-  constexpr bool keepTime = true;  // the login tells newer work by it
-  return clearTarget(from, to) && m_files.copy(from, to, keepTime) == FileResult::Ok;
+  return clearTarget(from, to) && m_files.copy(from, to) == FileResult::Ok;
 }
 
 bool Relocation::clearTarget(const QString& from, const QString& to) {

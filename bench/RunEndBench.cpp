@@ -152,7 +152,7 @@ void loginToReport(benchmark::State& state) {
   test::ScriptedDialogs dialogs;
   PagedPaper paper;
   Module1 module = startModule1(files, clock, folder.path());
-  files.copy(store.path(), module.dbPathDefault + QStringLiteral("/TavoDB000.mdb"), false);
+  files.copy(store.path(), module.dbPathDefault + QStringLiteral("/TavoDB000.mdb"));
   struct Screen final : LoginScreen {
     void setUserId(const QString&) override {}
     void focusUserId() override {}

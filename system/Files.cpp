@@ -3,26 +3,34 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
+
+#include "system/FileReplacement.h"
 
 namespace tavoli {
 
 namespace {
 
-FileResult resultOf(const QFileDevice& file) {
-  switch (file.error()) {
-    case QFileDevice::NoError:
-      return FileResult::Ok;
-    case QFileDevice::PermissionsError:
+/// What `errno` tells of a failure.
+FileResult failure() {
+  switch (errno) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
       return FileResult::Denied;
+    case ELOOP:
+      return FileResult::Link;
     default:
-      // Opening a file that only its rights keep closed is reported as OpenError.
-      return QFileInfo::exists(file.fileName()) && !QFileInfo(file.fileName()).isReadable()
-                 ? FileResult::Denied
-                 : FileResult::Failed;
+      return FileResult::Failed;
   }
+}
+
+FileResult resultOf(const QFileDevice& file) {
+  if (file.error() == QFileDevice::NoError) return FileResult::Ok;
+  return file.error() == QFileDevice::PermissionsError ? FileResult::Denied : FileResult::Failed;
 }
 
 }  // namespace
@@ -40,40 +48,44 @@ std::optional<QByteArray> SystemFiles::read(const QString& path) const {
 }
 
 FileResult SystemFiles::write(const QString& path, const QByteArray& content) {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return resultOf(file);
-  file.write(content);
-  return file.commit() ? FileResult::Ok : resultOf(file);
+  FileReplacement file(path);
+  return file.isOpen() && file.write(content) && file.putInPlace() ? FileResult::Ok : failure();
 }
 
-FileResult SystemFiles::copy(const QString& from, const QString& to, bool keepTime) {
-  QFile source(from);
+FileResult SystemFiles::copy(const QString& from, const QString& to) {
   if (!exists(from)) return FileResult::NotFound;
-  if (!source.open(QIODevice::ReadOnly)) return resultOf(source);
-  QSaveFile target(to);
-  if (!target.open(QIODevice::WriteOnly)) return resultOf(target);
+  QFile source;
+  const int opened = open(QFile::encodeName(from).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+  struct stat about {};
+  if (opened < 0 || !source.open(opened, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
+      fstat(opened, &about) != 0)
+    return failure();
+  FileReplacement target(to);
+  if (!target.isOpen()) return failure();
   constexpr qint64 blockSize = 1 << 20;
-  while (!source.atEnd()) {
+  for (;;) {
     const QByteArray block = source.read(blockSize);
-    if (block.isEmpty() || target.write(block) != block.size()) {
-      target.cancelWriting();
-      return FileResult::Failed;
-    }
+    if (source.error() != QFileDevice::NoError) return FileResult::Failed;
+    if (block.isEmpty()) break;
+    if (!target.write(block)) return failure();
   }
-  if (!target.commit()) return resultOf(target);
-  if (keepTime) setModified(to, modified(from));
-  return FileResult::Ok;
+  return target.resemble(about) && target.putInPlace() ? FileResult::Ok : failure();
 }
 
 FileResult SystemFiles::append(const QString& path, const QByteArray& content) {
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return resultOf(file);
-  const qint64 before = file.size();
-  if (file.write(content) == content.size() && file.flush() && fsync(file.handle()) == 0)
-    return FileResult::Ok;
-  // Half a line would be in the way of the next one.
-  file.resize(before);
-  return FileResult::Failed;
+  constexpr mode_t ownersAlone = S_IRUSR | S_IWUSR;
+  const int file = open(QFile::encodeName(path).constData(),
+                        O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, ownersAlone);
+  if (file < 0) return failure();
+  const off_t before = lseek(file, 0, SEEK_END);
+  FileResult result = FileResult::Ok;
+  if (!writeAll(file, content) || fsync(file) != 0) {
+    result = failure();
+    // Half a line would be in the way of the next one.
+    if (ftruncate(file, before) != 0) result = FileResult::Failed;
+  }
+  close(file);
+  return result;
 }
 
 FileResult SystemFiles::rename(const QString& from, const QString& to) {

@@ -8,10 +8,17 @@
 
 namespace tavoli {
 
-enum class FileResult { Ok, NotFound, Denied, Failed };
+enum class FileResult {
+  Ok,
+  NotFound,
+  Denied,
+  Link,  ///< a symbolic link, which is neither written to nor copied
+  Failed,
+};
 
 /// Whole-file operations. Every one that replaces a file writes beside it, syncs and renames, so
-/// that the target holds the old content or the new one and a failure leaves it as it was.
+/// that the target holds the old content or the new one and a failure leaves it as it was. A file
+/// that is replaced keeps its mode; a new one is its owner's alone.
 class Files {
  public:
   virtual ~Files() = default;
@@ -19,8 +26,9 @@ class Files {
   /// The content, or nothing when the file is missing or cannot be read.
   virtual std::optional<QByteArray> read(const QString& path) const = 0;
   virtual FileResult write(const QString& path, const QByteArray& content) = 0;
-  /// Replaces `to` by a copy of `from`; with `keepTime` the copy bears the original's time.
-  virtual FileResult copy(const QString& from, const QString& to, bool keepTime = false) = 0;
+  /// Replaces `to` by a copy of `from`, which bears the original's time and, where it is new, the
+  /// original's mode.
+  virtual FileResult copy(const QString& from, const QString& to) = 0;
   /// Adds to a file, which is made where it is missing; all of `content` or, on failure, nothing.
   virtual FileResult append(const QString& path, const QByteArray& content) = 0;
   virtual FileResult rename(const QString& from, const QString& to) = 0;
@@ -37,7 +45,7 @@ class SystemFiles final : public Files {
   bool exists(const QString& path) const override;
   std::optional<QByteArray> read(const QString& path) const override;
   FileResult write(const QString& path, const QByteArray& content) override;
-  FileResult copy(const QString& from, const QString& to, bool keepTime) override;
+  FileResult copy(const QString& from, const QString& to) override;
   FileResult append(const QString& path, const QByteArray& content) override;
   FileResult rename(const QString& from, const QString& to) override;
   FileResult remove(const QString& path) override;

@@ -61,9 +61,9 @@ class FailingFiles final : public Files {
   FileResult write(const QString& path, const QByteArray& content) override {
     return refused(path) ? FileResult::Failed : real.write(path, content);
   }
-  FileResult copy(const QString& from, const QString& to, bool keepTime) override {
+  FileResult copy(const QString& from, const QString& to) override {
     copied.append(to);
-    return refused(to) ? FileResult::Failed : real.copy(from, to, keepTime);
+    return refused(to) ? FileResult::Failed : real.copy(from, to);
   }
   FileResult append(const QString& path, const QByteArray& content) override {
     return refused(path) ? FileResult::Failed : real.append(path, content);
