@@ -1,10 +1,9 @@
 #include "app/Login.h"
 
-#include <QFileInfo>
-
 #include "conditions/ConditionsStore.h"
 #include "data/Schema.h"
 #include "data/Text.h"
+#include "home/WorkingCopy.h"
 #include "progress/ProgressStore.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
@@ -19,9 +18,14 @@ const QString standardUser = QStringLiteral("000");
 
 }  // namespace
 
-Login::Login(Module1& module, Files& files, const Clock& clock, Dialogs& dialogs,
-             LoginScreen& screen)
-    : m_module(module), m_files(files), m_clock(clock), m_dialogs(dialogs), m_screen(screen) {}
+Login::Login(Module1& module, WorkingCopy& workingCopy, Files& files, const Clock& clock,
+             Dialogs& dialogs, LoginScreen& screen)
+    : m_module(module),
+      m_workingCopy(workingCopy),
+      m_files(files),
+      m_clock(clock),
+      m_dialogs(dialogs),
+      m_screen(screen) {}
 
 bool Login::next(const QString& typedId, const QString& typedPassword) {
   const QString id = trimBlanks(typedId);
@@ -32,22 +36,31 @@ bool Login::next(const QString& typedId, const QString& typedPassword) {
     m_screen.setUserId(standardUser);
     return false;
   }
-  if (id.contains(u'/') || id.contains(u'\\'))
-    return fail(QStringLiteral("ユーザーID \"%1\" は未登録です。").arg(id));
-
   m_module.learner = learnerFiles(id, m_module.dbPath, m_module.dbPathDefault);
-  if (m_module.learner.placedElsewhere && !m_files.exists(m_module.learner.dbFilePlaced))
-    return fail(QStringLiteral("ユーザーID \"%1\" は未登録です。").arg(id));
+  if (isUnregistered(id)) return fail(QStringLiteral("ユーザーID \"%1\" は未登録です。").arg(id));
+  if (logIn(typedPassword)) return true;
+  m_workingCopy.letGo();
+  return false;
+}
+
+bool Login::isUnregistered(const QString& id) const {
+  if (id.contains(u'/') || id.contains(u'\\')) return true;
+  // These would be the backup, or the file, of another learner.
+  for (const QString& ending : {QStringLiteral("BackUp"), QStringLiteral(".mdb")})
+    if (id.endsWith(ending, Qt::CaseInsensitive)) return true;
+  return m_module.learner.placedElsewhere && !m_files.exists(m_module.learner.dbFilePlaced);
+}
+
+bool Login::logIn(const QString& typedPassword) {
   m_screen.setBusy(true);
-  const bool brought = bringFiles();
+  const bool fetched = m_workingCopy.fetch();
   m_screen.setBusy(false);
-  if (!brought) return false;
-  if (!m_files.exists(m_module.learner.dbFileWork)) {
-    return fail(QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found")
-                    .arg(m_module.learner.dbFileWork));
-  }
+  if (!fetched) return false;
+  const QString& work = m_module.learner.dbFileWork;
+  if (!m_files.exists(work))
+    return fail(QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found").arg(work));
   if (!checkPassword(typedPassword)) return false;
-  fetchTexts();
+  m_workingCopy.fetchTexts();
   backUp();
   return true;
 }
@@ -55,76 +68,6 @@ bool Login::next(const QString& typedId, const QString& typedPassword) {
 bool Login::fail(const QString& message) {
   m_dialogs.show(message);
   return false;
-}
-
-bool Login::bringFiles() {
-  const LearnerFiles& learner = m_module.learner;
-  // A learner who does not exist leaves no trace.
-  if (!learner.placedElsewhere && !m_files.exists(learner.dbFileWork)) return true;
-  return takeWorkingCopy() && (!learner.placedElsewhere || bringPlacedCopy());
-}
-
-bool Login::takeWorkingCopy() {
-  const QString& work = m_module.learner.dbFileWork;
-  switch (m_lock.take(work)) {
-    case FileLock::Result::Taken:
-      return true;
-    case FileLock::Result::TakenFromDeadProgram:
-      m_dialogs.show(work + QStringLiteral(" が誤って使用中になっています。消去しました。"));
-      return true;
-    case FileLock::Result::HeldByLiveProgram:
-      return fail(work + QStringLiteral(" が誤って使用中になっています。"));
-    case FileLock::Result::Failed:
-      break;
-  }
-  return fail(
-      QStringLiteral("%1 のフォルダに書き込めません。書き込めるようにしてから入れ直してください。")
-          .arg(work));
-}
-
-bool Login::bringPlacedCopy() {
-  const LearnerFiles& learner = m_module.learner;
-  if (!keepNewerWork()) return false;
-  if (m_files.copy(learner.dbFilePlaced, learner.dbFileWork) == FileResult::Ok) return true;
-  return fail(
-      QStringLiteral("%1 を %2 に写せません。空き容量とフォルダを確かめてから入れ直してください。")
-          .arg(learner.dbFilePlaced, learner.dbFileWork));
-}
-
-bool Login::keepNewerWork() {
-  const LearnerFiles& learner = m_module.learner;
-  if (!m_files.exists(learner.dbFileWork)) return true;
-  const QString journal = QStringLiteral("-journal");
-  if (m_files.exists(learner.dbFileWork + journal)) {
-    // A program died while it wrote: opening the file takes the half-written changes back.
-    std::optional<Database> recovered;
-    int errorNumber = 0;
-    openDatabase(learner.dbFileWork, recovered, errorNumber);
-  }
-  const bool newer = m_files.modified(learner.dbFileWork) > m_files.modified(learner.dbFilePlaced);
-  const bool keep = newer && m_files.read(learner.dbFileWork) != m_files.read(learner.dbFilePlaced);
-  const QString dated =
-      learner.dbFileWork + m_clock.now().toString(QStringLiteral("-yyyyMMdd-HHmmss"));
-  QString kept = dated;
-  for (int n = 2; m_files.exists(kept); ++n) kept = dated + u'-' + QString::number(n);
-  if (keep && m_files.rename(learner.dbFileWork, kept) != FileResult::Ok) {
-    return fail(
-        QStringLiteral("配置場所より新しい %1 を別名で保存できません。何も変更していません。")
-            .arg(learner.dbFileWork));
-  }
-  // A journal that is still there belongs to the file that it lay beside, never to its successor.
-  if (m_files.exists(learner.dbFileWork + journal)) {
-    if (keep)
-      m_files.rename(learner.dbFileWork + journal, kept + journal);
-    else
-      m_files.remove(learner.dbFileWork + journal);
-  }
-  if (keep) {
-    m_dialogs.show(
-        QStringLiteral("配置場所に戻されていない学習結果があったので %1 に保存しました。")
-            .arg(kept));
-  }
-  return true;
 }
 
 bool Login::openWorkingCopy(std::optional<Database>& database) {
@@ -141,8 +84,7 @@ bool Login::openWorkingCopy(std::optional<Database>& database) {
   } else {
     m_dialogs.show(
         QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=%2")
-            .arg(work)
-            .arg(dbOpenError));
+            .arg(work, QString::number(dbOpenError)));
   }
   m_screen.focusUserId();
   return false;
@@ -205,23 +147,12 @@ bool Login::setFirstPassword(std::optional<Database>& database, const QString& t
     return fail(QStringLiteral("%1 にパスワードを書き込めません。").arg(learner.dbFileWork));
   if (!learner.placedElsewhere) return true;
   database.reset();
-  if (m_files.copy(learner.dbFileWork, learner.dbFilePlaced) != FileResult::Ok) {
+  if (!m_workingCopy.carryDatabaseHome()) {
     m_dialogs.show(
         QStringLiteral("%1 にパスワードを保存できませんでした。練習の終了時にもう一度保存します。")
             .arg(learner.dbFilePlaced));
   }
   return openWorkingCopy(database);
-}
-
-void Login::fetchTexts() {
-  const LearnerFiles& learner = m_module.learner;
-  if (!learner.placedElsewhere) return;
-  for (const auto& [placed, work] :
-       {std::pair(learner.condFilePlaced, learner.condFileWork),
-        std::pair(learner.historyFilePlaced, learner.historyFileWork)}) {
-    // A working text of an earlier run that did not get home is newer: it stays.
-    if (!(m_files.modified(work) > m_files.modified(placed))) m_files.copy(placed, work);
-  }
 }
 
 void Login::backUp() {
@@ -232,12 +163,6 @@ void Login::backUp() {
         QStringLiteral("個人データベースの控え %1 を作れませんでした。学習は続けられます。")
             .arg(learner.backupFile));
   }
-}
-
-void Login::leaveWithoutRun() {
-  const LearnerFiles& learner = m_module.learner;
-  if (!learner.placedElsewhere) return;
-  m_files.setModified(learner.dbFileWork, m_files.modified(learner.dbFilePlaced));
 }
 
 }  // namespace tavoli

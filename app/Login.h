@@ -6,13 +6,13 @@
 
 #include "app/Module1.h"
 #include "data/Database.h"
-#include "system/FileLock.h"
 
 namespace tavoli {
 
 class Clock;
 class Dialogs;
 class Files;
+class WorkingCopy;
 
 /// What the login asks of the screen that shows it.
 class LoginScreen {
@@ -27,27 +27,22 @@ class LoginScreen {
   virtual void showEngineTrouble() = 0;
 };
 
-/// Turns a typed id into the learner's files: brings them into the working folder, checks or first
-/// sets the password, reads the progress, and makes the backup. Never destroys newer work, and
-/// keeps the working copy for this program as long as the login lives.
+/// Turns a typed id into the learner's files: has them brought into the working folder, checks or
+/// first sets the password, reads the progress, and makes the backup.
 class Login {
  public:
-  Login(Module1& module, Files& files, const Clock& clock, Dialogs& dialogs, LoginScreen& screen);
+  /// `workingCopy` is that of the learner in `module`.
+  Login(Module1& module, WorkingCopy& workingCopy, Files& files, const Clock& clock,
+        Dialogs& dialogs, LoginScreen& screen);
 
   /// One press of "次へ" with the texts of the two fields. True when the learner is in; the course
-  /// of the last run then stands in the shared state. False leaves the screen up for another try.
+  /// of the last run then stands in the shared state. False leaves the screen up for another try,
+  /// and the working copy to other programs.
   bool next(const QString& typedId, const QString& typedPassword);
 
-  /// The program ends and no run was stored: the working copy holds nothing that is to go home, and
-  /// must not look newer than the placed one.
-  void leaveWithoutRun();
-
  private:
-  bool bringFiles();
-  bool takeWorkingCopy();
-  bool bringPlacedCopy();
-  /// Puts a working copy that is newer than the placed one and differs out of harm's way.
-  bool keepNewerWork();
+  bool isUnregistered(const QString& id) const;
+  bool logIn(const QString& typedPassword);
   bool openWorkingCopy(std::optional<Database>& database);
   bool checkPassword(const QString& typedPassword);
   /// Asks a new learner whether the password is right, and stores it. False on No.
@@ -55,15 +50,14 @@ class Login {
   /// Reads the learner's progress; a new month rolls it over.
   bool loadFigures(Database& database);
   bool fail(const QString& message);
-  void fetchTexts();
   void backUp();
 
   Module1& m_module;
+  WorkingCopy& m_workingCopy;
   Files& m_files;
   const Clock& m_clock;
   Dialogs& m_dialogs;
   LoginScreen& m_screen;
-  FileLock m_lock;
 };
 
 }  // namespace tavoli

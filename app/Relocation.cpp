@@ -4,6 +4,8 @@
 
 #include "app/Placement.h"
 #include "data/LearnerFiles.h"
+#include "data/Machine.h"
+#include "home/KeptCopies.h"
 #include "system/Files.h"
 
 namespace tavoli {
@@ -58,7 +60,10 @@ bool Relocation::copyFolder(const QString& from, const QString& to) {
   if (m_files.makeFolder(to) != FileResult::Ok) return false;
   // By name, so that a database comes before the journal that belongs to it.
   for (const QFileInfo& file : source.entryInfoList(QDir::Files | QDir::Hidden, QDir::Name)) {
-    if (file.fileName().endsWith(QStringLiteral(".lock"))) continue;
+    if (file.fileName().endsWith(QStringLiteral(".lock")) || file.fileName() == machineFileName)
+      continue;
+    takeBackHalfWritten(m_files, file.filePath());
+    if (!m_files.exists(file.filePath())) continue;  // a journal whose changes were taken back
     if (!copyFile(file.filePath(), QDir(to).filePath(file.fileName()))) return false;
   }
   const auto folders = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
@@ -73,15 +78,10 @@ bool Relocation::copyFile(const QString& from, const QString& to) {
 }
 
 bool Relocation::clearTarget(const QString& from, const QString& to) {
-  const QString journal = to + QStringLiteral("-journal");
-  const bool newer = m_files.exists(to) && m_files.modified(to) > m_files.modified(from);
-  if (newer && m_files.read(to) != m_files.read(from)) {
-    const QString stamp = m_files.modified(to).toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    const QString kept = to + u'-' + stamp;
-    if (m_files.rename(to, kept) != FileResult::Ok) return false;
-    return !m_files.exists(journal) ||
-           m_files.rename(journal, kept + QStringLiteral("-journal")) == FileResult::Ok;
-  }
+  if (m_files.exists(to) && !mayGiveWay(m_files, to, from) &&
+      !keepAside(m_files, to, m_files.modified(to)))
+    return false;
+  const QString journal = to + journalEnding;
   return !m_files.exists(journal) || m_files.remove(journal) == FileResult::Ok;
 }
 

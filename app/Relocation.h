@@ -27,8 +27,8 @@ class Relocation {
   /// The folder that the files are placed in below the chosen one.
   static QString target(const QString& chosenFolder);
 
-  /// Places the files in `target(chosenFolder)`. A file there that is newer than the one to be
-  /// copied and differs from it is kept, with its time behind its name.
+  /// Places the files in `target(chosenFolder)`. A file there that holds what the one to be copied
+  /// does not is kept, with its time behind its name.
   Result place(const QString& chosenFolder);
 
  private:

@@ -61,17 +61,18 @@ TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Pa
       m_options(options),
       m_paper(paper),
       m_dialogs(m_terminal),
-      m_conditions(m_terminal) {}
+      m_conditions(m_terminal),
+      m_workingCopy(module.learner, m_files, m_clock, m_dialogs) {}
 
 int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
-  Login rules(m_module, m_files, m_clock, m_dialogs, screen);
+  Login rules(m_module, m_workingCopy, m_files, m_clock, m_dialogs, screen);
   if (!login(rules, screen)) return EXIT_FAILURE;
   showProgress();
   int status = EXIT_SUCCESS;
   if (const std::optional<QString> startKey = chooseConditions(status))
     status = practise(*startKey);
-  if (status != EXIT_SUCCESS) rules.leaveWithoutRun();
+  if (status != EXIT_SUCCESS) m_workingCopy.leave();
   return status;
 }
 
@@ -137,7 +138,8 @@ void TerminalDrill::showProgress() {
 
 int TerminalDrill::practise(const QString& startKey) {
   PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
-                  m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
+                  m_module.progress,
+                  {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper, m_workingCopy});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());

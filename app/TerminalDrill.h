@@ -9,6 +9,7 @@
 #include "app/Terminal.h"
 #include "app/TerminalConditions.h"
 #include "conditions/ConditionsByName.h"
+#include "home/WorkingCopy.h"
 #include "practice/PracticeLoop.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
@@ -58,6 +59,7 @@ class TerminalDrill {
   Terminal m_terminal;
   TerminalDialogs m_dialogs;
   TerminalConditions m_conditions;
+  WorkingCopy m_workingCopy;
 };
 
 }  // namespace tavoli

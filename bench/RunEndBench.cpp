@@ -6,6 +6,7 @@
 
 #include "app/Login.h"
 #include "app/Placement.h"
+#include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/PracticeSetLoader.h"
 #include "practice/RunEnd.h"
@@ -79,7 +80,8 @@ void closeRun(benchmark::State& state) {
       set.item(i).itemDirty = true;
       ++set.item(i).itemTimes;
     }
-    RunEnd end(learner, files, clock, dialogs);
+    WorkingCopy workingCopy(learner, files, clock, dialogs);
+    RunEnd end(learner, workingCopy, files, clock, dialogs);
     state.ResumeTiming();
     const auto stored =
         end.closeRun(std::move(tables), set, {1, course, conditions, settings, times, {}});
@@ -161,7 +163,8 @@ void loginToReport(benchmark::State& state) {
     void showEngineTrouble() override {}
   } screen;
   for (auto _ : state) {
-    Login login(module, files, clock, dialogs, screen);
+    WorkingCopy workingCopy(module.learner, files, clock, dialogs);
+    Login login(module, workingCopy, files, clock, dialogs, screen);
     if (!login.next(QStringLiteral("000"), QString())) state.SkipWithError("not logged in");
     TAVOstate report(
         {module.learner.userId, module.learner.dbFileWork, module.course.COURSE,

@@ -1,5 +1,6 @@
 #include "conditions/PastConditions.h"
 
+#include "data/LearnerFiles.h"
 #include "data/Text.h"
 #include "data/TextFile.h"
 #include "system/Files.h"
@@ -10,15 +11,6 @@ namespace {
 
 QChar characterAt(const QString& line, qsizetype position) {
   return line.size() >= position ? line[position - 1] : QChar(u' ');
-}
-
-/// Nothing when the file is there but cannot be read.
-std::optional<QStringList> storedLines(const Files& files, const QString& path) {
-  if (!files.exists(path)) return QStringList();
-  const std::optional<QByteArray> bytes = files.read(path);
-  const std::optional<QString> text = bytes ? decodeText(*bytes) : std::nullopt;
-  if (!text) return std::nullopt;
-  return splitLines(*text);
 }
 
 }  // namespace
@@ -59,7 +51,7 @@ PastRun readConditions(const QString& line) {
 }
 
 QStringList pastConditions(const Files& files, const QString& path) {
-  return storedLines(files, path).value_or(QStringList()).mid(0, maxPastConditions);
+  return readLines(files, path).value_or(QStringList()).mid(0, maxPastConditions);
 }
 
 QStringList listPastConditions(const QStringList& lines) {
@@ -76,7 +68,7 @@ QStringList listPastConditions(const QStringList& lines) {
 }
 
 bool appendPastConditions(Files& files, const QString& path, const QString& line) {
-  const std::optional<QStringList> stored = storedLines(files, path);
+  const std::optional<QStringList> stored = readLines(files, path);
   if (!stored) return false;
   const QStringList lines = *stored + QStringList{line};
   const QString text =

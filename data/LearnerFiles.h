@@ -4,6 +4,9 @@
 
 namespace tavoli {
 
+/// So many lines of past conditions are kept.
+inline constexpr int maxPastConditions = 100;
+
 /// Where a learner's files lie. All work happens on the working copies; the placed ones are
 /// elsewhere only when the learner's data were moved there.
 struct LearnerFiles {

@@ -2,6 +2,8 @@
 
 #include <QStringDecoder>
 
+#include "system/Files.h"
+
 namespace tavoli {
 
 std::optional<QString> decodeText(const QByteArray& bytes) {
@@ -13,6 +15,13 @@ std::optional<QString> decodeText(const QByteArray& bytes) {
   text = codePage932(bytes);
   if (codePage932.hasError() || text.contains(QChar::ReplacementCharacter)) return std::nullopt;
   return text;
+}
+
+std::optional<QStringList> readLines(const Files& files, const QString& path) {
+  if (!files.exists(path)) return QStringList();
+  const std::optional<QByteArray> bytes = files.read(path);
+  const std::optional<QString> text = bytes ? decodeText(*bytes) : std::nullopt;
+  return text ? std::optional(splitLines(*text)) : std::nullopt;
 }
 
 QStringList splitLines(const QString& text) {

@@ -9,9 +9,14 @@
 // Text files that people and other programs may have written.
 namespace tavoli {
 
+class Files;
+
 /// The text of a file: UTF-8 where the bytes are valid UTF-8 (a byte order mark is dropped), else
 /// the Windows code page 932. Nothing when it is neither, or holds characters no text has.
 std::optional<QString> decodeText(const QByteArray& bytes);
+
+/// The lines of a file: none for one that is missing; nothing for one that is no text.
+std::optional<QStringList> readLines(const Files& files, const QString& path);
 
 /// Lines end in CR LF, LF or CR; the last one need not.
 QStringList splitLines(const QString& text);

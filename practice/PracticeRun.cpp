@@ -70,7 +70,8 @@ bool PracticeRun::close() {
   m_dictionaries.clear();
   m_reviewDictionaries.clear();
   m_settings.timeUpSound = m_loop->timeUpSound();
-  RunEnd end(m_learner, m_services.files, m_services.clock, m_services.dialogs);
+  RunEnd end(m_learner, m_services.workingCopy, m_services.files, m_services.clock,
+             m_services.dialogs);
   const std::optional<ProgressCounters> stored =
       end.closeRun(std::move(m_tables), m_set,
                    {m_loop->POS(), m_course, m_conditions, m_settings, m_times,

@@ -22,6 +22,7 @@ class PracticeScreen;
 class ReviewScreen;
 class Random;
 class Speaker;
+class WorkingCopy;
 
 /// What a run works with.
 struct RunServices {
@@ -31,6 +32,7 @@ struct RunServices {
   Dialogs& dialogs;
   Speaker& speaker;
   Paper& paper;
+  WorkingCopy& workingCopy;
 };
 
 /// A dictionary as it is offered for looking words up.

@@ -1,14 +1,13 @@
 #include "practice/RunEnd.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 #include "conditions/ConditionsStore.h"
 #include "conditions/PastConditions.h"
+#include "data/LearnerFiles.h"
 #include "data/Schema.h"
 #include "data/Text.h"
-#include "practice/HomeCopies.h"
+#include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/RunHistory.h"
 #include "progress/ProgressRecord.h"
@@ -28,17 +27,19 @@ QString startEntry(const PracticeItem& item) {
 
 }  // namespace
 
-RunEnd::RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs)
-    : m_learner(learner), m_files(files), m_clock(clock), m_dialogs(dialogs) {}
+RunEnd::RunEnd(const LearnerFiles& learner, WorkingCopy& workingCopy, Files& files,
+               const Clock& clock, Dialogs& dialogs)
+    : m_learner(learner),
+      m_workingCopy(workingCopy),
+      m_files(files),
+      m_clock(clock),
+      m_dialogs(dialogs) {}
 
 std::optional<ProgressCounters> RunEnd::closeRun(std::unique_ptr<LearningTables> tables,
                                                  PracticeSet& set, const RunResult& run) {
   std::optional<ProgressCounters> stored = saveRunEnd(std::move(tables), set, run);
-  if (stored && m_learner.placedElsewhere && !copyHome(m_learner, m_files, run.backToConditions)) {
-    m_dialogs.show(
-        QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
-            .arg(QFileInfo(m_learner.dbFileWork).path()));
-  }
+  using Texts = WorkingCopy::Texts;
+  if (stored) m_workingCopy.carryHome(run.backToConditions ? Texts::Stay : Texts::Go);
   return stored;
 }
 

@@ -15,6 +15,7 @@ namespace tavoli {
 class Clock;
 class Dialogs;
 class Files;
+class WorkingCopy;
 
 /// How a run ended.
 struct RunResult {
@@ -32,9 +33,10 @@ struct RunResult {
 /// Stores what a run has changed when it is over.
 class RunEnd {
  public:
-  RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs);
+  RunEnd(const LearnerFiles& learner, WorkingCopy& workingCopy, Files& files, const Clock& clock,
+         Dialogs& dialogs);
 
-  /// Stores the run and carries the files home where they are placed elsewhere; gives the learner's
+  /// Stores the run and has the files carried home; gives the learner's
   /// progress as stored. When the tables cannot be written the learner may try again; nothing when
   /// nothing was stored in the end.
   std::optional<ProgressCounters> closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set,
@@ -49,6 +51,7 @@ class RunEnd {
   void appendTexts(const RunResult& run, const QString& progressRecord);
 
   const LearnerFiles& m_learner;
+  WorkingCopy& m_workingCopy;
   Files& m_files;
   const Clock& m_clock;
   Dialogs& m_dialogs;

@@ -1,6 +1,7 @@
 #include "system/FileLock.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
 
 namespace tavoli {
 
@@ -10,10 +11,22 @@ FileLock::Result FileLock::take(const QString& path) {
   auto lock = std::make_unique<QLockFile>(lockPath);
   lock->setStaleLockTime(0);  // however long a run lasts: only a dead program's lock is stale
   const bool leftBehind = QFile::exists(lockPath);
-  if (!lock->tryLock(0))
-    return lock->error() == QLockFile::LockFailedError ? Result::HeldByLiveProgram : Result::Failed;
-  m_lock = std::move(lock);
-  return leftBehind ? Result::TakenFromDeadProgram : Result::Taken;
+  if (lock->tryLock(0)) {
+    m_lock = std::move(lock);
+    return leftBehind ? Result::TakenFromDeadProgram : Result::Taken;
+  }
+  if (lock->error() != QLockFile::LockFailedError) return Result::Failed;
+  askWhoHolds(*lock);
+  return m_holder.host == QSysInfo::machineHostName() ? Result::HeldByLiveProgram
+                                                      : Result::HeldElsewhere;
+}
+
+void FileLock::askWhoHolds(const QLockFile& lock) {
+  m_holder = Holder();
+  m_holder.lockPath = lock.fileName();
+  m_holder.since = QFileInfo(m_holder.lockPath).lastModified();
+  if (!lock.getLockInfo(&m_holder.processId, &m_holder.host, &m_holder.program))
+    m_holder.program.clear();
 }
 
 }  // namespace tavoli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QLockFile>
 #include <QString>
 
@@ -8,14 +9,34 @@
 namespace tavoli {
 
 /// Keeps a file for one program at a time, by a lock file beside it. The lock is let go with the
-/// object; one that a dead program left behind is cleared.
+/// object; one that a dead program of this host left behind is cleared.
 class FileLock {
  public:
-  enum class Result { Taken, TakenFromDeadProgram, HeldByLiveProgram, Failed };
+  enum class Result {
+    Taken,
+    TakenFromDeadProgram,
+    HeldByLiveProgram,
+    HeldElsewhere,  ///< by a program of another host, or by one that nobody can tell
+    Failed,
+  };
   Result take(const QString& path);
+  void letGo() { m_lock.reset(); }
+
+  /// Who holds the lock that could not be taken.
+  struct Holder {
+    QString program;  ///< empty where nobody can tell
+    QString host;
+    qint64 processId = 0;
+    QDateTime since;
+    QString lockPath;
+  };
+  const Holder& holder() const { return m_holder; }
 
  private:
+  void askWhoHolds(const QLockFile& lock);
+
   std::unique_ptr<QLockFile> m_lock;
+  Holder m_holder;
 };
 
 }  // namespace tavoli

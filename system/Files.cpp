@@ -108,10 +108,4 @@ QDateTime SystemFiles::modified(const QString& path) const {
   return exists(path) ? QFileInfo(path).lastModified() : QDateTime();
 }
 
-bool SystemFiles::setModified(const QString& path, const QDateTime& time) {
-  QFile file(path);
-  return file.open(QIODevice::ReadWrite) &&
-         file.setFileTime(time, QFileDevice::FileModificationTime);
-}
-
 }  // namespace tavoli

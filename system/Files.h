@@ -37,7 +37,6 @@ class Files {
   virtual FileResult makeFolder(const QString& path) = 0;
   /// Invalid when there is no such file.
   virtual QDateTime modified(const QString& path) const = 0;
-  virtual bool setModified(const QString& path, const QDateTime& time) = 0;
 };
 
 class SystemFiles final : public Files {
@@ -51,7 +50,6 @@ class SystemFiles final : public Files {
   FileResult remove(const QString& path) override;
   FileResult makeFolder(const QString& path) override;
   QDateTime modified(const QString& path) const override;
-  bool setModified(const QString& path, const QDateTime& time) override;
 };
 
 }  // namespace tavoli

@@ -32,9 +32,10 @@ void replaceWindow(QWidget& hidden, QWidget& shown) {
 
 }  // namespace
 
-WindowFlow::WindowFlow(Module1& module, const QString& version) : m_module(module) {
+WindowFlow::WindowFlow(Module1& module, const QString& version)
+    : m_module(module), m_workingCopy(module.learner, m_files, m_clock, m_dialogs) {
   m_tavo1 = std::make_unique<TAVO1>(m_module, m_files, m_dialogs, version);
-  m_login = std::make_unique<Login>(m_module, m_files, m_clock, m_dialogs, *m_tavo1);
+  m_login = std::make_unique<Login>(m_module, m_workingCopy, m_files, m_clock, m_dialogs, *m_tavo1);
   m_tavo1->next = [this](const QString& id, const QString& password) {
     return m_login->next(id, password);
   };
@@ -92,7 +93,7 @@ void WindowFlow::startPractice(const QString& startKey) {
   m_tavo3.reset();
   m_run = std::make_unique<PracticeRun>(
       m_module.learner, m_module.course, m_module.conditions, m_module.clock, m_module.progress,
-      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
+      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper, m_workingCopy});
   if (!m_run->openTables()) {
     m_run.reset();
     return;
@@ -133,7 +134,7 @@ void WindowFlow::endPractice() {
 }
 
 void WindowFlow::leave() {
-  m_login->leaveWithoutRun();
+  m_workingCopy.leave();
   QApplication::quit();
 }
 

@@ -8,6 +8,7 @@
 #include "app/Module1.h"
 #include "app/screens/TAVO1.h"
 #include "conditions/screens/TAVO2.h"
+#include "home/WorkingCopy.h"
 #include "practice/PracticeRun.h"
 #include "practice/screens/TAVO3.h"
 #include "practice/screens/TAVO4.h"
@@ -44,6 +45,7 @@ class WindowFlow {
   SilentSpeaker m_speaker;
   MessageBoxes m_dialogs;
   PagedPaper m_paper;
+  WorkingCopy m_workingCopy;
   std::unique_ptr<TAVO1> m_tavo1;
   std::unique_ptr<Login> m_login;
   std::unique_ptr<TAVOstate> m_state;

@@ -5,6 +5,7 @@
 
 #include "app/Login.h"
 #include "app/Placement.h"
+#include "home/WorkingCopy.h"
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
@@ -51,11 +52,12 @@ class LoginTest : public testing::Test {
   QString work() const { return module.dbPathDefault + QStringLiteral("/TavoDB000.mdb"); }
 
   bool login(const QString& id, const QString& password = QString()) {
-    Login rules(module, files, clock, dialogs, screen);
+    WorkingCopy copy(module.learner, files, clock, dialogs);
+    Login rules(module, copy, files, clock, dialogs, screen);
     dialogs.shown.clear();
     dialogs.asked.clear();
     const bool in = rules.next(id, password);
-    if (in) rules.leaveWithoutRun();
+    if (in) copy.leave();
     return in;
   }
 
@@ -68,7 +70,7 @@ class LoginTest : public testing::Test {
     return rows->NoMatch() ? Field(QStringLiteral("no row")) : rows->value(field問正コ);
   }
 
-  /// Changes the database as a run does, so that it is newer than any other copy and differs.
+  /// Changes the database as a run does.
   void work_on(const QString& path) {
     std::optional<Database> database;
     int errorNumber = 0;
@@ -78,7 +80,6 @@ class LoginTest : public testing::Test {
     rows->Edit();
     rows->setValue(field回数, QStringLiteral("77"));
     ASSERT_TRUE(rows->Update());
-    files.setModified(path, QDateTime::currentDateTime().addSecs(60));
   }
 
   QTemporaryDir folder;
@@ -111,8 +112,12 @@ TEST_F(LoginTest, RefusesIdsThatAreNoLearner) {
             QStringList{QStringLiteral("ユーザーIDを入れ直してください。\n%1/TavoDB12345678.mdb"
                                        " : not found")
                             .arg(module.dbPathDefault)});
-  EXPECT_FALSE(login(QStringLiteral("../000")));
-  EXPECT_EQ(dialogs.shown.size(), 1);
+  for (const char16_t* id : {u"../000", u"000.mdb", u"0.MDB", u"0backup"}) {
+    EXPECT_FALSE(login(QString::fromUtf16(id)));
+    EXPECT_EQ(dialogs.shown,
+              QStringList{
+                  QStringLiteral("ユーザーID \"%1\" は未登録です。").arg(QString::fromUtf16(id))});
+  }
   EXPECT_EQ(QDir(module.dbPathDefault).entryList(QDir::Files),
             QStringList{QStringLiteral("TavoDB000.mdb")})
       << "nothing is left behind";
@@ -140,6 +145,10 @@ TEST_F(LoginTest, SetsThePasswordOnceAndThenAsksForIt) {
     EXPECT_FALSE(login(QStringLiteral("000"), QString::fromUtf16(wrong)));
     EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("パスワードを入れ直してください。")});
   }
+  WorkingCopy copy(module.learner, files, clock, dialogs);
+  Login rules(module, copy, files, clock, dialogs, screen);
+  EXPECT_FALSE(rules.next(QStringLiteral("000"), QString()));
+  EXPECT_FALSE(files.exists(work() + QStringLiteral(".lock"))) << "let go";
   EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral(" Ab ")));
 }
 
@@ -181,21 +190,33 @@ TEST_F(LoginTest, KeepsWorkThatDidNotGetHome) {
 
 TEST_F(LoginTest, LeavingWithoutARunLeavesNothingToKeep) {
   placeElsewhere();
-  {
-    Login rules(module, files, clock, dialogs, screen);
-    ASSERT_TRUE(rules.next(QStringLiteral("000"), QString()));
-    work_on(work());
-    rules.leaveWithoutRun();
-  }
-  dialogs.shown.clear();
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  clock.time = clock.time.addMonths(1);
+  ASSERT_TRUE(login(QStringLiteral("000"))) << "rolls the figures over";
   ASSERT_TRUE(login(QStringLiteral("000")));
   EXPECT_TRUE(dialogs.shown.isEmpty());
 }
 
+TEST_F(LoginTest, ACopyAsDeliveredGivesWayInSilence) {
+  placeElsewhere();
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  const auto used = files.read(work());
+  QFile::remove(work());
+  deliver(module.dbPathDefault);
+  ASSERT_TRUE(login(QStringLiteral("000")));
+  EXPECT_TRUE(dialogs.shown.isEmpty());
+  EXPECT_EQ(files.read(work()), used);
+}
+
 TEST_F(LoginTest, OneProgramAtATimeWorksOnACopy) {
-  Login first(module, files, clock, dialogs, screen);
-  ASSERT_TRUE(first.next(QStringLiteral("000"), QString()));
+  WorkingCopy copy(module.learner, files, clock, dialogs);
+  ASSERT_TRUE(
+      Login(module, copy, files, clock, dialogs, screen).next(QStringLiteral("000"), QString()));
   const auto before = files.read(work());
+  QFile lock(work() + QStringLiteral(".lock"));
+  ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+  lock.setFileTime(QDateTime::currentDateTime().addDays(-3), QFileDevice::FileModificationTime);
+  lock.close();
   EXPECT_FALSE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown, QStringList{work() + QStringLiteral(" が誤って使用中になっています。")});
   EXPECT_EQ(files.read(work()), before);
@@ -206,7 +227,8 @@ TEST_F(LoginTest, ClearsTheLockOfADeadProgram) {
               "999999999\ntavoli\n" + QSysInfo::machineHostName().toUtf8() + "\n");
   EXPECT_TRUE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown,
-            QStringList{work() + QStringLiteral(" が誤って使用中になっています。消去しました。")});
+            QStringList{work() + QStringLiteral(" が誤って使用中になっています。消去しました。\n"
+                                                "学習結果は消えていません。")});
 }
 
 TEST_F(LoginTest, TellsWhatIsWrongWithAFileAndLeavesItAlone) {

@@ -27,6 +27,7 @@ class RelocationTest : public testing::Test {
     write(present + QStringLiteral("/TavoDB000.mdb"), "database");
     write(present + QStringLiteral("/TavoCond000"), "conditions");
     write(present + QStringLiteral("/TavoDB000.mdb.lock"), "123");
+    write(present + QStringLiteral("/TavoMachine.txt"), "this one\n");
     write(present + QStringLiteral("/古い/.hidden"), "deep");
     QDir().mkpath(parent);
   }
@@ -57,7 +58,8 @@ TEST_F(RelocationTest, CopiesAllAndCountsFromTheNextStart) {
   EXPECT_EQ(text(target + QStringLiteral("/古い/.hidden")), QStringLiteral("deep"));
   EXPECT_EQ(files.modified(target + QStringLiteral("/TavoDB000.mdb")),
             files.modified(present + QStringLiteral("/TavoDB000.mdb")));
-  EXPECT_FALSE(files.exists(target + QStringLiteral("/TavoDB000.mdb.lock")));
+  for (const char16_t* ours : {u"/TavoDB000.mdb.lock", u"/TavoMachine.txt"})
+    EXPECT_FALSE(files.exists(target + QString::fromUtf16(ours)));
   EXPECT_TRUE(files.exists(present + QStringLiteral("/TavoDB000.mdb")));
 
   EXPECT_EQ(relocation.place(parent), Result::SameFolder);
@@ -92,26 +94,24 @@ TEST_F(RelocationTest, AFailedCopyLeavesThePlace) {
   EXPECT_EQ(allocation(), present + u'\n');
 }
 
-TEST_F(RelocationTest, KeepsNewerWorkInTheTarget) {
+TEST_F(RelocationTest, KeepsWhatOnlyTheTargetHolds) {
   const QString database = target + QStringLiteral("/TavoDB000.mdb");
   const QString conditions = target + QStringLiteral("/TavoCond000");
   QDir().mkpath(target);
-  write(database, "newer");
-  write(database + QStringLiteral("-journal"), "of the newer one");
-  write(conditions, "older");
+  write(present + QStringLiteral("/TavoCond000"), "a run\nanother run\n");
+  write(database, "other results");
+  write(database + QStringLiteral("-journal"), "of these");
+  write(conditions, "a run\n");
   write(conditions + QStringLiteral("-journal"), "of the older one");
-  const QDateTime now = files.modified(present + QStringLiteral("/TavoDB000.mdb"));
-  ASSERT_TRUE(files.setModified(database, now.addDays(1)));
-  ASSERT_TRUE(files.setModified(conditions, now.addDays(-1)));
+  const QString kept =
+      database + files.modified(database).toString(QStringLiteral("-yyyyMMdd-HHmmss"));
 
   ASSERT_EQ(relocation.place(parent), Result::Placed);
-  const QString kept = database + now.addDays(1).toString(QStringLiteral("-yyyyMMdd-HHmmss"));
   EXPECT_EQ(text(database), QStringLiteral("database"));
-  EXPECT_EQ(text(kept), QStringLiteral("newer"));
-  EXPECT_EQ(text(kept + QStringLiteral("-journal")), QStringLiteral("of the newer one"));
-  EXPECT_EQ(text(conditions), QStringLiteral("conditions"));
-  EXPECT_FALSE(files.exists(database + QStringLiteral("-journal")));
-  EXPECT_FALSE(files.exists(conditions + QStringLiteral("-journal")));
+  EXPECT_EQ(text(kept), QStringLiteral("other results"));
+  EXPECT_EQ(text(kept + QStringLiteral("-journal")), QStringLiteral("of these"));
+  EXPECT_EQ(text(conditions), QStringLiteral("a run\nanother run\n"));
+  EXPECT_EQ(QDir(target).entryList(QDir::Files | QDir::Hidden).size(), 4) << "no more is kept";
 }
 
 }  // namespace

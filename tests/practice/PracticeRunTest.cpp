@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "home/WorkingCopy.h"
 #include "practice/PracticeRun.h"
 #include "practice/QuestionText.h"
 #include "system/Files.h"
@@ -36,8 +37,9 @@ class PracticeRunTest : public testing::Test {
 
   void open() {
     store.close();
-    run = std::make_unique<PracticeRun>(learner, course, conditions, times, figures,
-                                        RunServices{files, clock, random, dialogs, speaker, paper});
+    run = std::make_unique<PracticeRun>(
+        learner, course, conditions, times, figures,
+        RunServices{files, clock, random, dialogs, speaker, paper, copy});
     ASSERT_TRUE(run->openTables());
     ASSERT_TRUE(run->open(screen, review, progress, startKeyOf(conditions)));
   }
@@ -67,6 +69,7 @@ class PracticeRunTest : public testing::Test {
   test::RecordingScreen screen;
   test::RecordingReview review;
   test::FakePaper paper;
+  WorkingCopy copy{learner, files, clock, dialogs};
   std::unique_ptr<PracticeRun> run;
 };
 
@@ -156,7 +159,7 @@ TEST_F(PracticeRunTest, NeedsTwoItems) {
   conditions.memorySelect = u'2';
   store.close();
   PracticeRun aborted(learner, course, conditions, times, figures,
-                      {files, clock, random, dialogs, speaker, paper});
+                      {files, clock, random, dialogs, speaker, paper, copy});
   ASSERT_TRUE(aborted.openTables());
   EXPECT_FALSE(aborted.open(screen, review, progress, startKeyFirst));
   EXPECT_EQ(dialogs.shown.last(),

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/PracticeSetLoader.h"
 #include "practice/RunEnd.h"
@@ -53,42 +54,6 @@ TEST(ItemStateTest, SumsUpItsSubQuestions) {
   }
 }
 
-/// Files of which some cannot be written.
-class FailingFiles final : public Files {
- public:
-  bool exists(const QString& path) const override { return real.exists(path); }
-  std::optional<QByteArray> read(const QString& path) const override { return real.read(path); }
-  FileResult write(const QString& path, const QByteArray& content) override {
-    return refused(path) ? FileResult::Failed : real.write(path, content);
-  }
-  FileResult copy(const QString& from, const QString& to) override {
-    copied.append(to);
-    return refused(to) ? FileResult::Failed : real.copy(from, to);
-  }
-  FileResult append(const QString& path, const QByteArray& content) override {
-    return refused(path) ? FileResult::Failed : real.append(path, content);
-  }
-  FileResult rename(const QString& from, const QString& to) override {
-    return real.rename(from, to);
-  }
-  FileResult remove(const QString& path) override { return real.remove(path); }
-  FileResult makeFolder(const QString& path) override { return real.makeFolder(path); }
-  QDateTime modified(const QString& path) const override { return real.modified(path); }
-  bool setModified(const QString& path, const QDateTime& time) override {
-    return real.setModified(path, time);
-  }
-
-  QStringList refusedEnds;
-  QStringList copied;
-
- private:
-  bool refused(const QString& path) const {
-    return std::any_of(refusedEnds.begin(), refusedEnds.end(),
-                       [&](const QString& end) { return path.endsWith(end); });
-  }
-  SystemFiles real;
-};
-
 class RunEndTest : public testing::Test {
  protected:
   RunEndTest() {
@@ -117,9 +82,10 @@ class RunEndTest : public testing::Test {
     for (int i = 1; i <= set.itemCount(); ++i) change(set.item(i));
     dialogs.shown.clear();
     clock.time = clock.time.addSecs(60);
-    RunEnd end(learner, files, clock, dialogs);
+    RunEnd end(learner, copy, files, clock, dialogs);
     const auto stored =
-        end.closeRun(std::move(tables), set, {1, course, conditions, settings, times, figures});
+        end.closeRun(std::move(tables), set,
+                     {1, course, conditions, settings, times, figures, backToConditions});
     store.open();
     return stored;
   }
@@ -142,13 +108,15 @@ class RunEndTest : public testing::Test {
   CourseChoice course;
   PracticeConditions conditions;
   AutoPlaySettings settings;
-  FailingFiles files;
+  SystemFiles files;
   test::FakeClock clock;
   test::FakeRandom random;
   test::ScriptedDialogs dialogs;
   test::FakeProgress load;
   RunClock times;
   ProgressCounters figures;
+  bool backToConditions = false;
+  WorkingCopy copy{learner, files, clock, dialogs};
 };
 
 TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
@@ -260,53 +228,18 @@ TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
                    QStringLiteral("Stop3A gone"), QStringLiteral("No Match rsTDIC :##gone##")}));
 }
 
-TEST_F(RunEndTest, KeepsHereWhatDoesNotGetHome) {
+TEST_F(RunEndTest, KeepsTheWorkingTextsForAnotherLesson) {
   store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")));
-  const QString placed = store.folder() + QStringLiteral("/placed");
   learner.placedElsewhere = true;
-  learner.dbFilePlaced = placed + QStringLiteral("/TavoDB000.mdb");
-  learner.condFilePlaced = placed + QStringLiteral("/TavoCond000");
-  learner.historyFilePlaced = placed + QStringLiteral("/TavoHistory000");
-  ASSERT_EQ(files.makeFolder(placed), FileResult::Ok);
-  const struct {
-    const char* name;
-    QStringList refused;
-    bool databaseHome, historyHome, conditionsHome;
-  } cases[] = {
-      {"all well", {}, true, true, true},
-      {"no database", {QStringLiteral("placed/TavoDB000.mdb")}, false, true, true},
-      {"no history", {QStringLiteral("placed/TavoHistory000")}, true, false, true},
-      {"no conditions", {QStringLiteral("placed/TavoCond000")}, true, true, false},
-      {"a full disk",
-       {QStringLiteral("TavoDB000.mdb"), QStringLiteral("TavoHistory000"),
-        QStringLiteral("TavoCond000")},
-       false,
-       false,
-       false},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    files.refusedEnds.clear();
-    for (const QString& path : {learner.condFileWork, learner.historyFileWork})
-      files.write(path, "earlier\n");
-    for (const QString& path :
-         {learner.dbFilePlaced, learner.condFilePlaced, learner.historyFilePlaced})
-      files.write(path, "old");
-    files.refusedEnds = c.refused;
-    files.copied.clear();
+  for (QString* placed :
+       {&learner.dbFilePlaced, &learner.condFilePlaced, &learner.historyFilePlaced})
+    *placed = store.folder() + QStringLiteral("/placed%1").arg(placed - &learner.userId);
+  for (const bool another : {true, false}) {
+    backToConditions = another;
     ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
-    EXPECT_EQ(files.read(learner.dbFilePlaced) == files.read(store.path()), c.databaseHome);
-    EXPECT_EQ(files.read(learner.historyFilePlaced) == "old", !c.historyHome);
-    EXPECT_EQ(files.read(learner.condFilePlaced) == "old", !c.conditionsHome);
-    EXPECT_EQ(files.exists(learner.historyFileWork), !c.historyHome);
-    EXPECT_EQ(files.exists(learner.condFileWork), !c.conditionsHome);
-    EXPECT_EQ(files.copied.count(learner.historyFilePlaced), c.historyHome ? 1 : 2);
-    const bool allHome = c.databaseHome && c.historyHome && c.conditionsHome;
-    EXPECT_EQ(
-        dialogs.shown.count(
-            QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
-                .arg(store.folder())),
-        allHome ? 0 : 1);
+    EXPECT_EQ(dialogs.shown, QStringList());
+    for (const QString& text : {learner.condFileWork, learner.historyFileWork})
+      EXPECT_EQ(files.exists(text), another) << qPrintable(text);
   }
 }
 

@@ -1,0 +1,50 @@
+#include "home/KeptCopies.h"
+
+#include "data/Database.h"
+#include "data/TextFile.h"
+#include "home/CopyComparison.h"
+#include "home/LineTexts.h"
+#include "system/Files.h"
+
+namespace tavoli {
+
+QString datedName(const Files& files, const QString& path, const QDateTime& time) {
+  const QString dated = path + time.toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+  QString name = dated;
+  for (int n = 2; files.exists(name); ++n) name = dated + u'-' + QString::number(n);
+  return name;
+}
+
+std::optional<QString> keepAside(Files& files, const QString& path, const QDateTime& time) {
+  const QString kept = datedName(files, path, time);
+  if (files.rename(path, kept) != FileResult::Ok) return std::nullopt;
+  // A journal belongs to the file that it lay beside, never to its successor.
+  const QString journal = path + journalEnding;
+  if (files.exists(journal) && files.rename(journal, kept + journalEnding) != FileResult::Ok) {
+    files.rename(kept, path);
+    return std::nullopt;
+  }
+  return kept;
+}
+
+void takeBackHalfWritten(const Files& files, const QString& path) {
+  if (!files.exists(path + journalEnding)) return;
+  std::optional<Database> opened;
+  int errorNumber = 0;
+  openDatabase(path, opened, errorNumber);
+}
+
+bool sameContent(const Files& files, const QString& path, const QString& other) {
+  const std::optional<QByteArray> content = files.read(path);
+  return content && content == files.read(other);
+}
+
+bool mayGiveWay(const Files& files, const QString& path, const QString& other) {
+  if (sameContent(files, path, other)) return true;
+  const std::optional<QStringList> lines = readLines(files, path);
+  const std::optional<QStringList> othersLines = readLines(files, other);
+  if (lines && othersLines) return joinedLines(*othersLines, *lines, noEnd) == *othersLines;
+  return compareCopies(pastOf(path), pastOf(other), false) == CopyRelation::WorkOlder;
+}
+
+}  // namespace tavoli

@@ -1,0 +1,303 @@
+#include <QDir>
+#include <QFile>
+#include <QSysInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+#include "data/LearnerFiles.h"
+#include "data/Machine.h"
+#include "home/WorkingCopy.h"
+#include "system/Files.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/Print.h"
+#include "tests/support/TestStore.h"
+
+namespace tavoli {
+namespace {
+
+/// Files of which some cannot be written.
+class FailingFiles final : public Files {
+ public:
+  bool exists(const QString& path) const override { return real.exists(path); }
+  std::optional<QByteArray> read(const QString& path) const override { return real.read(path); }
+  FileResult write(const QString& path, const QByteArray& content) override {
+    return refuses(path) ? FileResult::Failed : real.write(path, content);
+  }
+  FileResult copy(const QString& from, const QString& to) override {
+    return refuses(to) ? FileResult::Failed : real.copy(from, to);
+  }
+  FileResult append(const QString& path, const QByteArray& content) override {
+    return real.append(path, content);
+  }
+  FileResult rename(const QString& from, const QString& to) override {
+    return real.rename(from, to);
+  }
+  FileResult remove(const QString& path) override { return real.remove(path); }
+  FileResult makeFolder(const QString& path) override { return real.makeFolder(path); }
+  QDateTime modified(const QString& path) const override { return real.modified(path); }
+
+  QStringList refusedEnds;
+
+ private:
+  bool refuses(const QString& path) const {
+    return std::any_of(refusedEnds.begin(), refusedEnds.end(),
+                       [&](const QString& end) { return path.endsWith(end); });
+  }
+  SystemFiles real;
+};
+
+/// One learner on two machines.
+class WorkingCopyTest : public testing::Test {
+ protected:
+  struct Machine {
+    LearnerFiles learner;
+    std::unique_ptr<WorkingCopy> copy;
+  };
+
+  WorkingCopyTest() {
+    QDir().mkpath(placed);
+    test::TestStore store;
+    store.addSentence(rowPassword, QString());
+    store.close();
+    files.copy(store.path(), placed + QStringLiteral("/TavoDB000.mdb"));
+    for (Machine& machine : machines) {
+      const QString folder =
+          root.filePath(QStringLiteral("machine%1").arg(&machine - machines.data()));
+      QDir().mkpath(folder);
+      machine.learner = learnerFiles(QStringLiteral("000"), placed, folder);
+      machine.copy = std::make_unique<WorkingCopy>(machine.learner, files, clock, dialogs);
+    }
+  }
+
+  bool login(Machine& machine) {
+    dialogs.shown.clear();
+    dialogs.asked.clear();
+    clock.time = clock.time.addSecs(1);
+    if (!machine.copy->fetch()) return false;
+    machine.copy->fetchTexts();
+    return true;
+  }
+
+  /// What a run stores: a row of its own in the database, a line in each text.
+  void run(const Machine& machine) {
+    const QString key = digits(++runs, 6);
+    std::optional<Database> database;
+    int errorNumber = 0;
+    openDatabase(machine.learner.dbFileWork, database, errorNumber);
+    const auto rows = database->OpenRecordset(tableBDIC);
+    rows->EditOrAddNew(key);
+    ASSERT_TRUE(rows->Update());
+    for (const QString& text : {machine.learner.historyFileWork, machine.learner.condFileWork})
+      files.append(text, key.toUtf8() + '\n');
+  }
+
+  void takePlacedFolderAway(bool away) const {
+    const QString aside = placed + QStringLiteral("-away");
+    QDir().rename(away ? placed : aside, away ? aside : placed);
+  }
+
+  /// The runs that are in a database.
+  static QStringList runsIn(const QString& path) {
+    QStringList keys;
+    std::optional<Database> database = peekDatabase(path);
+    const auto rows = database ? database->OpenRecordset(tableBDIC) : nullptr;
+    for (; rows && rows->hasRow() && !isReservedKey(rows->key()); rows->MoveNext())
+      keys.append(rows->key());
+    return keys;
+  }
+  QStringList linesIn(const QString& path) const {
+    return QString::fromUtf8(files.read(path).value_or(QByteArray()))
+        .split(u'\n', Qt::SkipEmptyParts);
+  }
+  QStringList keptIn(const QString& folder) const {
+    return QDir(folder).entryList({QStringLiteral("TavoDB000.mdb-2*")}, QDir::Files);
+  }
+
+  QTemporaryDir root;
+  QString placed = root.filePath(QStringLiteral("placed"));
+  FailingFiles files;
+  test::FakeClock clock;
+  test::ScriptedDialogs dialogs;
+  std::array<Machine, 2> machines;
+  Machine& here = machines[0];
+  Machine& there = machines[1];
+  int runs = 0;
+};
+
+TEST_F(WorkingCopyTest, KeepsHereWhatDoesNotGetHome) {
+  ASSERT_TRUE(login(here));
+  const struct {
+    const char* name;
+    QStringList refused;
+    bool databaseHome, historyHome, conditionsHome;
+  } cases[] = {
+      {"all well", {}, true, true, true},
+      {"no database", {QStringLiteral("placed/TavoDB000.mdb")}, false, true, true},
+      {"no history", {QStringLiteral("placed/TavoHistory000")}, true, false, true},
+      {"no conditions", {QStringLiteral("placed/TavoCond000")}, true, true, false},
+  };
+  const LearnerFiles& l = here.learner;
+  for (const auto& c : cases) {
+    for (const WorkingCopy::Texts texts : {WorkingCopy::Texts::Stay, WorkingCopy::Texts::Go}) {
+      const bool stay = texts == WorkingCopy::Texts::Stay;
+      SCOPED_TRACE(std::string(c.name) + (stay ? ", texts stay" : ""));
+      files.refusedEnds.clear();
+      ASSERT_TRUE(login(here));
+      run(here);
+      files.refusedEnds = c.refused;
+      here.copy->carryHome(texts);
+      EXPECT_EQ(runsIn(l.dbFilePlaced).size() == runs, c.databaseHome);
+      EXPECT_EQ(linesIn(l.historyFilePlaced).size() == runs, c.historyHome);
+      EXPECT_EQ(linesIn(l.condFilePlaced).size() == runs, c.conditionsHome);
+      EXPECT_EQ(files.exists(l.historyFileWork), stay || !c.historyHome);
+      EXPECT_EQ(files.exists(l.condFileWork), stay || !c.conditionsHome);
+      const QString told =
+          QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
+              .arg(QFileInfo(l.dbFileWork).path());
+      EXPECT_EQ(dialogs.shown, c.refused.isEmpty() ? QStringList() : QStringList{told});
+      files.refusedEnds.clear();
+      here.copy->leave();
+      EXPECT_EQ(runsIn(l.dbFilePlaced).size(), runs) << "tried once more";
+    }
+  }
+}
+
+TEST_F(WorkingCopyTest, AFailedRunIsStillThereAfterLeaving) {
+  ASSERT_TRUE(login(here));
+  run(here);
+  here.copy->carryHome(WorkingCopy::Texts::Go);
+  for (const bool diverged : {false, true}) {
+    run(here);
+    takePlacedFolderAway(true);
+    here.copy->carryHome(WorkingCopy::Texts::Stay);
+    here.copy->leave();
+    takePlacedFolderAway(false);
+    if (diverged) {
+      ASSERT_TRUE(login(there));
+      run(there);
+      there.copy->carryHome(WorkingCopy::Texts::Go);
+    }
+    ASSERT_TRUE(login(here));
+    const QString kept =
+        here.learner.dbFileWork + clock.time.toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+    QString told =
+        QStringLiteral("配置場所に戻されていない学習結果があったので %1 に保存しました。")
+            .arg(kept);
+    if (diverged)
+      told += QStringLiteral("\n配置場所のデータにも別の変更があります。両方とも残してあります。");
+    EXPECT_EQ(dialogs.shown, QStringList{told});
+    EXPECT_TRUE(runsIn(kept).contains(digits(diverged ? runs - 1 : runs, 6)));
+    EXPECT_EQ(files.read(here.learner.dbFileWork), files.read(here.learner.dbFilePlaced));
+    EXPECT_EQ(linesIn(here.learner.historyFileWork).size(), runs) << "every line of both";
+  }
+  ASSERT_TRUE(login(here));
+  EXPECT_EQ(dialogs.shown, QStringList()) << "told once";
+}
+
+TEST_F(WorkingCopyTest, AJournalStaysBesideItsDatabase) {
+  const QString& work = here.learner.dbFileWork;
+  const QString journal = QStringLiteral("-journal");
+  files.write(work, {});  // no database, and so none that could take anything back
+  files.write(work + journal, "of this one");
+  ASSERT_TRUE(login(here));
+  const QString kept = work + clock.time.toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+  EXPECT_EQ(files.read(kept), "");
+  EXPECT_EQ(files.read(kept + journal), "of this one");
+  EXPECT_FALSE(files.exists(work + journal));
+  files.remove(work);
+  files.write(work + journal, "of a file that is gone");
+  ASSERT_TRUE(login(here));
+  EXPECT_FALSE(files.exists(work + journal)) << "it would spoil the fetched file";
+}
+
+TEST_F(WorkingCopyTest, NothingIsLostBetweenTwoMachines) {
+  const unsigned seed = std::random_device()();
+  SCOPED_TRACE(seed);
+  std::mt19937 engine(seed);
+  const auto chance = [&](int most) { return std::uniform_int_distribution(0, most)(engine); };
+  for (int round = 0; round < 60; ++round) {
+    Machine& machine = machines[static_cast<size_t>(chance(1))];
+    // The other machine may be in mid-run.
+    if (chance(2) > 0) ASSERT_TRUE(login(machine));
+    if (!files.exists(machine.learner.dbFileWork)) continue;
+    if (chance(3) > 0) run(machine);
+    const bool away = chance(3) == 0;
+    if (away) takePlacedFolderAway(true);
+    clock.time = clock.time.addSecs(chance(9) - 5);
+    if (chance(3) > 0)
+      machine.copy->carryHome(chance(1) == 0 ? WorkingCopy::Texts::Stay : WorkingCopy::Texts::Go);
+    if (chance(1) == 0) machine.copy->leave();
+    if (away) takePlacedFolderAway(false);
+  }
+  QStringList found;
+  QStringList lines;
+  for (const QString& folder : QDir(root.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    const QDir place(root.filePath(folder));
+    for (const QString& file : place.entryList({QStringLiteral("TavoDB000*")}, QDir::Files))
+      found += runsIn(place.filePath(file));
+    lines += linesIn(place.filePath(QStringLiteral("TavoHistory000")));
+  }
+  for (int i = 1; i <= runs; ++i) {
+    EXPECT_TRUE(found.contains(digits(i, 6))) << i;
+    EXPECT_TRUE(lines.contains(digits(i, 6))) << i;
+  }
+}
+
+TEST_F(WorkingCopyTest, UsesNoLink) {
+  ASSERT_TRUE(login(here));
+  run(here);
+  const QString somebodys = root.filePath(QStringLiteral("somebody's"));
+  files.write(somebodys, "private");
+  for (const QString& path : {here.learner.historyFilePlaced, here.learner.dbFilePlaced}) {
+    QFile::remove(path);
+    QFile::link(somebodys, path);
+    dialogs.shown.clear();
+    here.copy->carryHome(WorkingCopy::Texts::Go);
+    EXPECT_EQ(dialogs.shown.value(0),
+              path + QStringLiteral(" はリンクなので使いません。本物のファイルに替えてください。"));
+    EXPECT_EQ(files.read(somebodys), "private");
+    EXPECT_TRUE(files.exists(here.learner.historyFileWork));
+  }
+  EXPECT_FALSE(login(here));
+  EXPECT_EQ(runsIn(here.learner.dbFileWork).size(), 1);
+}
+
+TEST_F(WorkingCopyTest, TellsWhoHoldsALockAndOffersAnOldOne) {
+  const QString lock = here.learner.dbFileWork + QStringLiteral(".lock");
+  const QByteArray elsewhere = "77\ntavoli\nlab-12\n";
+  const struct {
+    const char* name;
+    QByteArray lock;
+    int hours;
+    bool offered;
+    const char16_t* told;
+  } cases[] = {
+      {"young", elsewhere, 23, false, u"パソコン lab-12 の tavoli（プロセス番号 77）が "},
+      {"old", elsewhere, 25, true, u"パソコン lab-12 の tavoli（プロセス番号 77）が "},
+      {"empty", {}, 0, true, u"どのプログラムのロックか分かりません"},
+  };
+  for (const auto& c : cases) {
+    for (const bool takesIt : {false, true}) {
+      SCOPED_TRACE(c.name);
+      files.write(lock, c.lock);
+      const QDateTime since = files.modified(lock);
+      clock.time = since.addSecs(c.hours * 3600);
+      dialogs.answers = {takesIt};
+      EXPECT_EQ(login(here), c.offered && takesIt);
+      const QString told = (c.offered ? dialogs.asked : dialogs.shown).value(0);
+      EXPECT_TRUE(told.startsWith(here.learner.dbFileWork +
+                                  QStringLiteral(" が誤って使用中になっています。\n") +
+                                  QString::fromUtf16(c.told)));
+      EXPECT_TRUE(told.contains(since.toString(QStringLiteral("yyyy/MM/dd HH:mm"))));
+      EXPECT_TRUE(told.contains(lock));
+      EXPECT_EQ(files.read(lock) == c.lock, !c.offered || !takesIt);
+      here.copy->letGo();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavoli
