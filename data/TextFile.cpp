@@ -24,6 +24,14 @@ std::optional<QStringList> readLines(const Files& files, const QString& path) {
   return text ? std::optional(splitLines(*text)) : std::nullopt;
 }
 
+FileResult appendLine(Files& files, const QString& path, const QString& line) {
+  const QByteArray added = line.toUtf8() + '\n';
+  const QByteArray stored = files.read(path).value_or(QByteArray());
+  const std::optional<QString> text = decodeText(stored);
+  if (!text || QUtf8StringView(stored).isValidUtf8()) return files.append(path, added);
+  return files.write(path, text->toUtf8() + added);
+}
+
 QStringList splitLines(const QString& text) {
   QString unified = text;
   unified.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');

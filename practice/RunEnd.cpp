@@ -7,6 +7,7 @@
 #include "data/LearnerFiles.h"
 #include "data/Schema.h"
 #include "data/Text.h"
+#include "data/TextFile.h"
 #include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/RunHistory.h"
@@ -90,7 +91,7 @@ void RunEnd::appendTexts(const RunResult& run, const QString& progressRecord) {
                        .arg(path));
   };
   const QString line = historyLine(progressRecord, run.course, run.times, run.conditions);
-  if (m_files.append(m_learner.historyFileWork, line.toUtf8() + '\n') != FileResult::Ok)
+  if (appendLine(m_files, m_learner.historyFileWork, line) != FileResult::Ok)
     tell(m_learner.historyFileWork);
   if (!appendPastConditions(m_files, m_learner.condFileWork,
                             pastConditionsLine(m_clock.now().date(), run.course, run.conditions)))

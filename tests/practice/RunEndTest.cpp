@@ -234,12 +234,15 @@ TEST_F(RunEndTest, KeepsTheWorkingTextsForAnotherLesson) {
   for (QString* placed :
        {&learner.dbFilePlaced, &learner.condFilePlaced, &learner.historyFilePlaced})
     *placed = store.folder() + QStringLiteral("/placed%1").arg(placed - &learner.userId);
+  // A history that another program has begun in the code page 932.
+  files.write(learner.historyFileWork, "\x97\xFB\x8F\x4B\n");
   for (const bool another : {true, false}) {
     backToConditions = another;
     ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
     EXPECT_EQ(dialogs.shown, QStringList());
     for (const QString& text : {learner.condFileWork, learner.historyFileWork})
       EXPECT_EQ(files.exists(text), another) << qPrintable(text);
+    EXPECT_TRUE(files.read(learner.historyFilePlaced)->startsWith("練習\n"));
   }
 }
 
