@@ -16,7 +16,10 @@ CommandLine parseCommandLine(const QStringList& arguments, const QString& versio
   const QCommandLineOption user(QStringLiteral("user"), QStringLiteral("ユーザーID（端末のみ）"),
                                 QStringLiteral("ID"));
   const QCommandLineOption password(
-      QStringLiteral("password"), QStringLiteral("パスワード（端末のみ）"), QStringLiteral("TEXT"));
+      QStringLiteral("password"),
+      QStringLiteral("パスワード（端末のみ）。実行中の引数はほかの利用者にも見えるので、環境変数 "
+                     "TAVOLI_PASSWORD で渡すか、省略して入力してください。"),
+      QStringLiteral("TEXT"));
   const QCommandLineOption set(QStringLiteral("set"),
                                QStringLiteral("今回の練習条件を変えます（端末のみ、何度でも）。"),
                                QStringLiteral("NAME=VALUE"));
@@ -32,7 +35,7 @@ CommandLine parseCommandLine(const QStringList& arguments, const QString& versio
   line.terminal = parser.isSet(terminal);
   line.applicationFolder = parser.value(folder);
   if (parser.isSet(user)) line.terminalOptions.user = parser.value(user);
-  line.terminalOptions.password = parser.value(password);
+  if (parser.isSet(password)) line.terminalOptions.password = parser.value(password);
   for (const QString& setting : parser.values(set)) {
     const qsizetype equals = setting.indexOf(u'=');
     if (equals < 1)

@@ -1,5 +1,8 @@
 #include "app/Terminal.h"
 
+#include <termios.h>
+#include <unistd.h>
+
 namespace tavoli {
 
 namespace {
@@ -48,6 +51,22 @@ std::optional<QString> Terminal::readLine() {
   m_out.flush();
   const QString line = m_in.readLine();
   if (line.isNull()) return std::nullopt;
+  return line;
+}
+
+bool Terminal::isInteractive() {
+  return isatty(STDIN_FILENO) != 0;
+}
+
+std::optional<QString> Terminal::readHiddenLine() {
+  termios shown{};
+  if (!isInteractive() || tcgetattr(STDIN_FILENO, &shown) != 0) return readLine();
+  termios hidden = shown;
+  hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  hidden.c_lflag |= ECHONL;
+  tcsetattr(STDIN_FILENO, TCSADRAIN, &hidden);
+  std::optional<QString> line = readLine();
+  tcsetattr(STDIN_FILENO, TCSADRAIN, &shown);
   return line;
 }
 

@@ -27,6 +27,10 @@ class Terminal {
   void print(const QString& area, const QString& text);
   /// The next line; nothing at the end of the input.
   std::optional<QString> readLine();
+  /// The same; what a person types is not seen.
+  std::optional<QString> readHiddenLine();
+  /// Whether a person types, not a script.
+  static bool isInteractive();
 
  private:
   QTextStream m_in;

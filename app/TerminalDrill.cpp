@@ -79,9 +79,10 @@ int TerminalDrill::run() {
 bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
   if (m_options.user) {
     screen.userId = *m_options.user;
+    const std::optional<QString> given = password();
     // An empty id becomes the standard user at the first press and goes on at the second.
-    return login.next(screen.userId, m_options.password) ||
-           (m_options.user->isEmpty() && login.next(screen.userId, m_options.password));
+    return given && (login.next(screen.userId, *given) ||
+                     (m_options.user->isEmpty() && login.next(screen.userId, *given)));
   }
   for (;;) {
     const QString before = screen.userId;
@@ -89,15 +90,22 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
     const std::optional<QString> id = m_terminal.readLine();
     if (!id) return false;
     screen.userId = id->isEmpty() ? before : *id;
-    QString password = m_options.password;
-    if (!screen.userId.isEmpty()) {
-      m_terminal.print(QStringLiteral("入力"), QStringLiteral("パスワード："));
-      const std::optional<QString> typed = m_terminal.readLine();
-      if (!typed) return false;
-      password = *typed;
-    }
-    if (login.next(screen.userId, password)) return true;
+    const std::optional<QString> typed = screen.userId.isEmpty() ? QString() : askPassword();
+    if (!typed) return false;
+    if (login.next(screen.userId, *typed)) return true;
   }
+}
+
+std::optional<QString> TerminalDrill::password() {
+  const char* const variable = "TAVOLI_PASSWORD";
+  if (m_options.password) return m_options.password;
+  if (qEnvironmentVariableIsSet(variable)) return qEnvironmentVariable(variable);
+  return m_terminal.isInteractive() ? askPassword() : QString();
+}
+
+std::optional<QString> TerminalDrill::askPassword() {
+  m_terminal.print(QStringLiteral("入力"), QStringLiteral("パスワード："));
+  return m_terminal.readHiddenLine();
 }
 
 std::optional<QString> TerminalDrill::chooseConditions(int& status) {

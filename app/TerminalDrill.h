@@ -21,7 +21,7 @@ namespace tavoli {
 /// What the command line says about a drill in the terminal.
 struct TerminalOptions {
   std::optional<QString> user;
-  QString password;
+  std::optional<QString> password;
   NamedValues settings;  ///< conditions
 };
 
@@ -38,6 +38,10 @@ class TerminalDrill {
 
  private:
   bool login(Login& login, TerminalLogin& screen);
+  /// The password that came with the program's start, or that a learner at a terminal types;
+  /// nothing at the end of the input.
+  std::optional<QString> password();
+  std::optional<QString> askPassword();
   /// The tables of the progress screen.
   void showProgress();
   /// The way over the conditions screen, as the command line says; returns the key at which the
