@@ -1,8 +1,10 @@
 #include <QApplication>
+#include <QDir>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 #include <cstdio>
+#include <sys/stat.h>
 
 #include "app/CommandLine.h"
 #include "app/Placement.h"
@@ -27,8 +29,10 @@ int start(const CommandLine& line) {
   SystemFiles files;
   const SystemClock clock;
   const QString programFolder = QCoreApplication::applicationDirPath();
-  const QString folder = line.applicationFolder.isEmpty() ? applicationFolderFor(programFolder)
-                                                          : line.applicationFolder;
+  // Whatever becomes the current folder later: the learners' files stay where they are.
+  const QString folder = line.applicationFolder.isEmpty()
+                             ? applicationFolderFor(programFolder)
+                             : QDir::cleanPath(QDir().absoluteFilePath(line.applicationFolder));
   const bool filled = fillApplicationFolder(files, programFolder, folder);
   if (!filled) {
     std::fprintf(stderr, "tavoli: %s にデータを用意できません。書き込めるか確かめてください。\n",
@@ -45,6 +49,7 @@ int start(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  umask(S_IRWXG | S_IRWXO);  // what the program makes is the learner's alone
   const CommandLine line =
       parseCommandLine(argumentsOf(argc, argv), QStringLiteral(TAVOLI_VERSION));
   if (!line.complaint.isEmpty()) {

@@ -178,6 +178,29 @@ TEST_F(TerminalDrillTest, ASpecialistDictionaryIsAskedFor) {
                                  u"コース：専門 BusinessTOEIC"});
 }
 
+TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
+  const QString before = QDir::currentPath();
+  QDir::setCurrent(folder.path());
+  qputenv("TAVOLI_PASSWORD", "secret");
+  const QStringList here = {QStringLiteral("--app-folder"), QStringLiteral("deep/er/..")};
+  const Outcome outcome =
+      run(QStringList{QStringLiteral("--user"), QStringLiteral("000")} + here, ":yes\n");
+  qunsetenv("TAVOLI_PASSWORD");
+  QDir::setCurrent(before);
+  EXPECT_EQ(outcome.status, 0);
+  expectInOrder(outcome.output, {u"[箱] パスワードは「secret」です。"});
+  const QString app = folder.filePath(QStringLiteral("deep"));
+  QFile placement(app + QStringLiteral("/TavoAlloc.txt"));
+  ASSERT_TRUE(placement.open(QIODevice::ReadOnly));
+  EXPECT_EQ(placement.readAll(), (app + QStringLiteral("/TavoliPersonalData\n")).toUtf8());
+  constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                          QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+  for (const char16_t* made :
+       {u"", u"/TavoAlloc.txt", u"/TavoliPersonalData", u"/TavoliPersonalData/TavoHistory000"})
+    EXPECT_FALSE(QFile::permissions(app + QString::fromUtf16(made)) & others)
+        << qPrintable(QString::fromUtf16(made));
+}
+
 TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
   const struct {
     const char* name;
