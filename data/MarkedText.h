@@ -10,7 +10,9 @@ namespace tavoli {
 /// between them, "％" breaks the line.
 struct MarkedText {
   struct Span {
-    enum class Kind { Underlined, Coloured };
+    /// The marks of a text, and what a question on show adds: the blank that is asked, and the
+    /// answers that were right.
+    enum class Kind { Underlined, Coloured, Asked, Answered };
     Kind kind;
     qsizetype offset;  ///< in `text`, from 0
     qsizetype length;
