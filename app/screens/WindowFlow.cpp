@@ -112,10 +112,13 @@ void WindowFlow::startPractice(const QString& startKey) {
     m_run.reset();
     return;
   }
-  m_tavo3->connectTo(m_run->loop(), [this] { endPractice(); });
+  m_tavo3->connectTo(m_run->loop(), m_clock, [this] { endPractice(); });
   m_tavo4->connectTo(
       m_run->loop(), [this] { replaceWindow(*m_tavo3, *m_tavo4); },
-      [this] { replaceWindow(*m_tavo4, *m_tavo3); });
+      [this] {
+        m_tavo3->resumeFromReview();
+        replaceWindow(*m_tavo4, *m_tavo3);
+      });
   m_tavo3->show();
   m_tavo2->hide();
 }

@@ -1,12 +1,17 @@
 #include "practice/screens/FunctionKeys.h"
 
 #include <QLayout>
+#include <QShortcut>
 
 #include <utility>
+
+#include "system/screens/FoldingRow.h"
 
 namespace tavoli {
 
 namespace {
+
+constexpr int spacing = 4;
 
 const QString exitTip = QStringLiteral("F6 ｷｰでプログラムを終了します。");
 
@@ -44,36 +49,55 @@ const KeyButtons& reviewKeys() {
 
 FunctionKeys::FunctionKeys(const KeyButtons& keys, Pressed pressed, QWidget* parent)
     : QWidget(parent), m_pressed(std::move(pressed)) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(4);
-  for (const KeyButton& key : keys.left) addButton(key);
-  row->addStretch(1);
-  for (const KeyButton& key : keys.right) addButton(key);
+  auto* parts = new FoldingRow(this);
+  parts->setSpacing(spacing);
+  auto* left = makeRow(keys.left);
+  left->addStretch(1);
+  auto* right = makeRow(keys.right);
+  right->insertStretch(0, 1);
+  for (QLayout* row : {left, right}) parts->add(row->parentWidget());
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->addWidget(parts);
 }
 
-void FunctionKeys::addButton(const KeyButton& key) {
+QBoxLayout* FunctionKeys::makeRow(const std::vector<KeyButton>& keys) {
+  auto* part = new QWidget(this);
+  auto* row = new QHBoxLayout(part);
+  row->setContentsMargins({});
+  row->setSpacing(spacing);
+  for (const KeyButton& key : keys) row->addWidget(makeButton(key));
+  return row;
+}
+
+QPushButton* FunctionKeys::makeButton(const KeyButton& key) {
   auto* button = new QPushButton(key.caption, this);
   button->setObjectName(QStringLiteral("Command1(%1)").arg(key.index));
   button->setToolTip(key.tip);
   button->setFocusPolicy(Qt::NoFocus);
-  // Less than a style's own room around a caption, so that the row fits a small screen.
   QString caption = key.caption;
   caption.remove(u'&');
+  button->setAccessibleName(caption.simplified());
+  // Less than a style's own room around a caption, so that the row fits a small screen.
   button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + 12);
   connect(button, &QPushButton::clicked, this, [this, which = key.key] { m_pressed(which, true); });
-  layout()->addWidget(button);
+  // The button's own hot key would go on pressing it while it is held.
+  button->setShortcut({});
+  auto* hotKey = new QShortcut(QKeySequence::mnemonic(key.caption), button);
+  hotKey->setAutoRepeat(false);
+  connect(hotKey, &QShortcut::activated, button, &QPushButton::click);
   m_buttons.emplace(key.key, button);
+  return button;
 }
 
 void FunctionKeys::enableKey(FunctionKey key, bool enabled) {
   m_buttons.at(key)->setEnabled(enabled);
 }
 
-bool FunctionKeys::press(int key) {
-  const auto found = m_buttons.find(static_cast<FunctionKey>(key - Qt::Key_F1 + 1));
+bool FunctionKeys::press(const QKeyEvent& event) {
+  const auto found = m_buttons.find(static_cast<FunctionKey>(event.key() - Qt::Key_F1 + 1));
   if (found == m_buttons.end()) return false;
-  if (found->second->isEnabled()) m_pressed(found->first, false);
+  if (found->second->isEnabled() && !event.isAutoRepeat()) m_pressed(found->first, false);
   return true;
 }
 

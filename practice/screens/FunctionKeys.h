@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include <functional>
@@ -34,11 +36,14 @@ class FunctionKeys final : public QWidget {
   FunctionKeys(const KeyButtons& keys, Pressed pressed, QWidget* parent = nullptr);
 
   void enableKey(FunctionKey key, bool enabled);
-  /// Presses what belongs to a key of the keyboard. False when it is none of the row's.
-  bool press(int key);
+  /// Presses what belongs to a key of the keyboard; a key that is held presses once. False when it
+  /// is none of the row's.
+  bool press(const QKeyEvent& event);
 
  private:
-  void addButton(const KeyButton& key);
+  /// A row of buttons on a widget of its own.
+  QBoxLayout* makeRow(const std::vector<KeyButton>& keys);
+  QPushButton* makeButton(const KeyButton& key);
 
   Pressed m_pressed;
   std::map<FunctionKey, QPushButton*> m_buttons;

@@ -79,9 +79,10 @@ void LookUpPane::showResult(const std::optional<MarkedText>& entry) {
   if (entry) m_entry->setMarkedText(*entry);
 }
 
-bool LookUpPane::keyPressed(const QObject* watched, int key) {
+bool LookUpPane::keyPressed(const QObject* watched, const QKeyEvent& event) {
+  const int key = event.key();
   if (watched == m_entry && key == Qt::Key_F11) {
-    m_entry->pickWord();
+    if (!event.isAutoRepeat()) m_entry->pickWord();
     return true;
   }
   if (watched != m_word || (key != Qt::Key_Up && key != Qt::Key_Down)) return false;
@@ -90,8 +91,7 @@ bool LookUpPane::keyPressed(const QObject* watched, int key) {
 }
 
 bool LookUpPane::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress &&
-      keyPressed(watched, static_cast<QKeyEvent*>(event)->key()))
+  if (event->type() == QEvent::KeyPress && keyPressed(watched, *static_cast<QKeyEvent*>(event)))
     return true;
   return QWidget::eventFilter(watched, event);
 }

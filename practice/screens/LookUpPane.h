@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QWidget>
 
@@ -33,7 +34,7 @@ class LookUpPane final : public QWidget {
   void stepEntry(bool back);
   /// Shows what a look-up gave; nothing leaves the pane as it is.
   void showResult(const std::optional<MarkedText>& entry);
-  bool keyPressed(const QObject* watched, int key);
+  bool keyPressed(const QObject* watched, const QKeyEvent& event);
 
   LookUp& m_dictionary;
   QLineEdit* m_word;

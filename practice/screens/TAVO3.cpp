@@ -15,6 +15,7 @@
 #include "practice/screens/LogView.h"
 #include "practice/screens/PracticeMenus.h"
 #include "practice/screens/StatusPanels.h"
+#include "system/Clock.h"
 
 namespace tavoli {
 
@@ -95,10 +96,22 @@ void TAVO3::arrange() {
   m_areas.arrange(questionRow, explanations, m_keys);
 }
 
-void TAVO3::connectTo(PracticeLoop& loop, std::function<void()> closed) {
+void TAVO3::connectTo(PracticeLoop& loop, const Clock& clock, std::function<void()> closed) {
   m_loop = &loop;
+  m_clock = &clock;
   m_closed = std::move(closed);
   m_seconds.start(std::chrono::seconds(1));
+}
+
+void TAVO3::resumeFromReview() {
+  m_reviewEnd = m_clock->now();
+}
+
+bool TAVO3::justReviewed() const {
+  constexpr qint64 deafMilliseconds = 700;
+  if (!m_reviewEnd.isValid()) return false;
+  const qint64 since = m_reviewEnd.msecsTo(m_clock->now());
+  return since >= 0 && since < deafMilliseconds;
 }
 
 PracticeLoop* TAVO3::loop() const {
@@ -189,22 +202,25 @@ void TAVO3::pressKey(FunctionKey key, bool byButton) {
     case FunctionKey::F9:
       return drill->requestPrint();
     case FunctionKey::F11:
-      return drill->markKnown(byButton);
+      if (!justReviewed()) drill->markKnown(byButton);
+      return;
   }
 }
 
 void TAVO3::keyPressEvent(QKeyEvent* event) {
-  if (!m_keys->press(event->key())) QMainWindow::keyPressEvent(event);
+  if (!m_keys->press(*event)) QMainWindow::keyPressEvent(event);
 }
 
 bool TAVO3::eventFilter(QObject* watched, QEvent* event) {
   if (watched != m_areas.fullAnswer || event->type() != QEvent::KeyPress)
     return QMainWindow::eventFilter(watched, event);
-  const int key = static_cast<QKeyEvent*>(event)->key();
+  const auto* pressed = static_cast<QKeyEvent*>(event);
+  const int key = pressed->key();
   const bool confirming = loop() && loop()->確認中();
   if (confirming && (key == Qt::Key_Up || key == Qt::Key_Down)) return true;
   if (key != Qt::Key_Return && key != Qt::Key_Enter)
     return QMainWindow::eventFilter(watched, event);
+  if (pressed->isAutoRepeat()) return true;
   if (confirming)
     loop()->enter(QString());
   else

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QTimer>
 
 #include <functional>
@@ -9,6 +10,7 @@
 
 namespace tavoli {
 
+class Clock;
 class CountsFrame;
 class FunctionKeys;
 class LogView;
@@ -27,7 +29,10 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
 
   /// Keys go to `loop` from now on, and its clock ticks. `closed` is called once, when the end of
   /// the run was confirmed.
-  void connectTo(PracticeLoop& loop, std::function<void()> closed);
+  void connectTo(PracticeLoop& loop, const Clock& clock, std::function<void()> closed);
+  /// A review has ended. F11 ends its items too, and once too often it would mark the item that
+  /// follows: for a moment it does nothing.
+  void resumeFromReview();
 
   void showCaption(const QString& text) override;
   void showSource(const QString& text) override;
@@ -54,11 +59,14 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
   /// The loop, or nothing when none is connected, its run is over, or a review has the keys.
   PracticeLoop* loop() const;
   void pressKey(FunctionKey key, bool byButton);
+  bool justReviewed() const;
   void answerClicked();
   void setRepeats();
 
   PracticeConditions& m_conditions;
   PracticeLoop* m_loop = nullptr;
+  const Clock* m_clock = nullptr;
+  QDateTime m_reviewEnd;
   std::function<void()> m_closed;
   QTimer m_seconds;
 

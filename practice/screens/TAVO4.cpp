@@ -92,7 +92,7 @@ void TAVO4::closeEvent(QCloseEvent* event) {
 }
 
 void TAVO4::keyPressEvent(QKeyEvent* event) {
-  if (!m_keys->press(event->key())) QMainWindow::keyPressEvent(event);
+  if (!m_keys->press(*event)) QMainWindow::keyPressEvent(event);
 }
 
 void TAVO4::pressKey(FunctionKey key) {

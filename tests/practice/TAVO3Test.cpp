@@ -35,7 +35,7 @@ class TAVO3Test : public test::AnswerWindow<TAVO3> {
     loop = std::make_unique<PracticeLoop>(
         set, course, conditions, times,
         LoopServices{window, review, dialogs, random, clock, speaker});
-    window.connectTo(*loop, [this] { ++closed; });
+    window.connectTo(*loop, clock, [this] { ++closed; });
     loop->start(2);
     window.show();
     QApplication::setActiveWindow(&window);
@@ -48,6 +48,12 @@ class TAVO3Test : public test::AnswerWindow<TAVO3> {
 
 TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   EXPECT_EQ(QApplication::focusWidget(), answer);
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("単語熟語　順に - Tavoli"));
+  for (const auto& [panel, text] :
+       {std::pair(1, u"復習は3問ごとに"), std::pair(2, u"位置=1／3 000120"),
+        std::pair(4, u"開始時刻　09:00"), std::pair(7, u"練習回数 = 0")})
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("StatusBar1.Panel%1").arg(panel))->text(),
+              QString::fromUtf16(text));
   EXPECT_TRUE(question->toPlainText().contains(QStringLiteral("彼は学生です。\nHe (   )")));
   type(QStringLiteral("is"));
   EXPECT_EQ(QApplication::focusWidget(), fullAnswer) << "the full answer waits for Enter";
@@ -71,10 +77,12 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   EXPECT_TRUE(message->text().startsWith(QStringLiteral("○　正解です。")));
   QTest::mouseClick(answer, Qt::LeftButton);
   EXPECT_EQ(loop->POS(), 3) << "a click into the answer box goes on too";
-  press(Qt::Key_F4);
-  EXPECT_EQ(loop->POS(), 2);
-  press(Qt::Key_F3);
-  EXPECT_EQ(loop->POS(), 3);
+  for (const auto& [key, POS] : {std::pair(Qt::Key_F4, 2), std::pair(Qt::Key_F3, 3)}) {
+    window.showMessage(QStringLiteral("前の回答"));
+    press(key);
+    EXPECT_EQ(loop->POS(), POS);
+    EXPECT_EQ(message->text(), QString()) << "what was told goes with its item";
+  }
 
   dialogs.asked.clear();
   dialogs.answers = {false, false, true};
@@ -96,9 +104,20 @@ TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
   EXPECT_FALSE(loop->確認中());
   loop->review().enter(QStringLiteral("apple"));
   loop->review().enter(QString());
-  answer->clear();
-  type(QStringLiteral("is"));
+  // The F11 that ended the review, pressed once more or held, is not meant for the next item.
+  window.resumeFromReview();
+  clock.time = clock.time.addMSecs(699);
+  press(Qt::Key_F11);
+  clock.time = clock.time.addMSecs(1);
+  for (const auto key : {Qt::Key_F11, Qt::Key_F3, Qt::Key_Return}) {
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(answer, &held);
+  }
+  EXPECT_FALSE(loop->確認中());
+  EXPECT_EQ(loop->POS(), 1);
+  press(Qt::Key_F11);
   EXPECT_TRUE(loop->確認中());
+  press(Qt::Key_F4);
   press(Qt::Key_F9);
   EXPECT_EQ(loop->printRequests().items().size(), 1);
 }
