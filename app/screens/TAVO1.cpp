@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -143,16 +144,21 @@ void TAVO1::watch(const QScreen* screen) const {
 void TAVO1::placeForm() {
   const LoginLayout layout = loginLayout(screen()->size());
   const QRect available = screen()->availableGeometry();
-  if (layout.form) {
-    setWindowState(windowState() & ~Qt::WindowMaximized);
-    QRect form(QPoint(), layout.form->boundedTo(available.size()));
-    form.moveCenter(available.center());
-    setGeometry(form);
-  } else {
-    setGeometry(available);
-    setWindowState(windowState() | Qt::WindowMaximized);
-  }
+  // The size of the form is that of the window with its frame.
+  const QSize frame = frameSizeAround();
+  QRect form(QPoint(), layout.form.value_or(available.size()).boundedTo(available.size()));
+  form.moveCenter(available.center());
+  if (layout.form) setWindowState(windowState() & ~Qt::WindowMaximized);
+  resize(form.size() - frame);
+  move(form.topLeft());
+  if (!layout.form) setWindowState(windowState() | Qt::WindowMaximized);
   layOut();
+}
+
+QSize TAVO1::frameSizeAround() const {
+  // A window that was never on the screen has no frame yet.
+  if (!isVisible()) return {0, style()->pixelMetric(QStyle::PM_TitleBarHeight)};
+  return frameGeometry().size() - size();
 }
 
 void TAVO1::layOut() {

@@ -48,6 +48,7 @@ class TAVO1 final : public QMainWindow, public LoginScreen {
   void watch(const QScreen* screen) const;
   /// Gives the window its size on this screen and lays it out again; what was typed stays.
   void placeForm();
+  QSize frameSizeAround() const;
   void layOut();
   void placeFrame2();
   bool keyPressed(const QObject* field, int key);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "conditions/ConditionsRules.h"
+#include "system/screens/FoldingRow.h"
 
 namespace tavoli {
 
@@ -23,8 +24,10 @@ NumbersPanel::NumbersPanel(ConditionsRules& rules, QWidget* parent)
     : QWidget(parent), m_rules(rules) {
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins({});
-  addLevels(grid);
-  addLoads(grid);
+  auto* amounts = new FoldingRow(this);
+  amounts->add(makeLevels());
+  amounts->add(makeLoads(), 1);
+  grid->addWidget(amounts, 0, 0);
   addReview(grid);
   addTargets(grid);
 }
@@ -44,7 +47,7 @@ NumberBox* NumbersPanel::make(NumberField field, const QString& name, const QStr
   return box;
 }
 
-void NumbersPanel::addLevels(QGridLayout* grid) {
+QGroupBox* NumbersPanel::makeLevels() {
   QGroupBox* group = makeGroup(QStringLiteral("単語・熟語レベル"));
   auto* row = new QHBoxLayout(group);
   row->addWidget(
@@ -53,10 +56,10 @@ void NumbersPanel::addLevels(QGridLayout* grid) {
   row->addWidget(
       make(NumberField::LevelTo, QStringLiteral("Text7"), QStringLiteral("まで"), group));
   row->addStretch(1);
-  grid->addWidget(group, 0, 0);
+  return group;
 }
 
-void NumbersPanel::addLoads(QGridLayout* grid) {
+QGroupBox* NumbersPanel::makeLoads() {
   QGroupBox* group = makeGroup(QStringLiteral("最大読込数"));
   const QString words = QStringLiteral("単語・熟語");
   const QString sentences = QStringLiteral("例文");
@@ -66,19 +69,20 @@ void NumbersPanel::addLoads(QGridLayout* grid) {
   row->addWidget(new QLabel(sentences, group));
   row->addWidget(make(NumberField::MaxLoadSent, QStringLiteral("Text10"), sentences, group));
   row->addStretch(1);
-  grid->addWidget(group, 0, 1);
+  return group;
 }
 
 void NumbersPanel::addReview(QGridLayout* grid) {
   QGroupBox* group = makeGroup(QStringLiteral("復習周期の指定"));
   auto* row = new QHBoxLayout(group);
   row->addWidget(make(NumberField::ReviewCycle, QStringLiteral("Text8"), QString(), group));
-  row->addWidget(new QLabel(QStringLiteral("復習周期 = 0の場合は復習をしない"), group));
-  row->addStretch(1);
+  auto* none = new QLabel(QStringLiteral("復習周期 = 0の場合は復習をしない"), group);
+  none->setWordWrap(true);
+  row->addWidget(none, 1);
   auto* standard = standardButton(QStringLiteral("Command3"), group->title(), group);
   connect(standard, &QPushButton::clicked, this, [this] { m_rules.restoreReviewCycle(); });
   row->addWidget(standard);
-  grid->addWidget(group, 1, 0, 1, 2);
+  grid->addWidget(group, 1, 0);
 }
 
 void NumbersPanel::addTargets(QGridLayout* grid) {
@@ -103,7 +107,7 @@ void NumbersPanel::addTargets(QGridLayout* grid) {
   connect(standard, &QPushButton::clicked, this, [this] { m_rules.restoreTargets(); });
   rows->addWidget(standard, 1, 5, Qt::AlignRight);
   rows->setColumnStretch(5, 1);
-  grid->addWidget(group, 2, 0, 1, 2);
+  grid->addWidget(group, 2, 0);
 }
 
 }  // namespace tavoli

@@ -22,8 +22,8 @@ class NumbersPanel final : public QWidget {
   QGroupBox* makeGroup(const QString& title);
   /// The field's box; `name` is that of the box on the screen.
   NumberBox* make(NumberField field, const QString& name, const QString& caption, QGroupBox* group);
-  void addLevels(QGridLayout* grid);
-  void addLoads(QGridLayout* grid);
+  QGroupBox* makeLevels();
+  QGroupBox* makeLoads();
   void addReview(QGridLayout* grid);
   void addTargets(QGridLayout* grid);
 

@@ -4,7 +4,9 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QScrollArea>
 
+#include <algorithm>
 #include <utility>
 
 #include "conditions/screens/ChoicePanel.h"
@@ -12,6 +14,7 @@
 #include "conditions/screens/NumbersPanel.h"
 #include "conditions/screens/PastPanel.h"
 #include "system/screens/ChoiceDialog.h"
+#include "system/screens/FoldingRow.h"
 
 namespace tavoli {
 
@@ -31,11 +34,13 @@ TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
   setObjectName(QStringLiteral("TAVO2"));
   setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間 - Tavoli"));
   auto* centre = new QWidget(this);
-  auto* present = new QGroupBox(QStringLiteral("今回"), centre);
+  auto* columns = new FoldingRow(this, FoldingRow::Fold::BelowPreferred);
+  auto* present = new QGroupBox(QStringLiteral("今回"), columns);
   m_choices = new ChoicePanel(m_rules, present);
-  m_lesson = new LessonPanel(m_rules, present);
-  m_numbers = new NumbersPanel(m_rules, present);
-  m_past = new PastPanel(m_rules, centre);
+  auto* details = new QWidget(present);
+  m_lesson = new LessonPanel(m_rules, details);
+  m_numbers = new NumbersPanel(m_rules, details);
+  m_past = new PastPanel(m_rules, columns);
   m_command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"), centre);
   connect(m_command1, &QPushButton::clicked, this, [this] {
     if (const std::optional<QString> startKey = m_rules.next()) next(*startKey);
@@ -43,21 +48,27 @@ TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
   auto* command5 = makeButton(QStringLiteral("Command5"), QStringLiteral("終了"), centre);
   connect(command5, &QPushButton::clicked, this, &QWidget::close);
 
-  auto* right = new QVBoxLayout;
+  auto* right = new QVBoxLayout(details);
+  right->setContentsMargins({});
   right->addWidget(m_lesson, 1);
   right->addWidget(m_numbers);
-  auto* presentRow = new QHBoxLayout(present);
-  presentRow->addWidget(m_choices);
-  presentRow->addLayout(right, 1);
-  auto* columns = new QHBoxLayout;
-  columns->addWidget(present, 3);
-  columns->addWidget(m_past, 1);
+  auto* parts = new FoldingRow(present);
+  parts->add(m_choices);
+  parts->add(details, 1);
+  (new QVBoxLayout(present))->addWidget(parts);
+  columns->add(present, 3);
+  columns->add(m_past, 1);
+  auto* scrolled = new QScrollArea(centre);
+  scrolled->setFrameShape(QFrame::NoFrame);
+  scrolled->setWidgetResizable(true);
+  scrolled->setFocusPolicy(Qt::NoFocus);
+  scrolled->setWidget(columns);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
   buttons->addWidget(m_command1);
   buttons->addWidget(command5);
   auto* column = new QVBoxLayout(centre);
-  column->addLayout(columns, 1);
+  column->addWidget(scrolled, 1);
   column->addLayout(buttons);
   setCentralWidget(centre);
   // In lines of the font, which is larger on a large screen.
@@ -128,7 +139,9 @@ std::optional<QString> TAVO2::chooseSpecialTable(const QStringList& tables,
   dialog.setObjectName(QStringLiteral("TAVO8"));
   if (isVisible()) {
     const QGroupBox& courses = m_choices->courses();
-    dialog.move(courses.mapToGlobal(courses.rect().topRight()));
+    const QPoint beside = courses.mapToGlobal(courses.rect().topRight());
+    const int most = screen()->availableGeometry().right() - dialog.sizeHint().width();
+    dialog.move(std::min(beside.x(), most), beside.y());
   }
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.chosen();

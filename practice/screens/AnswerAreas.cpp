@@ -1,5 +1,7 @@
 #include "practice/screens/AnswerAreas.h"
 
+#include <utility>
+
 #include "practice/screens/AnswerBox.h"
 #include "practice/screens/LookUpPane.h"
 #include "practice/screens/MessageLine.h"
@@ -57,23 +59,24 @@ void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* 
   answerRow->addWidget(label);
   answerRow->addWidget(answer, 1);
 
-  auto* rows = openSplitter(Qt::Vertical, &m_window);
-  auto* asking = new QWidget(rows);
+  m_rows = openSplitter(Qt::Vertical, &m_window);
+  auto* asking = new QWidget(m_rows);
   auto* askingColumn = new QVBoxLayout(asking);
   askingColumn->setContentsMargins(0, 0, 0, 0);
   askingColumn->addLayout(questionRow, 1);
   askingColumn->addLayout(answerRow);
   askingColumn->addWidget(message);
-  rows->addWidget(explanations);
-  rows->addWidget(m_lookUps);
-  rows->setStretchFactor(0, 3);
-  rows->setStretchFactor(1, 4);
-  rows->setStretchFactor(2, 3);
+  message->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  m_rows->addWidget(explanations);
+  m_rows->addWidget(m_lookUps);
+  m_rows->setStretchFactor(0, 3);
+  m_rows->setStretchFactor(1, 4);
+  m_rows->setStretchFactor(2, 3);
 
   auto* centre = new QWidget(&m_window);
   auto* column = new QVBoxLayout(centre);
   column->addLayout(head);
-  column->addWidget(rows, 1);
+  column->addWidget(m_rows, 1);
   column->addWidget(keys);
   m_window.setCentralWidget(centre);
   m_textMenu = new TextMenu(&m_window);
@@ -89,7 +92,21 @@ void AnswerAreas::addLookUp(const QString& dictionaryHeading, LookUp& dictionary
   m_panes.append(pane);
 }
 
+bool AnswerAreas::low() const {
+  constexpr int enoughLines = 30;
+  return m_window.height() < enoughLines * m_window.fontMetrics().lineSpacing();
+}
+
+void AnswerAreas::fitHeight() {
+  m_lookUps->setVisible(m_lookedUp || !low());
+  if (low() == std::exchange(m_low, low())) return;
+  message->setMinimumHeight((m_low ? 1 : 2) * message->fontMetrics().lineSpacing());
+  if (m_low) m_rows->setSizes({3, 1, 1});
+}
+
 void AnswerAreas::lookUp(const QString& text) {
+  m_lookedUp = true;
+  fitHeight();
   for (LookUpPane* pane : std::as_const(m_panes)) pane->setWord(text);
 }
 

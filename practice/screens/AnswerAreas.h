@@ -33,8 +33,13 @@ class AnswerAreas {
 
   /// Adds a look-up pane. The dictionary must be there as long as the window is used.
   void addLookUp(const QString& heading, LookUp& dictionary);
-  /// Puts a text into all look-up panes.
+  /// Puts a text into all look-up panes, and opens them.
   void lookUp(const QString& text);
+  /// Shares out the window's height, which has changed. In a low window the look-up panes make room
+  /// for the question until something is looked up.
+  void fitHeight();
+  /// The window has room for little more than question and answer.
+  bool low() const;
 
   QLabel* const heading;
   TimeStrip* const time;
@@ -47,6 +52,9 @@ class AnswerAreas {
   QMainWindow& m_window;
   QSplitter* m_lookUps;
   QList<LookUpPane*> m_panes;
+  QSplitter* m_rows = nullptr;
+  bool m_lookedUp = false;
+  bool m_low = false;
   TextMenu* m_textMenu = nullptr;
 };
 

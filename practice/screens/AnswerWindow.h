@@ -35,6 +35,11 @@ class AnswerWindow : public QMainWindow, public Screen {
  protected:
   explicit AnswerWindow(QWidget* parent) : QMainWindow(parent), m_areas(*this) {}
 
+  void resizeEvent(QResizeEvent* event) override {
+    QMainWindow::resizeEvent(event);
+    m_areas.fitHeight();
+  }
+
   AnswerAreas m_areas;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLayout>
+#include <QScrollBar>
 
 namespace tavoli {
 
@@ -26,7 +27,6 @@ CountsFrame::CountsFrame(QWidget* parent)
   m_table->setFocusPolicy(Qt::NoFocus);
   m_table->setFrameShape(QFrame::NoFrame);
   m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   for (QHeaderView* header : {m_table->horizontalHeader(), m_table->verticalHeader()}) {
     header->setSectionResizeMode(QHeaderView::Fixed);
     header->setSectionsClickable(false);
@@ -36,13 +36,25 @@ CountsFrame::CountsFrame(QWidget* parent)
   m_table->horizontalHeader()->setDefaultSectionSize(3 * line);
   m_table->verticalHeader()->setMinimumSectionSize(line + 4);
   m_table->verticalHeader()->setDefaultSectionSize(line + 4);
-  m_table->setFixedSize(m_table->verticalHeader()->sizeHint().width() + 9 * line,
-                        m_table->horizontalHeader()->sizeHint().height() + rowCount * (line + 4));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(4, 4, 4, 4);
   column->addWidget(m_table);
   column->addStretch(1);
+  setLow(false);
   showCounts({});
+}
+
+void CountsFrame::setLow(bool low) {
+  const auto height = [this](int rows) {
+    return m_table->horizontalHeader()->sizeHint().height() +
+           rows * m_table->verticalHeader()->defaultSectionSize();
+  };
+  m_table->setVerticalScrollBarPolicy(low ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+  m_table->setFixedWidth(m_table->verticalHeader()->sizeHint().width() +
+                         m_table->horizontalHeader()->length() +
+                         (low ? m_table->verticalScrollBar()->sizeHint().width() : 0));
+  m_table->setMinimumHeight(height(low ? 1 : rowCount));
+  m_table->setMaximumHeight(height(rowCount));
 }
 
 void CountsFrame::showCounts(const RunCounts& counts) {

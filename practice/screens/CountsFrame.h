@@ -14,6 +14,8 @@ class CountsFrame final : public QGroupBox {
   explicit CountsFrame(QWidget* parent = nullptr);
 
   void showCounts(const RunCounts& counts);
+  /// In a low window the table takes little height, and scrolls.
+  void setLow(bool low);
 
  private:
   QTableWidget* m_table;

@@ -87,30 +87,35 @@ void StatusPanels::resizeEvent(QResizeEvent* event) {
 
 void StatusPanels::arrange() {
   std::vector<QLabel*> shown;
-  std::vector<int> widths;
+  std::vector<int> shared;
+  int room = width();
   for (QLabel* label : m_panels) {
     if (label->text().isEmpty()) continue;
     shown.push_back(label);
-    widths.push_back(wantedWidth(label));
+    // The position is always whole; what is left is for the others.
+    if (label == panel(StatusPanel::Position))
+      room -= wantedWidth(label);
+    else
+      shared.push_back(wantedWidth(label));
   }
-  if (shown.empty()) return;
+  room -= gap * static_cast<int>(shown.size() - 1);
   // The greatest width that lets all fit; shorter panels keep theirs.
-  int room = width() - gap * static_cast<int>(shown.size() - 1);
-  std::vector<int> ascending = widths;
-  std::sort(ascending.begin(), ascending.end());
-  int most = ascending.back();
-  for (size_t i = 0; i < ascending.size(); ++i) {
-    const int share = std::max(0, room / static_cast<int>(ascending.size() - i));
-    if (ascending[i] > share) {
+  std::sort(shared.begin(), shared.end());
+  int most = room;
+  for (size_t i = 0; i < shared.size(); ++i) {
+    const int share = std::max(0, room / static_cast<int>(shared.size() - i));
+    most = std::max(share, shared[i]);
+    if (shared[i] > share) {
       most = share;
       break;
     }
-    room -= ascending[i];
+    room -= shared[i];
   }
   int left = 0;
-  for (size_t i = 0; i < shown.size(); ++i) {
-    const int taken = std::min(widths[i], most);
-    shown[i]->setGeometry(left, 0, taken, height());
+  for (QLabel* label : shown) {
+    const bool whole = label == panel(StatusPanel::Position);
+    const int taken = whole ? wantedWidth(label) : std::min(wantedWidth(label), most);
+    label->setGeometry(left, 0, taken, height());
     left += taken + gap;
   }
 }

@@ -87,7 +87,7 @@ void TAVO3::buildMenus() {
 void TAVO3::arrange() {
   auto* questionRow = new QHBoxLayout;
   questionRow->addWidget(m_areas.question, 1);
-  questionRow->addWidget(m_counts, 0, Qt::AlignTop);
+  questionRow->addWidget(m_counts);
   auto* explanations = openSplitter(Qt::Horizontal, this);
   for (QWidget* area : std::initializer_list<QWidget*>{m_areas.fullAnswer, m_miniTest, m_log}) {
     explanations->addWidget(area);
@@ -181,6 +181,11 @@ void TAVO3::close() {
 void TAVO3::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (loop()) loop()->requestExit();
+}
+
+void TAVO3::resizeEvent(QResizeEvent* event) {
+  AnswerWindow::resizeEvent(event);
+  m_counts->setLow(m_areas.low());
 }
 
 void TAVO3::pressKey(FunctionKey key, bool byButton) {

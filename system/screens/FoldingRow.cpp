@@ -6,8 +6,8 @@
 
 namespace tavoli {
 
-FoldingRow::FoldingRow(QWidget* parent)
-    : QWidget(parent), m_parts(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+FoldingRow::FoldingRow(QWidget* parent, Fold fold)
+    : QWidget(parent), m_fold(fold), m_parts(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
   m_parts->setContentsMargins({});
 }
 
@@ -35,7 +35,11 @@ bool FoldingRow::event(QEvent* event) {
 
 int FoldingRow::widthInOneRow() const {
   int wanted = (m_parts->count() - 1) * m_parts->spacing();
-  for (int i = 0; i < m_parts->count(); ++i) wanted += m_parts->itemAt(i)->minimumSize().width();
+  for (int i = 0; i < m_parts->count(); ++i) {
+    const QLayoutItem* part = m_parts->itemAt(i);
+    const QSize size = m_fold == Fold::BelowMinimum ? part->minimumSize() : part->sizeHint();
+    wanted += size.width();
+  }
   return wanted;
 }
 

@@ -6,10 +6,13 @@
 namespace tavoli {
 
 /// Parts beside each other, or one below the other where a window is too narrow for that. It asks
-/// for no more width than its widest part.
+/// for no more width than its widest part needs.
 class FoldingRow final : public QWidget {
  public:
-  explicit FoldingRow(QWidget* parent = nullptr);
+  /// When the parts go below each other: where they would be narrower than they can be, or already
+  /// where they would be narrower than they like.
+  enum class Fold { BelowMinimum, BelowPreferred };
+  explicit FoldingRow(QWidget* parent = nullptr, Fold fold = Fold::BelowMinimum);
 
   void add(QWidget* part, int stretch = 0) { m_parts->addWidget(part, stretch); }
   void setSpacing(int pixels) { m_parts->setSpacing(pixels); }
@@ -22,10 +25,11 @@ class FoldingRow final : public QWidget {
   bool event(QEvent* event) override;
 
  private:
-  /// The width that all parts need beside each other.
+  /// The least width at which the parts stand beside each other.
   int widthInOneRow() const;
   void arrange();
 
+  Fold m_fold;
   QBoxLayout* m_parts;
 };
 
