@@ -2,15 +2,30 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QMessageBox>
 
 namespace tavoli {
+
+namespace {
+
+/// Shows the box with the usual cursor, whatever goes on below it.
+int run(QMessageBox& box) {
+  QList<QCursor> covered;
+  for (; QApplication::overrideCursor(); QApplication::restoreOverrideCursor())
+    covered.prepend(*QApplication::overrideCursor());
+  const int result = box.exec();
+  for (const QCursor& cursor : std::as_const(covered)) QApplication::setOverrideCursor(cursor);
+  return result;
+}
+
+}  // namespace
 
 void MessageBoxes::show(const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tavoli"), text, QMessageBox::Ok,
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
-  box.exec();
+  run(box);
 }
 
 bool MessageBoxes::ask(const QString& text) {
@@ -19,7 +34,7 @@ bool MessageBoxes::ask(const QString& text) {
   box.setTextFormat(Qt::PlainText);
   box.button(QMessageBox::Yes)->setText(QStringLiteral("はい(&Y)"));
   box.button(QMessageBox::No)->setText(QStringLiteral("いいえ(&N)"));
-  return box.exec() == QMessageBox::Yes;
+  return run(box) == QMessageBox::Yes;
 }
 
 }  // namespace tavoli
