@@ -103,7 +103,7 @@ void ChoicePanel::addStarts() {
                     i < startModeCount - 1 ? 2 : 1);
   m_start = new StartBox(m_starts);
   m_start->setObjectName(QStringLiteral("Combo1"));
-  m_start->setAccessibleName(QStringLiteral("開始英語"));
+  m_start->nameParts(QStringLiteral("開始英語"));
   connect(m_start, &QComboBox::editTextChanged, this,
           [this](const QString& text) { m_rules.typeStart(text); });
   grid->addWidget(m_start, startModeCount - 1, 1);

@@ -11,6 +11,7 @@ OptionSet::OptionSet(const QString& name, QWidget* parent, std::function<void(QC
   QObject::connect(m_buttons, &QButtonGroup::idClicked, m_buttons,
                    [this, chosen = std::move(chosen)](int id) {
                      const QChar code(u'0' + id);
+                     placeTabStop();
                      if (code != std::exchange(m_marked, code)) chosen(code);
                    });
 }
@@ -37,6 +38,13 @@ void OptionSet::mark(QChar code) {
     marked->setChecked(false);
     m_buttons->setExclusive(true);
   }
+  placeTabStop();
+}
+
+void OptionSet::placeTabStop() const {
+  const QAbstractButton* marked = m_buttons->checkedButton();
+  for (QAbstractButton* option : m_buttons->buttons())
+    option->setFocusPolicy(!marked || option == marked ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace tavoli

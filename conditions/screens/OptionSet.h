@@ -26,6 +26,9 @@ class OptionSet {
   QString m_name;
   QWidget* m_parent;
   QButtonGroup* m_buttons;
+  /// The Tab key comes to the marked option, as the arrow keys go on from there.
+  void placeTabStop() const;
+
   QChar m_marked;
 };
 

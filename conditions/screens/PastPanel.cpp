@@ -85,10 +85,14 @@ void PastPanel::showRun(const QString& caption, const PastRun& run) {
   show("Text17", when(run.COURSE == course専門, run.specialTable));
   show("Option1", methodName(run.selMethod));
   show("Text1", when(group == 0, run.lessonFile));
-  show("Label14", when(group == 1, run.firstEnglish), endsWidth);
-  show("Label16", when(group == 1, run.lastEnglish), endsWidth);
-  show("Label17", when(group == 2, run.firstEnglish), endsWidth);
-  show("Label19", when(group == 2, run.lastEnglish), endsWidth);
+  // Before the first run the record holds placeholders.
+  const PracticeConditions unused;
+  const QString first = when(run.firstEnglish != unused.firstEnglish, run.firstEnglish);
+  const QString last = when(run.lastEnglish != unused.lastEnglish, run.lastEnglish);
+  show("Label14", when(group == 1, first), endsWidth);
+  show("Label16", when(group == 1, last), endsWidth);
+  show("Label17", when(group == 2, first), endsWidth);
+  show("Label19", when(group == 2, last), endsWidth);
   show("Option2", startModeName(run.startMode));
   show("Label11", when(run.startMode == u'3', run.startEnglish), startWidth);
   show("Option3", memorySelectName(run.memorySelect));

@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "system/screens/WindowTitle.h"
+
 namespace tavoli {
 
 namespace {
@@ -15,7 +17,10 @@ class RangeBox final : public QSpinBox {
  public:
   using QSpinBox::QSpinBox;
 
-  void nameEdit(const QString& objectName) { lineEdit()->setObjectName(objectName); }
+  void nameEdit(const QString& objectName, const QString& accessibleName) {
+    lineEdit()->setObjectName(objectName);
+    lineEdit()->setAccessibleName(accessibleName);
+  }
 
  protected:
   QValidator::State validate(QString& text, int&) const override {
@@ -31,9 +36,9 @@ class RangeBox final : public QSpinBox {
 RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
                            const RepeatValue& sentence, QWidget* parent)
     : QDialog(parent), m_word(word), m_sentence(sentence) {
-  setWindowTitle(title);
+  setWindowTitle(tavoli::windowTitle(title));
   // Wide enough for the title between the frame's buttons.
-  setMinimumWidth(fontMetrics().horizontalAdvance(title + QString(8, u'　')));
+  setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle() + QString(4, u'　')));
   auto* column = new QVBoxLayout(this);
   m_wordBox = addGroup(column, m_word, 1);
   m_sentenceBox = addGroup(column, m_sentence, 2);
@@ -51,13 +56,16 @@ RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
   buttons->addWidget(cancel);
   column->addStretch(1);
   column->addLayout(buttons);
+  // The first key replaces the number.
+  m_wordBox->setFocus();
+  m_wordBox->selectAll();
 }
 
 QSpinBox* RepeatDialog::addGroup(QBoxLayout* column, const RepeatValue& value, int number) {
   auto* group = new QGroupBox(value.caption, this);
   auto* box = new RangeBox(group);
   box->setObjectName(QStringLiteral("UpDown%1").arg(number));
-  box->nameEdit(QStringLiteral("Text%1").arg(number));
+  box->nameEdit(QStringLiteral("Text%1").arg(number), value.caption);
   box->setAccessibleName(value.caption);
   box->setRange(1, value.most);
   box->setValue(value.field);

@@ -16,10 +16,21 @@ class StartBox final : public QComboBox {
   void list(const QStringList& entries);
   void showText(const QString& text);
 
+  /// The name of the box and its parts for those who cannot see them.
+  void nameParts(const QString& name);
+
+  /// As wide as its texts, and at the entry that is typed.
   void showPopup() override;
 
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  int widestEntry() const;
+
   QStringListModel m_entries;
+  bool m_clickedInto = false;  ///< the focus has come with the mouse button that is down
 };
 
 }  // namespace tavoli
