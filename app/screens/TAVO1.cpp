@@ -129,7 +129,7 @@ void TAVO1::makeMenus(const QString& version) {
   menuBar()->setAccessibleName(QStringLiteral("メニュー"));
   connect(add("menu11", QStringLiteral("◆個人ＤＢ位置の変更、再配置")), &QAction::triggered, this,
           &TAVO1::relocate);
-  connect(add("credits", QStringLiteral("      クレジット      ")), &QAction::triggered, this,
+  connect(add("credits", QStringLiteral("クレジット")), &QAction::triggered, this,
           &TAVO1::showCredits);
   const QString captionStart =
       QStringLiteral("                                          ( ﾊﾞｰｼﾞｮﾝ ");

@@ -6,15 +6,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 #include "app/Placement.h"
 #include "system/Dialogs.h"
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
 namespace {
 
-constexpr int pathCharacters = 50;  ///< the width of the two paths
+/// The widths of the two paths, in characters.
+constexpr int fewestCharacters = 30;
+constexpr int wantedCharacters = 70;
 
 template <class Control>
 Control* make(const QString& objectName, const QString& accessibleName) {
@@ -40,7 +46,7 @@ TAVO11::TAVO11(Module1& module, Files& files, Dialogs& dialogs, QWidget* tavo1)
       m_command2(make<QPushButton>(QStringLiteral("Command2"), QStringLiteral("キャンセル"))),
       m_command3(make<QPushButton>(QStringLiteral("Command3"), QStringLiteral("参照"))) {
   setObjectName(QStringLiteral("TAVO11"));
-  setWindowTitle(QStringLiteral("個人ＤＢ位置の変更、再配置"));
+  setWindowTitle(tavoli::windowTitle(QStringLiteral("個人ＤＢ位置の変更、再配置")));
   setModal(true);
   if (tavo1) {
     setFont(tavo1->font());
@@ -63,7 +69,11 @@ void TAVO11::arrange() {
   m_command3->setDefault(true);
   auto* label3 = new QLabel(QStringLiteral("現在の配置場所："));
   label3->setBuddy(m_text2);
-  m_text1->setMinimumWidth(m_text1->fontMetrics().averageCharWidth() * pathCharacters);
+  for (QLabel* label : {m_label1, m_label2}) label->setWordWrap(true);
+  const int character = m_text1->fontMetrics().averageCharWidth();
+  m_text1->setMinimumWidth(character * fewestCharacters);
+  const int room = screen()->availableSize().width() * 9 / 10;
+  resize(std::min(character * wantedCharacters, room), 0);
 
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
@@ -87,7 +97,8 @@ void TAVO11::arrange() {
 
 void TAVO11::browse() {
   const QString folder = QFileDialog::getExistingDirectory(
-      this, QStringLiteral("ＤＢを配置するフォルダを指定して下さい。"), m_text1->text());
+      this, tavoli::windowTitle(QStringLiteral("ＤＢを配置するフォルダを指定して下さい。")),
+      m_text1->text());
   if (!folder.isEmpty()) m_text1->setText(folder);
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/LoginLayout.h"
 #include "app/Placement.h"
+#include "app/screens/ProgramIcon.h"
 #include "practice/screens/TAVO7.h"
 #include "progress/TableSurvey.h"
 
@@ -34,6 +35,8 @@ void replaceWindow(QWidget& hidden, QWidget& shown) {
 
 WindowFlow::WindowFlow(Module1& module, const QString& version)
     : m_module(module), m_workingCopy(module.learner, m_files, m_clock, m_dialogs) {
+  QApplication::setFont(programFont());
+  QApplication::setWindowIcon(programIcon());
   m_tavo1 = std::make_unique<TAVO1>(m_module, m_files, m_dialogs, version);
   m_login = std::make_unique<Login>(m_module, m_workingCopy, m_files, m_clock, m_dialogs, *m_tavo1);
   m_tavo1->next = [this](const QString& id, const QString& password) {

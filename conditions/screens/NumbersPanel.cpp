@@ -42,7 +42,8 @@ QGroupBox* NumbersPanel::makeGroup(const QString& title) {
 
 NumberBox* NumbersPanel::make(NumberField field, const QString& name, const QString& caption,
                               QGroupBox* group) {
-  auto* box = new NumberBox(field, name, group->title() + u' ' + caption, m_rules, group);
+  auto* box =
+      new NumberBox(field, name, (group->title() + u' ' + caption).trimmed(), m_rules, group);
   m_boxes[static_cast<size_t>(field)] = box;
   return box;
 }

@@ -15,6 +15,7 @@
 #include "conditions/screens/PastPanel.h"
 #include "system/screens/ChoiceDialog.h"
 #include "system/screens/FoldingRow.h"
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
@@ -32,7 +33,7 @@ QPushButton* makeButton(const QString& name, const QString& caption, QWidget* pa
 TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
     : m_rules(shared.learner, shared.course, shared.conditions, services, *this) {
   setObjectName(QStringLiteral("TAVO2"));
-  setWindowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間 - Tavoli"));
+  setWindowTitle(tavoli::windowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間")));
   auto* centre = new QWidget(this);
   auto* columns = new FoldingRow(this, FoldingRow::Fold::BelowPreferred);
   auto* present = new QGroupBox(QStringLiteral("今回"), columns);

@@ -18,6 +18,11 @@ QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent) {
   return made;
 }
 
+void addPart(QSplitter* splitter, QWidget* part, const QString& name) {
+  splitter->addWidget(part);
+  splitter->handle(splitter->indexOf(part))->setAccessibleName(name + QStringLiteral("の境"));
+}
+
 AnswerAreas::AnswerAreas(QMainWindow& window)
     : heading(new QLabel(&window)),
       time(new TimeStrip(&window)),
@@ -60,15 +65,16 @@ void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* 
   answerRow->addWidget(answer, 1);
 
   m_rows = openSplitter(Qt::Vertical, &m_window);
-  auto* asking = new QWidget(m_rows);
+  auto* asking = new QWidget;
   auto* askingColumn = new QVBoxLayout(asking);
   askingColumn->setContentsMargins(0, 0, 0, 0);
   askingColumn->addLayout(questionRow, 1);
   askingColumn->addLayout(answerRow);
   askingColumn->addWidget(message);
   message->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-  m_rows->addWidget(explanations);
-  m_rows->addWidget(m_lookUps);
+  addPart(m_rows, asking, QStringLiteral("問題と回答"));
+  addPart(m_rows, explanations, QStringLiteral("正解と説明"));
+  addPart(m_rows, m_lookUps, QStringLiteral("辞書"));
   m_rows->setStretchFactor(0, 3);
   m_rows->setStretchFactor(1, 4);
   m_rows->setStretchFactor(2, 3);
@@ -84,8 +90,8 @@ void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* 
 }
 
 void AnswerAreas::addLookUp(const QString& dictionaryHeading, LookUp& dictionary) {
-  auto* pane =
-      new LookUpPane(static_cast<int>(m_panes.size()), dictionaryHeading, dictionary, m_lookUps);
+  auto* pane = new LookUpPane(static_cast<int>(m_panes.size()), dictionaryHeading, dictionary);
+  addPart(m_lookUps, pane, dictionaryHeading);
   QObject::connect(pane, &LookUpPane::wordClicked, &m_window,
                    [this](const QString& word) { lookUp(word); });
   m_textMenu->serve(pane);

@@ -60,5 +60,7 @@ class AnswerAreas {
 
 /// A splitter whose parts cannot be closed.
 QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent);
+/// Adds a part; the handle in front of it is named after it for those who cannot see it.
+void addPart(QSplitter* splitter, QWidget* part, const QString& name);
 
 }  // namespace tavoli

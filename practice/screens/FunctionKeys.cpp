@@ -79,7 +79,7 @@ QPushButton* FunctionKeys::makeButton(const KeyButton& key) {
   caption.remove(u'&');
   button->setAccessibleName(caption.simplified());
   // Less than a style's own room around a caption, so that the row fits a small screen.
-  button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + 12);
+  button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + 8);
   connect(button, &QPushButton::clicked, this, [this, which = key.key] { m_pressed(which, true); });
   // The button's own hot key would go on pressing it while it is held.
   button->setShortcut({});

@@ -31,30 +31,32 @@ LookUpPane::LookUpPane(int index, const QString& heading, LookUp& dictionary, QW
   auto* label = new QLabel(heading, this);
   label->setObjectName(QStringLiteral("Label3(%1)").arg(index));
   label->setTextFormat(Qt::PlainText);
+  label->setToolTip(heading);
+  label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 4);
   label->setBuddy(m_word);
   auto* row = new QHBoxLayout;
   row->addWidget(label);
   row->addWidget(m_word, 1);
-  row->addWidget(buildUpDown(index));
+  row->addWidget(buildUpDown(index, heading));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addLayout(row);
   column->addWidget(m_entry, 1);
 }
 
-QWidget* LookUpPane::buildUpDown(int index) {
+QWidget* LookUpPane::buildUpDown(int index, const QString& heading) {
   auto* upDown = new QWidget(this);
   upDown->setObjectName(QStringLiteral("UpDown1(%1)").arg(index));
   auto* row = new QHBoxLayout(upDown);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
-  const auto add = [&](Qt::ArrowType arrow, const QString& name, bool back) {
+  const auto add = [&](Qt::ArrowType arrow, const QString& tip, bool back) {
     auto* button = new QToolButton(upDown);
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
+    button->setAccessibleName(heading + QStringLiteral("の") + tip);
+    button->setToolTip(tip);
     connect(button, &QToolButton::clicked, this, [this, back] { stepEntry(back); });
     row->addWidget(button);
   };

@@ -30,7 +30,7 @@ class LookUpPane final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QWidget* buildUpDown(int index);
+  QWidget* buildUpDown(int index, const QString& heading);
   void stepEntry(bool back);
   /// Shows what a look-up gave; nothing leaves the pane as it is.
   void showResult(const std::optional<MarkedText>& entry);

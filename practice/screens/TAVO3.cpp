@@ -16,6 +16,7 @@
 #include "practice/screens/PracticeMenus.h"
 #include "practice/screens/StatusPanels.h"
 #include "system/Clock.h"
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
@@ -89,10 +90,10 @@ void TAVO3::arrange() {
   questionRow->addWidget(m_areas.question, 1);
   questionRow->addWidget(m_counts);
   auto* explanations = openSplitter(Qt::Horizontal, this);
-  for (QWidget* area : std::initializer_list<QWidget*>{m_areas.fullAnswer, m_miniTest, m_log}) {
-    explanations->addWidget(area);
-    explanations->setStretchFactor(explanations->indexOf(area), 1);
-  }
+  addPart(explanations, m_areas.fullAnswer, m_areas.fullAnswer->accessibleName());
+  addPart(explanations, m_miniTest, m_miniTest->accessibleName());
+  addPart(explanations, m_log, QStringLiteral("練習経過"));
+  for (int i = 0; i < explanations->count(); ++i) explanations->setStretchFactor(i, 1);
   m_areas.arrange(questionRow, explanations, m_keys);
 }
 
@@ -119,7 +120,7 @@ PracticeLoop* TAVO3::loop() const {
 }
 
 void TAVO3::showCaption(const QString& text) {
-  setWindowTitle(text + QStringLiteral(" - Tavoli"));
+  setWindowTitle(tavoli::windowTitle(text));
 }
 
 void TAVO3::showSource(const QString& text) {

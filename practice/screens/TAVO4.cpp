@@ -10,12 +10,13 @@
 
 #include "conditions/screens/TAVO6.h"
 #include "practice/PracticeLoop.h"
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
 TAVO4::TAVO4(PracticeConditions& conditions, QWidget* parent)
     : AnswerWindow(parent), m_conditions(conditions) {
-  setWindowTitle(QStringLiteral("復習"));
+  setWindowTitle(tavoli::windowTitle(QStringLiteral("復習")));
   connectAnswer();
   m_keys = new FunctionKeys(
       reviewKeys(), [this](FunctionKey key, bool) { pressKey(key); }, this);

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabBar>
 
 #include <utility>
 
@@ -17,6 +18,7 @@
 #include "system/Clock.h"
 #include "system/PageSurface.h"
 #include "system/screens/ChoiceDialog.h"
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
@@ -52,11 +54,14 @@ TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
       m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("終了"))),
       m_next(std::move(next)),
       m_leave(std::move(leave)) {
-  setWindowTitle(QStringLiteral("先月までの状況と今月の状況"));
+  setWindowTitle(tavoli::windowTitle(QStringLiteral("先月までの状況と今月の状況")));
   choosePdf = [this] {
-    return QFileDialog::getSaveFileName(this, QStringLiteral("PDFファイルに保存"),
-                                        QDir::homePath() + QStringLiteral("/Tavoli進捗.pdf"),
-                                        QStringLiteral("PDF (*.pdf)"));
+    QFileDialog dialog(this, tavoli::windowTitle(QStringLiteral("PDFファイルに保存")),
+                       QDir::homePath(), QStringLiteral("PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QStringLiteral("Tavoli進捗.pdf"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   const QStringList captions = {QStringLiteral("中学"), QStringLiteral("高校"),
                                 QStringLiteral("専門")};
@@ -66,6 +71,8 @@ TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
   }
   m_tabs->addTab(m_tablesPage, QStringLiteral("中高専"));
   m_tabs->setObjectName(QStringLiteral("TabStrip1"));
+  m_tabs->setAccessibleName(QStringLiteral("コース"));
+  m_tabs->tabBar()->setAccessibleName(QStringLiteral("コース"));
 
   auto* centre = new QWidget(this);
   auto* buttons = new QHBoxLayout;

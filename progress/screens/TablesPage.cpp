@@ -61,6 +61,7 @@ TablesPage::TablesPage(QWidget* parent)
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidget(content);
+  scroll->setAccessibleName(QStringLiteral("中高専の表"));
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 0, 0, 0);
   page->addWidget(scroll);

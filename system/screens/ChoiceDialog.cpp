@@ -1,9 +1,12 @@
 #include "system/screens/ChoiceDialog.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+
+#include "system/screens/WindowTitle.h"
 
 namespace tavoli {
 
@@ -15,10 +18,11 @@ constexpr int listCharacters = 30;
 
 ChoiceDialog::ChoiceDialog(const Choice& choice, QWidget* parent)
     : QDialog(parent), m_present(choice.present), m_entries(new QComboBox(this)) {
-  setWindowTitle(choice.title);
+  setWindowTitle(tavoli::windowTitle(choice.title));
   setModal(true);
   m_entries->setObjectName(QStringLiteral("Combo2"));
   m_entries->setAccessibleName(choice.label);
+  m_entries->view()->setAccessibleName(choice.label);
   m_entries->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   m_entries->setMinimumContentsLength(listCharacters);
   m_entries->addItems(choice.entries);

@@ -5,33 +5,38 @@
 #include <QAccessible>
 #include <QAction>
 #include <QScrollBar>
+#include <QSplitterHandle>
 
 #include <gtest/gtest.h>
 
 namespace tavoli::test {
 
-/// Expects a name for those who cannot see it of every control and menu entry that a window's own
-/// code made, and returns how many there are.
+/// Expects a name without padding, for those who cannot see it, of every control, splitter handle
+/// and menu entry that a window's own code made, and returns how many there are.
 inline int expectNames(const QWidget& window) {
   int controls = 0;
+  const auto expectName = [&](const QString& name, const QObject& control) {
+    ++controls;
+    EXPECT_TRUE(!name.isEmpty() && name == name.trimmed())
+        << control.metaObject()->className() << " " << qPrintable(control.objectName()) << " \""
+        << qPrintable(name) << '"';
+  };
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     const bool clickable = qobject_cast<QAbstractButton*>(widget) ||
                            qobject_cast<QScrollBar*>(widget) ||
                            widget->cursor().shape() == Qt::PointingHandCursor;
+    const bool handle = qobject_cast<QSplitterHandle*>(widget);
     const bool ownedByAControl = qobject_cast<QAbstractScrollArea*>(widget->parentWidget()) ||
                                  widget->parentWidget()->objectName().startsWith(u"qt_") ||
                                  widget->objectName().startsWith(u"qt_");
-    if (ownedByAControl || (!clickable && !(widget->focusPolicy() & Qt::TabFocus))) continue;
-    ++controls;
+    if (handle && widget->isHidden()) continue;
+    if (!handle && (ownedByAControl || (!clickable && !(widget->focusPolicy() & Qt::TabFocus))))
+      continue;
     QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
-    EXPECT_TRUE(seen && !seen->text(QAccessible::Name).isEmpty())
-        << widget->metaObject()->className() << " " << qPrintable(widget->objectName());
+    expectName(seen ? seen->text(QAccessible::Name) : QString(), *widget);
   }
-  for (const QAction* action : window.findChildren<QAction*>()) {
-    if (action->objectName().isEmpty()) continue;
-    ++controls;
-    EXPECT_FALSE(action->text().isEmpty()) << qPrintable(action->objectName());
-  }
+  for (const QAction* action : window.findChildren<QAction*>())
+    if (!action->objectName().isEmpty() && action->isEnabled()) expectName(action->text(), *action);
   return controls;
 }
 
