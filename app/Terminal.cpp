@@ -10,6 +10,7 @@ namespace {
 const QString areaBox = QStringLiteral("箱");
 const QString areaAnswer = QStringLiteral("回答");
 const QString areaQuestion = QStringLiteral("問題");
+const QString areaSubQuestion = QStringLiteral("小問");
 const QString areaFullAnswer = QStringLiteral("正解");
 const QString areaMessage = QStringLiteral("表示");
 const QString areaConfirmation = QStringLiteral("確認");
@@ -104,6 +105,11 @@ void TerminalLogin::showEngineTrouble() {
 template <class Screen>
 void TerminalAnswers<Screen>::showQuestion(const MarkedText& text) {
   m_terminal.show(areaQuestion, withMarks(text));
+}
+
+template <class Screen>
+void TerminalAnswers<Screen>::showSubQuestion(const QuestionView& view) {
+  m_terminal.show(areaSubQuestion, subQuestionNumber(view));
 }
 
 template <class Screen>

@@ -74,6 +74,7 @@ class TerminalAnswers : public Screen {
       : m_terminal(terminal), m_dictionaries(dictionaries) {}
 
   void showQuestion(const MarkedText& text) override;
+  void showSubQuestion(const QuestionView& view) override;
   void setAnswer(const QString& text) override;
   void focusAnswer() override {}
   void showFullAnswer(const MarkedText& text) override;

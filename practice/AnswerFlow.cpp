@@ -83,6 +83,7 @@ AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition, Verdict
     m_state.repeatsLeft = m_state.conditions.firstRepeatSent;
   }
   remember(transition.state, transition.message, praise(verdict));
+  m_state.answered.set(static_cast<size_t>(m_state.POS1));
   ++m_state.POS1;
   return After::Advance;
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "data/MarkedText.h"
+#include "practice/QuestionView.h"
 
 namespace tavoli {
 
@@ -18,6 +19,9 @@ class AnswerScreen {
  public:
   virtual ~AnswerScreen() = default;
   virtual void showQuestion(const MarkedText& text) = 0;
+  /// Which 小問 of the question is asked. It follows the question, and comes again when nothing of
+  /// it is asked any more.
+  virtual void showSubQuestion(const QuestionView& view) = 0;
   /// Puts a text into the answer box with the caret behind it.
   virtual void setAnswer(const QString& text) = 0;
   virtual void focusAnswer() = 0;

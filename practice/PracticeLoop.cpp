@@ -71,6 +71,7 @@ bool PracticeLoop::dispPOS1() {
   PracticeItem& item = m_state.item();
   m_state.POS1 = 1;
   m_state.wordShownCount = 0;
+  m_state.answered.reset();
   m_state.復習する = false;
   m_state.FK次小問 = false;
   m_state.repeatsLeft =
@@ -103,10 +104,12 @@ void PracticeLoop::advance() {
     nextQuestion();
   } else {
     // An item of which nothing was asked is only shown, and what the last one left goes away.
-    if (m_state.wordShownCount > 0)
+    if (m_state.wordShownCount > 0) {
       回数カウント();
-    else
+      showSubQuestion();
+    } else {
       emptyQuestion();
+    }
     m_damage.guardEmptyRecord(m_FK前問題);
     dispAnswerFull();
   }
@@ -152,7 +155,9 @@ void PracticeLoop::dispQuestion() {
   const CurrentRecord& record = m_state.record;
   const SubQuestion& s = m_state.小問();
   m_screen.showSource(sourceLabel(record, item.itemEnglish, item.itemTable, m_state.course.COURSE));
-  m_screen.showQuestion(m_damage.marked(record.sentence ? record.問題文 : s.日本語));
+  m_question = m_damage.marked(record.sentence ? record.問題文 : s.日本語);
+  m_screen.showQuestion(m_question);
+  showSubQuestion();
   m_screen.showStatus(
       StatusPanel::Times,
       QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
@@ -166,6 +171,11 @@ void PracticeLoop::dispQuestion() {
   else
     m_answerClock.startAnswerTimer(targetSeconds());
   m_screen.focusAnswer();
+}
+
+void PracticeLoop::showSubQuestion() {
+  m_screen.showSubQuestion(
+      questionView(m_question, m_state.record, m_state.POS1, m_state.answered));
 }
 
 void PracticeLoop::dispAnswerFull() {
@@ -213,6 +223,7 @@ void PracticeLoop::leaveFullAnswer() {
 void PracticeLoop::emptyQuestion() {
   m_screen.showSource(QString());
   m_screen.showQuestion(MarkedText());
+  m_screen.showSubQuestion(QuestionView());
   m_screen.showStatus(StatusPanel::Times, QString());
 }
 

@@ -129,6 +129,7 @@ class PracticeLoop {
   bool fnNextExist();
   void nextQuestion();
   void dispQuestion();
+  void showSubQuestion();
   /// Shows the whole item and waits for Enter.
   void dispAnswerFull();
   void leaveConfirmation();
@@ -155,6 +156,7 @@ class PracticeLoop {
   QuestionRequests m_printRequests;
   ReviewRing m_reviewRing;
   ReviewDrill m_review;
+  MarkedText m_question;  ///< as it was last shown
   bool m_logShown = false;
   bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since
   bool m_確認中 = false;

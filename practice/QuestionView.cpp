@@ -56,10 +56,15 @@ QuestionView questionView(const MarkedText& question, const CurrentRecord& recor
   return view;
 }
 
+QString subQuestionNumber(const QuestionView& view) {
+  if (view.count <= 1 || view.POS1 > view.count) return {};
+  return QString::number(view.POS1) + u'／' + QString::number(view.count);
+}
+
 QString answerHint(const QuestionView& view) {
   QStringList hints;
-  if (view.count > 1 && view.POS1 <= view.count)
-    hints.append(QStringLiteral("小問 %1／%2").arg(view.POS1).arg(view.count));
+  const QString number = subQuestionNumber(view);
+  if (!number.isEmpty()) hints.append(QStringLiteral("小問 ") + number);
   if (view.question.text.contains(u'～')) hints.append(QStringLiteral("～ は Shift+0 か ~ のキー"));
   return hints.join(u'　');
 }

@@ -23,6 +23,9 @@ struct QuestionView {
 QuestionView questionView(const MarkedText& question, const CurrentRecord& record, int POS1,
                           const AnsweredSubQuestions& answered);
 
+/// The number of the asked 小問 and how many there are, "2／3"; empty where there is but one.
+QString subQuestionNumber(const QuestionView& view);
+
 /// What the empty answer box says of the question: "小問 2／3", and how "～" is typed; empty where
 /// there is nothing to tell.
 QString answerHint(const QuestionView& view);

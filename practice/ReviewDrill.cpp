@@ -50,6 +50,7 @@ void ReviewDrill::nextReviewItem() {
     m_reviewPOS = m_reviewList[m_reviewFrom++];
     m_reviewPOS1 = 1;
     m_record = m_run.set.parsed(m_reviewPOS);
+    m_answered.reset();
     showReviewQuestion();
     return;
   }
@@ -67,12 +68,20 @@ void ReviewDrill::showReviewQuestion() {
     for (int k = 1; k <= m_record.小問数; ++k) meanings.append(m_record.text(k));
     text = meanings.join(lineMark);
   }
-  m_screen.showQuestion(parseMarks(text));
+  m_question = parseMarks(text);
+  m_screen.showQuestion(m_question);
   m_reviewStopSpeech = true;
   ask();
 }
 
+void ReviewDrill::showSubQuestion(int POS1) {
+  QuestionView view = questionView(m_question, m_record, POS1, m_answered);
+  if (!m_record.sentence) view.count = 1;
+  m_screen.showSubQuestion(view);
+}
+
 void ReviewDrill::ask() {
+  showSubQuestion(m_reviewPOS1);
   askAgain();
   const PracticeConditions& c = m_run.conditions;
   // Sentences have the time of words here: they have been answered before.
@@ -145,6 +154,7 @@ void ReviewDrill::right(Verdict verdict) {
     return;
   }
   m_screen.showMessage(plainText(praise(verdict)));
+  m_answered.set(static_cast<size_t>(m_reviewPOS1));
   leaveSubQuestion();
 }
 
@@ -171,6 +181,7 @@ void ReviewDrill::leaveSubQuestion() {
   }
   m_nextDue = true;
   m_answerClock.clear();
+  showSubQuestion(m_reviewPOS1 + 1);
   m_screen.setAnswer(QString());
   m_screen.showFullAnswer(parseMarks(fullAnswerText(m_record)));
   m_screen.awaitConfirmation(true);

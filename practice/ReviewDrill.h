@@ -68,6 +68,8 @@ class ReviewDrill {
   /// Asks the present 小問, from its given start and with a clock of its own.
   void ask();
   void askAgain();
+  /// Shows that the 小問 `POS1` is asked.
+  void showSubQuestion(int POS1);
   void right(Verdict verdict);
   void wrong(const Comparison& comparison);
   /// Done with this 小問: asks the next one, or shows the whole item until Enter.
@@ -83,6 +85,8 @@ class ReviewDrill {
   std::vector<int> m_reviewList;
   size_t m_reviewFrom = 0;  ///< what of the list comes next, from 0
   CurrentRecord m_record;
+  MarkedText m_question;  ///< as it is shown
+  AnsweredSubQuestions m_answered;
   int m_reviewPOS = 0;
   int m_reviewPOS1 = 1;
   int m_reviewTries = 0;            ///< wrong entries on this 小問

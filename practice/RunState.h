@@ -4,6 +4,7 @@
 #include "data/CurrentRecord.h"
 #include "judge/Comparison.h"
 #include "practice/PracticeSet.h"
+#include "practice/QuestionView.h"
 
 namespace tavoli {
 
@@ -18,6 +19,7 @@ struct RunState {
   int POS = 1;                ///< the present item
   int POS1 = 1;               ///< the present 小問
   int wordShownCount = 0;     ///< how many 小問 of this item have been asked
+  AnsweredSubQuestions answered = {};
 
   int tryCount = 0;     ///< entries on this 小問; a wrong one in the learning flow counts twice
   int repeatsLeft = 0;  ///< right entries still wanted before the next 小問

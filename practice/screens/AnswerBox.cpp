@@ -14,11 +14,25 @@ AnswerBox::AnswerBox(QWidget* parent) : EnglishBox(parent) {
   setFont(scaled(fixed, 1.5));
 }
 
+void AnswerBox::setHint(const QString& hint) {
+  m_hint = hint;
+  awaitEnter(isReadOnly());
+}
+
+void AnswerBox::awaitEnter(bool awaited) {
+  setReadOnly(awaited);
+  setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。") : m_hint);
+}
+
 void AnswerBox::keyPressEvent(QKeyEvent* event) {
+  const bool function = event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35;
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  // A key that is held acts once: on the next question it would act unseen.
+  if (event->isAutoRepeat() && (function || enter)) return;
   Q_EMIT keyArrived();
-  if (event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35)
+  if (function)
     event->ignore();
-  else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+  else if (enter)
     Q_EMIT entered();
   else
     EnglishBox::keyPressEvent(event);

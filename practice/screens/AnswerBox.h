@@ -10,6 +10,12 @@ class AnswerBox final : public EnglishBox {
  public:
   explicit AnswerBox(QWidget* parent = nullptr);
 
+  /// What the box says while it is empty.
+  void setHint(const QString& hint);
+  const QString& hint() const { return m_hint; }
+  /// While Enter is awaited nothing can be typed, and the box says so.
+  void awaitEnter(bool awaited);
+
  Q_SIGNALS:
   /// A key that is no function key arrives; it takes effect after this.
   void keyArrived();
@@ -22,6 +28,9 @@ class AnswerBox final : public EnglishBox {
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  QString m_hint;
 };
 
 }  // namespace tavoli

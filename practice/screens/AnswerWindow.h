@@ -18,19 +18,21 @@ class AnswerWindow : public QMainWindow, public Screen {
   }
 
   void showQuestion(const MarkedText& text) override { m_areas.question->setMarkedText(text); }
+  void showSubQuestion(const QuestionView& view) override {
+    m_areas.question->setMarkedText(view.question);
+    m_areas.answer->setHint(answerHint(view));
+  }
   void setAnswer(const QString& text) override { m_areas.answer->setText(text); }
   void focusAnswer() override { m_areas.answer->setFocus(); }
   void showFullAnswer(const MarkedText& text) override {
     m_areas.fullAnswer->setMarkedText(text, MarkedView::Show::End);
   }
-  void showMessage(const MarkedText& text) override { m_areas.message->showMarked(text); }
+  void showMessage(const MarkedText& text) override {
+    m_areas.message->showMarked(text);
+  }
   void lookUp(const QString& text) override { m_areas.lookUp(text); }
   void showTime(const AnswerTime& time) override { m_areas.time->showTime(time); }
-  void awaitConfirmation(bool awaited) override {
-    m_areas.answer->setReadOnly(awaited);
-    m_areas.answer->setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。")
-                                               : QString());
-  }
+  void awaitConfirmation(bool awaited) override { m_areas.answer->awaitEnter(awaited); }
 
  protected:
   explicit AnswerWindow(QWidget* parent) : QMainWindow(parent), m_areas(*this) {}

@@ -1,14 +1,41 @@
 #include "practice/screens/MarkedView.h"
 
 #include <QEvent>
+#include <QTextCharFormat>
 #include <QTextCursor>
 
 namespace tavoli {
 
+namespace {
+
+bool isDark(const QPalette& palette) {
+  return palette.color(QPalette::Base).lightness() < 128;
+}
+
+}  // namespace
+
 QColor markColour(const QPalette& palette) {
   const QColor colour(255, 0, 100);
-  return palette.color(QPalette::Base).lightness() < 128 ? colour.lighter(140) : colour;
+  return isDark(palette) ? colour.lighter(140) : colour;
 }
+
+namespace {
+
+QTextCharFormat formatOf(MarkedText::Span::Kind kind, const QPalette& palette) {
+  using Kind = MarkedText::Span::Kind;
+  QTextCharFormat format;
+  if (kind == Kind::Underlined || kind == Kind::Asked) format.setFontUnderline(true);
+  // For those to whom the colour says nothing.
+  if (kind == Kind::Coloured || kind == Kind::Asked) format.setFontWeight(QFont::Bold);
+  if (kind == Kind::Coloured) format.setForeground(markColour(palette));
+  if (kind == Kind::Asked)
+    format.setForeground(isDark(palette) ? QColor(110, 185, 255) : QColor(0, 90, 180));
+  if (kind == Kind::Answered)
+    format.setForeground(isDark(palette) ? QColor(165, 165, 165) : QColor(105, 105, 105));
+  return format;
+}
+
+}  // namespace
 
 MarkedView::MarkedView(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
@@ -22,21 +49,23 @@ void MarkedView::setMarkedText(const MarkedText& marked, Show show) {
   setPlainText(marked.text);
   drawSpans();
   moveCursor(show == Show::Top ? QTextCursor::Start : QTextCursor::End);
+  for (const MarkedText::Span& span : marked.spans) {
+    if (span.kind != MarkedText::Span::Kind::Asked) continue;
+    QTextCursor asked(document());
+    asked.setPosition(static_cast<int>(span.offset + span.length));
+    setTextCursor(asked);
+  }
 }
 
 void MarkedView::drawSpans() {
   QTextCursor cursor(document());
+  // A new text takes over the look of the place where the caret was.
+  cursor.select(QTextCursor::Document);
+  cursor.setCharFormat(QTextCharFormat());
   for (const MarkedText::Span& span : m_marked.spans) {
     cursor.setPosition(static_cast<int>(span.offset));
     cursor.setPosition(static_cast<int>(span.offset + span.length), QTextCursor::KeepAnchor);
-    QTextCharFormat format;
-    if (span.kind == MarkedText::Span::Kind::Underlined) {
-      format.setFontUnderline(true);
-    } else {
-      format.setForeground(markColour(palette()));
-      format.setFontWeight(QFont::Bold);  // for those to whom the colour says nothing
-    }
-    cursor.mergeCharFormat(format);
+    cursor.mergeCharFormat(formatOf(span.kind, palette()));
   }
 }
 

@@ -71,6 +71,7 @@ TEST_F(TAVO4Test, ReviewsWithTheKeyboardAlone) {
   loop.review().tick();
   EXPECT_EQ(find<TimeStrip>(u"Picture1")->text(), QStringLiteral("5"));
   type(QStringLiteral("is"));
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("彼は学生です。\nHe (is) a student."));
   QTest::mouseClick(answer, Qt::LeftButton);
   EXPECT_EQ(over, 1) << "a click into the answer box goes on too";
   EXPECT_EQ(practice.question, QStringLiteral("大きい"));

@@ -13,6 +13,7 @@ template <class Screen>
 class RecordingAnswers : public Screen {
  public:
   void showQuestion(const MarkedText& text) override { question = text.text; }
+  void showSubQuestion(const QuestionView& shown) override { view = shown; }
   void setAnswer(const QString& text) override { answer = text; }
   void focusAnswer() override {}
   void showFullAnswer(const MarkedText& text) override {
@@ -26,6 +27,7 @@ class RecordingAnswers : public Screen {
   void awaitConfirmation(bool on) override { awaited = on; }
 
   QString question, answer, fullAnswer, red, message, lookedUp;
+  QuestionView view;
   AnswerTime time;
   bool awaited = false;
 };
