@@ -1,5 +1,7 @@
 #include "practice/screens/AnswerAreas.h"
 
+#include <QAccessible>
+
 #include <utility>
 
 #include "practice/screens/AnswerBox.h"
@@ -46,6 +48,8 @@ AnswerAreas::AnswerAreas(QMainWindow& window)
   for (const WordView* area : {question, fullAnswer})
     QObject::connect(area, &WordView::wordClicked, &window,
                      [this](const QString& word) { lookUp(word); });
+  m_describing.setSingleShot(true);
+  QObject::connect(&m_describing, &QTimer::timeout, &window, [this] { tellAnswer(); });
 }
 
 AnswerAreas::~AnswerAreas() {
@@ -96,6 +100,23 @@ void AnswerAreas::addLookUp(const QString& dictionaryHeading, LookUp& dictionary
                    [this](const QString& word) { lookUp(word); });
   m_textMenu->serve(pane);
   m_panes.append(pane);
+}
+
+void AnswerAreas::tellAnswer() {
+  const QString asked = question->toPlainText();
+  QStringList told = {message->plainMessage(), fullAnswer->toPlainText()};
+  told.removeAll(QString());
+  // A key takes the verdict from the screen; it is the last one until the next question all the
+  // same.
+  if (!told.isEmpty() || asked != m_describedQuestion) m_verdict = told.join(u'\n');
+  m_describedQuestion = asked;
+  QStringList parts = {asked, answer->hint(), m_verdict};
+  parts.removeAll(QString());
+  const QString description = parts.join(u'\n');
+  if (description == answer->accessibleDescription()) return;
+  answer->setAccessibleDescription(description);
+  QAccessibleEvent alert(answer, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 bool AnswerAreas::low() const {

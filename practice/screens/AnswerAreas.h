@@ -4,6 +4,7 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QSplitter>
+#include <QTimer>
 
 #include "practice/AnswerScreen.h"
 
@@ -35,6 +36,10 @@ class AnswerAreas {
   void addLookUp(const QString& heading, LookUp& dictionary);
   /// Puts a text into all look-up panes, and opens them.
   void lookUp(const QString& text);
+  /// A screen reader is to tell, with the answer box, what is asked and what the last entry was
+  /// told. Changes that come together are told once.
+  void describeAnswer() { m_describing.start(); }
+
   /// Shares out the window's height, which has changed. In a low window the look-up panes make room
   /// for the question until something is looked up.
   void fitHeight();
@@ -53,6 +58,11 @@ class AnswerAreas {
   QSplitter* m_lookUps;
   QList<LookUpPane*> m_panes;
   QSplitter* m_rows = nullptr;
+  void tellAnswer();
+
+  QTimer m_describing;
+  QString m_describedQuestion;
+  QString m_verdict;
   bool m_lookedUp = false;
   bool m_low = false;
   TextMenu* m_textMenu = nullptr;

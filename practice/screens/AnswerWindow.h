@@ -21,14 +21,17 @@ class AnswerWindow : public QMainWindow, public Screen {
   void showSubQuestion(const QuestionView& view) override {
     m_areas.question->setMarkedText(view.question);
     m_areas.answer->setHint(answerHint(view));
+    m_areas.describeAnswer();
   }
   void setAnswer(const QString& text) override { m_areas.answer->setText(text); }
   void focusAnswer() override { m_areas.answer->setFocus(); }
   void showFullAnswer(const MarkedText& text) override {
     m_areas.fullAnswer->setMarkedText(text, MarkedView::Show::End);
+    m_areas.describeAnswer();
   }
   void showMessage(const MarkedText& text) override {
     m_areas.message->showMarked(text);
+    m_areas.describeAnswer();
   }
   void lookUp(const QString& text) override { m_areas.lookUp(text); }
   void showTime(const AnswerTime& time) override { m_areas.time->showTime(time); }

@@ -16,6 +16,7 @@ MessageLine::MessageLine(QWidget* parent) : QLabel(parent) {
 }
 
 void MessageLine::showMarked(const MarkedText& marked) {
+  m_plain = marked.text;
   QString html;
   qsizetype from = 0;
   const auto escaped = [&](qsizetype end) {

@@ -12,6 +12,11 @@ class MessageLine final : public QLabel {
  public:
   explicit MessageLine(QWidget* parent = nullptr);
   void showMarked(const MarkedText& marked);
+  /// What is shown, without its marks.
+  const QString& plainMessage() const { return m_plain; }
+
+ private:
+  QString m_plain;
 };
 
 }  // namespace tavoli

@@ -77,7 +77,7 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   QTest::mouseClick(answer, Qt::LeftButton);
   EXPECT_EQ(loop->POS(), 3) << "a click into the answer box goes on too";
   for (const auto& [key, POS] : {std::pair(Qt::Key_F4, 2), std::pair(Qt::Key_F3, 3)}) {
-    window.showMessage(QStringLiteral("前の回答"));
+    window.showMessage(plainText(QStringLiteral("前の回答")));
     press(key);
     EXPECT_EQ(loop->POS(), POS);
     EXPECT_EQ(message->text(), QString()) << "what was told goes with its item";
@@ -93,6 +93,37 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
   QApplication::processEvents();
   EXPECT_EQ(closed, 1);
   EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(TAVO3Test, TellsWhichBlankIsAskedAndReadersWhatBecameOfIt) {
+  add(QStringLiteral("000140"), tableOfSentences,
+      test::sentenceRecord(QStringLiteral("This (   ) (   ) my bag."),
+                           {QStringLiteral("is"), QStringLiteral("not")}));
+  const auto isBold = [this](int position) {
+    QTextCursor at(question->document());
+    at.setPosition(position);
+    return at.charFormat().fontWeight() == QFont::Bold;
+  };
+  press(Qt::Key_F4);
+  EXPECT_TRUE(isBold(8) && !isBold(13));
+  EXPECT_EQ(answer->placeholderText(), QStringLiteral("小問 1／2"));
+  type(QStringLiteral("is"));
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("This (is) (   ) my bag."));
+  EXPECT_TRUE(!isBold(8) && isBold(13));
+  QApplication::processEvents();
+  QTest::keyClick(answer, Qt::Key_N);
+  QApplication::processEvents();
+  const QString told = answer->accessibleDescription();
+  EXPECT_TRUE(told.startsWith(QStringLiteral("This (is) (   ) my bag.\n小問 2／2\n○　正解です")))
+      << qPrintable(told);
+  type(QStringLiteral("ot"));
+  QApplication::processEvents();
+  EXPECT_TRUE(answer->accessibleDescription().contains(fullAnswer->toPlainText()));
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("This (is) (not) my bag."));
+  EXPECT_FALSE(isBold(13));
+  press(Qt::Key_F4);
+  press(Qt::Key_F3);
+  EXPECT_EQ(question->toPlainText(), QStringLiteral("This (   ) (   ) my bag."));
 }
 
 TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
