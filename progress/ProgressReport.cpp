@@ -22,10 +22,6 @@ QLocale locale() {
   return locale;
 }
 
-QString grouped(int value) {
-  return locale().toString(value);
-}
-
 QString hours(int seconds) {
   return locale().toString(seconds / secondsPerHour, 'f', 2) + QStringLiteral(" 時間");
 }
@@ -36,7 +32,9 @@ NumberTable titledTable(const QString& format) {
   const qsizetype end = format.indexOf(u';');
   NumberTable table;
   table.columns = format.first(end).remove(u'>').split(u'|').mid(1);
-  table.rows = format.sliced(end + 1).split(u'|');
+  // The blanks that once aligned the titles are the table's business.
+  for (const QString& title : format.sliced(end + 1).split(u'|'))
+    table.rows.append(title.trimmed());
   table.title = table.rows.takeFirst();
   return table;
 }
@@ -55,10 +53,20 @@ void appendSum(NumberTable& table, std::initializer_list<const ByLevel*> familie
   for (const ByLevel* family : families)
     for (const Three& numbers : *family)
       for (size_t i = 0; i < numbers.size(); ++i) sum[i] += numbers[i];
-  appendRow(table, sum, grouped);
+  appendRow(table, sum, groupedNumber);
 }
 
 }  // namespace
+
+QString groupedNumber(int value) {
+  return locale().toString(value);
+}
+
+QString BarChart::inWords() const {
+  QStringList parts;
+  for (int i = 0; i < columns.size(); ++i) parts.append(columns[i] + u' ' + numbers[i]);
+  return parts.join(u'、');
+}
 
 std::vector<BarChart> ProgressReport::charts(Level level) const {
   const QStringList memory = {QStringLiteral("完全"), QStringLiteral("うろ"),
@@ -86,9 +94,10 @@ std::vector<BarChart> ProgressReport::charts(Level level) const {
     chart.columns = page.columns;
     chart.inHours = &page.family == &m_counters.時間;
     const Three& numbers = page.family[level];
-    for (int i = 0; i < page.columns.size(); ++i)
-      chart.values.push_back(numbers[static_cast<size_t>(i)] /
-                             (chart.inHours ? secondsPerHour : 1.0));
+    for (size_t i = 0; i < static_cast<size_t>(page.columns.size()); ++i) {
+      chart.values.push_back(numbers[i] / (chart.inHours ? secondsPerHour : 1.0));
+      chart.numbers.append(chart.inHours ? hours(numbers[i]) : groupedNumber(numbers[i]));
+    }
     charts.push_back(chart);
     number += levelCount;
   }
@@ -125,13 +134,13 @@ std::vector<NumberTable> ProgressReport::filled(const std::array<QString, 4>& ti
   std::vector<NumberTable> tables;
   tables.reserve(titles.size());
   for (const QString& title : titles) tables.push_back(titledTable(title));
-  appendRows(tables[0], m_counters.記憶単熟, grouped);
-  appendRows(tables[0], m_counters.記憶文, grouped);
+  appendRows(tables[0], m_counters.記憶単熟, groupedNumber);
+  appendRows(tables[0], m_counters.記憶文, groupedNumber);
   appendRows(tables[1], m_counters.時間, hours);
-  appendRows(tables[2], m_counters.回数, grouped);
+  appendRows(tables[2], m_counters.回数, groupedNumber);
   appendSum(tables[2], {&m_counters.回数});
-  appendRows(tables[3], m_counters.回数単熟, grouped);
-  appendRows(tables[3], m_counters.回数文, grouped);
+  appendRows(tables[3], m_counters.回数単熟, groupedNumber);
+  appendRows(tables[3], m_counters.回数文, groupedNumber);
   appendSum(tables[3], {&m_counters.回数単熟, &m_counters.回数文});
   return tables;
 }

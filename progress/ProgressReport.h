@@ -8,13 +8,20 @@
 
 namespace tavoli {
 
+/// A whole number in words, its thousands divided by commas.
+QString groupedNumber(int value);
+
 /// A bar chart of two or three numbers.
 struct BarChart {
   QString name;  ///< the chart's name on the screen
   QString title;
   QStringList columns;
   std::vector<double> values;  ///< one a column; hours, or whole numbers
+  QStringList numbers;         ///< the values as they are written
   bool inHours = false;
+
+  /// The chart in words, for those who cannot see it.
+  QString inWords() const;
 };
 
 /// A table of numbers, already in words.

@@ -1,12 +1,14 @@
 #include "progress/screens/BarChartDrawing.h"
 
 #include <QBarCategoryAxis>
-#include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
+#include <QGraphicsLayout>
 #include <QGraphicsScene>
+#include <QGraphicsSimpleTextItem>
 #include <QLegend>
 #include <QPainter>
-#include <QValueAxis>
+#include <QStackedBarSeries>
 
 #include <algorithm>
 #include <cmath>
@@ -15,12 +17,14 @@ namespace tavoli {
 
 namespace {
 
-/// Green, amber and grey apart in brightness too, on light and on dark.
-const QColor barColors[] = {QColor(0x2e, 0x8b, 0x57), QColor(0xe0, 0xa0, 0x30),
-                            QColor(0x80, 0x88, 0x98)};
+/// Memory states: green, amber and grey, apart in brightness too, on light and on dark. Months: two
+/// blues.
+const std::vector<QColor> memoryColors = {QColor(0x2e, 0x8b, 0x57), QColor(0xe0, 0xa0, 0x30),
+                                          QColor(0x80, 0x88, 0x98)};
+const std::vector<QColor> monthColors = {QColor(0x2f, 0x72, 0xb8), QColor(0x8f, 0xb8, 0xe0)};
 
-/// The legend's type and the numbers' are smaller than the program's of 11 points.
-constexpr double legendShare = 9.0 / 11.0;
+/// The numbers' type is smaller than the program's of 11 points.
+constexpr double smallShare = 9.0 / 11.0;
 
 QFont scaled(QFont font, double share) {
   if (font.pixelSize() > 0)
@@ -28,6 +32,45 @@ QFont scaled(QFont font, double share) {
   else
     font.setPointSizeF(font.pointSizeF() * share);
   return font;
+}
+
+/// A series with one bar a column, each in a colour of its own: the sets of the other columns have
+/// no height there.
+QStackedBarSeries* barsOf(const BarChart& chart, QChart* drawn) {
+  constexpr double barWidth = 0.6;
+  const std::vector<QColor>& colors = chart.values.size() > 2 ? memoryColors : monthColors;
+  auto* series = new QStackedBarSeries(drawn);
+  series->setBarWidth(barWidth);
+  for (size_t i = 0; i < chart.values.size(); ++i) {
+    auto* set = new QBarSet(chart.columns[static_cast<qsizetype>(i)], series);
+    for (size_t column = 0; column < chart.values.size(); ++column)
+      *set << (column == i ? chart.values[i] : 0);
+    set->setColor(colors[i]);
+    set->setBorderColor(colors[i]);
+    series->append(set);
+  }
+  drawn->addSeries(series);
+  return series;
+}
+
+/// Writes the numbers above the bars, also where a bar has no height, and keeps them there.
+void writeNumbers(const BarChart& chart, QChart* drawn, QAbstractSeries* series, const QFont& font,
+                  const QBrush& ink) {
+  std::vector<QGraphicsSimpleTextItem*> texts;
+  for (const QString& number : chart.numbers) {
+    texts.push_back(new QGraphicsSimpleTextItem(number, drawn));
+    texts.back()->setFont(font);
+    texts.back()->setBrush(ink);
+    texts.back()->setZValue(1e6);  // above the plot
+  }
+  const auto place = [values = chart.values, texts, drawn, series] {
+    for (size_t i = 0; i < texts.size(); ++i) {
+      const QPointF top = drawn->mapToPosition({static_cast<double>(i), values[i]}, series);
+      const QSizeF size = texts[i]->boundingRect().size();
+      texts[i]->setPos(top - QPointF(size.width() / 2, size.height() + 1));
+    }
+  };
+  QObject::connect(drawn, &QChart::plotAreaChanged, drawn, place);
 }
 
 }  // namespace
@@ -50,41 +93,20 @@ QChart* drawnChart(const BarChart& chart, const QPalette& palette, const QFont& 
   auto* drawn = new QChart;
   drawn->setObjectName(chart.name);
   const QBrush& ink = palette.brush(QPalette::Text);
-  QFont titleFont = font;
-  titleFont.setBold(true);
-  const QFont smallFont = scaled(font, legendShare);
-
-  auto* series = new QBarSeries(drawn);
-  constexpr double barWidth = 0.75;
-  constexpr int labelDigits = 9;
-  series->setBarWidth(barWidth);
-  series->setLabelsVisible(true);
-  series->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
-  series->setLabelsPrecision(labelDigits);
-  for (int i = 0; i < chart.columns.size(); ++i) {
-    constexpr double hundredths = 100;
-    const double value = chart.values[static_cast<size_t>(i)];
-    // A bar without height has no number on it: its legend says so.
-    const QString legend = value > 0 ? chart.columns[i] : chart.columns[i] + QStringLiteral(" 0");
-    auto* set = new QBarSet(legend, series);
-    *set << (chart.inHours ? std::round(value * hundredths) / hundredths : value);
-    set->setColor(barColors[i]);
-    set->setBorderColor(barColors[i]);
-    set->setLabelBrush(ink);
-    set->setLabelFont(smallFont);
-    series->append(set);
-  }
-  drawn->addSeries(series);
+  const QFont smallFont = scaled(font, smallShare);
+  QAbstractSeries* series = barsOf(chart, drawn);
 
   auto* columns = new QBarCategoryAxis(drawn);
-  columns->append(chart.inHours ? QStringLiteral("時間") : QStringLiteral("個数"));
-  columns->setLabelsVisible(false);
+  columns->append(chart.columns);
+  columns->setLabelsBrush(ink);
+  columns->setLabelsFont(smallFont);
   columns->setGridLineVisible(false);
   const WholeAxis scale = wholeAxis(*std::max_element(chart.values.begin(), chart.values.end()));
-  auto* values = new QValueAxis(drawn);
+  auto* values = new QCategoryAxis(drawn);
+  values->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+  for (int value = 0; value <= scale.top; value += scale.step)
+    values->append(groupedNumber(value), value);
   values->setRange(0, scale.top);
-  values->setTickCount(scale.top / scale.step + 1);
-  values->setLabelFormat(QStringLiteral("%d"));
   values->setLabelsBrush(ink);
   values->setLabelsFont(smallFont);
   values->setGridLineColor(palette.color(QPalette::Mid));
@@ -92,15 +114,17 @@ QChart* drawnChart(const BarChart& chart, const QPalette& palette, const QFont& 
   drawn->addAxis(values, Qt::AlignLeft);
   series->attachAxis(columns);
   series->attachAxis(values);
+  writeNumbers(chart, drawn, series, smallFont, ink);
 
+  QFont titleFont = font;
+  titleFont.setBold(true);
   drawn->setTitle(chart.title);
   drawn->setTitleFont(titleFont);
   drawn->setTitleBrush(ink);
-  drawn->legend()->setAlignment(Qt::AlignBottom);
-  drawn->legend()->setFont(smallFont);
-  drawn->legend()->setLabelColor(palette.color(QPalette::Text));
+  drawn->legend()->hide();
   drawn->setBackgroundBrush(palette.brush(QPalette::Base));
   drawn->setBackgroundRoundness(0);
+  drawn->layout()->setContentsMargins(0, 0, 0, 0);
   drawn->setMargins(QMargins(2, 2, 2, 2));
   return drawn;
 }
@@ -121,6 +145,9 @@ QImage chartPicture(const BarChart& chart, const QSizeF& twips) {
   QGraphicsScene scene;
   QChart* drawn = drawnChart(chart, paper, font);
   scene.addItem(drawn);
+  // The heading of the page reaches into the first charts.
+  constexpr double headingUnits = 12;
+  drawn->layout()->setContentsMargins(0, headingUnits, 0, 0);
   drawn->resize(size);
   drawn->setAnimationOptions(QChart::NoAnimation);
   QImage picture((size * pixelsPerUnit).toSize(), QImage::Format_RGB32);

@@ -9,8 +9,8 @@
 
 namespace tavoli {
 
-/// A chart in Qt's terms: a bar a column with its value on it, an axis of whole numbers from 0, and
-/// a legend. The caller owns it.
+/// A chart in Qt's terms: a bar a column with its number on it and its title below it, and an axis
+/// of whole numbers from 0. The caller owns it.
 QChart* drawnChart(const BarChart& chart, const QPalette& palette, const QFont& font);
 
 /// The chart as a picture for paper: black on white, for a place of that many twips.

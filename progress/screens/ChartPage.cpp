@@ -53,6 +53,7 @@ void ChartPage::draw() {
     m_views[i]->setChart(drawnChart(m_charts[i], palette(), font()));
     m_views[i]->setObjectName(m_charts[i].name);
     m_views[i]->setAccessibleName(m_charts[i].title);
+    m_views[i]->setAccessibleDescription(m_charts[i].inWords());
   }
 }
 
