@@ -4,11 +4,42 @@
 
 namespace tavoli {
 
+namespace {
+
+QString dashed(const QString& name) {
+  return (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
+}
+
+/// The usage, with an option a line.
+QString usage(const QList<QCommandLineOption>& options) {
+  QString text = QStringLiteral("Tavoli: 英語ドリル\n使い方: tavoli [オプション]\n\n");
+  constexpr int namesWidth = 24;
+  for (const QCommandLineOption& option : options) {
+    QStringList names;
+    for (const QString& name : option.names()) names.append(dashed(name));
+    QString left = names.join(QStringLiteral(", "));
+    if (!option.valueName().isEmpty()) left += u' ' + option.valueName();
+    text += QStringLiteral("  ") + left.leftJustified(namesWidth) + option.description() + u'\n';
+  }
+  return text;
+}
+
+QString complaintOf(const QCommandLineParser& parser) {
+  const QStringList unknown = parser.unknownOptionNames();
+  if (unknown.isEmpty())
+    return QStringLiteral("値が足りないか多すぎます。tavoli --help で確かめてください。");
+  return dashed(unknown.first()) +
+         QStringLiteral(": このオプションはありません。tavoli --help で確かめてください。");
+}
+
+}  // namespace
+
 CommandLine parseCommandLine(const QStringList& arguments, const QString& version) {
   QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral("Tavoli: 英語ドリル"));
-  const QCommandLineOption help = parser.addHelpOption();
-  const QCommandLineOption showVersion = parser.addVersionOption();
+  const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                QStringLiteral("この説明を表示します。"));
+  const QCommandLineOption showVersion({QStringLiteral("v"), QStringLiteral("version")},
+                                       QStringLiteral("版を表示します。"));
   const QCommandLineOption terminal(QStringLiteral("terminal"),
                                     QStringLiteral("端末で練習します。"));
   const QCommandLineOption folder(QStringLiteral("app-folder"),
@@ -23,14 +54,15 @@ CommandLine parseCommandLine(const QStringList& arguments, const QString& versio
   const QCommandLineOption set(QStringLiteral("set"),
                                QStringLiteral("今回の練習条件を変えます（端末のみ、何度でも）。"),
                                QStringLiteral("NAME=VALUE"));
-  parser.addOptions({terminal, folder, user, password, set});
+  const QList options = {help, showVersion, terminal, folder, user, password, set};
+  parser.addOptions(options);
 
   CommandLine line;
   if (!parser.parse(arguments)) {
-    line.complaint = parser.errorText();
+    line.complaint = complaintOf(parser);
     return line;
   }
-  if (parser.isSet(help)) line.information = parser.helpText();
+  if (parser.isSet(help)) line.information = usage(options);
   if (parser.isSet(showVersion)) line.information = QStringLiteral("tavoli %1\n").arg(version);
   line.terminal = parser.isSet(terminal);
   line.applicationFolder = parser.value(folder);

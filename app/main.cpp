@@ -25,6 +25,13 @@ QStringList argumentsOf(int argc, char** argv) {
   return arguments;
 }
 
+/// Whether there is something to show windows on.
+bool hasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
 int start(const CommandLine& line) {
   SystemFiles files;
   const SystemClock clock;
@@ -59,6 +66,10 @@ int main(int argc, char** argv) {
   if (!line.information.isEmpty()) {
     std::fputs(qPrintable(line.information), stdout);
     return EXIT_SUCCESS;
+  }
+  if (!line.terminal && !hasDisplay()) {
+    std::fputs("tavoli: 画面がありません。端末では tavoli --terminal で練習できます。\n", stderr);
+    return badArguments;
   }
   QCoreApplication::setApplicationName(QStringLiteral("tavoli"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TAVOLI_VERSION));

@@ -201,13 +201,26 @@ TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
         << qPrintable(QString::fromUtf16(made));
 }
 
+TEST_F(TerminalDrillTest, WithoutADisplayTheWindowsSayWhatToDo) {
+  QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+  for (const char16_t* name : {u"DISPLAY", u"WAYLAND_DISPLAY", u"QT_QPA_PLATFORM"})
+    bare.remove(QString::fromUtf16(name));
+  QProcess program;
+  program.setProcessEnvironment(bare);
+  program.start(QStringLiteral(TAVOLI_PROGRAM), QStringList());
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 2);
+  const QString errors = QString::fromUtf8(program.readAllStandardError());
+  EXPECT_TRUE(errors.contains(QStringLiteral("tavoli --terminal"))) << qPrintable(errors);
+}
+
 TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
   const struct {
     const char* name;
     QStringList arguments;
     QString complaint;
   } cases[] = {
-      {"unknown option", {QStringLiteral("--fast")}, QStringLiteral("fast")},
+      {"unknown option", {QStringLiteral("--help-all")}, QStringLiteral("--help-all: この")},
       {"no value", settings(QStringLiteral("selMethod")), QStringLiteral("NAME=VALUE")},
       {"unknown name", settings(QStringLiteral("COURSE=0 speed=9")),
        QStringLiteral("speed という条件はありません")},
