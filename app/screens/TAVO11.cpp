@@ -72,8 +72,6 @@ void TAVO11::arrange() {
   for (QLabel* label : {m_label1, m_label2}) label->setWordWrap(true);
   const int character = m_text1->fontMetrics().averageCharWidth();
   m_text1->setMinimumWidth(character * fewestCharacters);
-  const int room = screen()->availableSize().width() * 9 / 10;
-  resize(std::min(character * wantedCharacters, room), 0);
 
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
@@ -93,6 +91,9 @@ void TAVO11::arrange() {
   setTabOrder(m_command1, m_command2);
   setTabOrder(m_command2, m_text2);
   m_command3->setFocus();
+  const int room = screen()->availableSize().width() * 9 / 10;
+  const int wide = std::max(sizeHint().width(), std::min(character * wantedCharacters, room));
+  resize(wide, layout()->totalHeightForWidth(wide));
 }
 
 void TAVO11::browse() {

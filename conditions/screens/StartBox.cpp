@@ -53,6 +53,7 @@ void StartBox::showPopup() {
     const QSignalBlocker quiet(this);
     setCurrentIndex(static_cast<int>(std::distance(entries.begin(), match)));
     setEditText(typed);
+    lineEdit()->setCursorPosition(0);
   }
   const int margin = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
   const int room = screen()->availableSize().width() * 9 / 10;

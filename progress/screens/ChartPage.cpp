@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QScrollArea>
 
 #include <memory>
 #include <utility>
@@ -18,10 +19,17 @@ constexpr int chartsARow = 3;
 
 }  // namespace
 
-ChartPage::ChartPage(const QString& note, QWidget* parent)
-    : QWidget(parent), m_grid(new QGridLayout) {
+ChartPage::ChartPage(const QString& note, QWidget* parent) : QWidget(parent) {
+  auto* charts = new QWidget;
+  m_grid = new QGridLayout(charts);
+  m_grid->setContentsMargins({});
+  auto* scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidget(charts);
+  scroll->setAccessibleName(QStringLiteral("グラフ"));
   auto* column = new QVBoxLayout(this);
-  column->addLayout(m_grid, 1);
+  column->addWidget(scroll, 1);
   if (note.isEmpty()) return;
   auto* label = new QLabel(note, this);
   label->setWordWrap(true);
@@ -46,6 +54,8 @@ void ChartPage::draw() {
       m_views[i]->setFrameShape(QFrame::StyledPanel);
       m_views[i]->setRenderHint(QPainter::Antialiasing);
       m_views[i]->setFocusPolicy(Qt::NoFocus);
+      // Smaller ones would have no room for their titles; the page scrolls instead.
+      m_views[i]->setMinimumSize(fontMetrics().height() * QSize(13, 9));
       m_grid->addWidget(m_views[i], place / chartsARow, place % chartsARow);
     }
     // The view keeps its former chart, which has to go.
