@@ -56,9 +56,9 @@ RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
   buttons->addWidget(cancel);
   column->addStretch(1);
   column->addLayout(buttons);
-  // The first key replaces the number.
+  // The box that has the focus when the dialog opens is selected: the first key replaces its
+  // number.
   m_wordBox->setFocus();
-  m_wordBox->selectAll();
 }
 
 QSpinBox* RepeatDialog::addGroup(QBoxLayout* column, const RepeatValue& value, int number) {

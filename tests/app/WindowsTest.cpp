@@ -11,6 +11,7 @@
 #include "conditions/screens/TAVO5.h"
 #include "conditions/screens/TAVO6.h"
 #include "practice/LookUp.h"
+#include "practice/screens/FunctionKeys.h"
 #include "practice/screens/TAVO3.h"
 #include "practice/screens/TAVO4.h"
 #include "progress/screens/TAVOstate.h"
@@ -84,6 +85,17 @@ TEST(Windows, FitSmallScreensBearTheProgramsNameAndNameTheirControls) {
     EXPECT_LE(least.height(), smallest.height());
     EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("Tavoli")));
     EXPECT_GT(test::expectNames(*window), 3);
+    window->resize(smallest);
+    QApplication::processEvents();
+    for (const auto* keys : window->findChildren<FunctionKeys*>()) {
+      QRegion covered;
+      for (const auto* button : keys->findChildren<QPushButton*>()) {
+        const QRect place(button->mapTo(keys, QPoint()), button->size());
+        EXPECT_TRUE(keys->rect().contains(place) && !covered.intersects(place))
+            << qPrintable(button->text());
+        covered += place;
+      }
+    }
     window->hide();
   }
 }
