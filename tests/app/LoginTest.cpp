@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -213,13 +214,23 @@ TEST_F(LoginTest, OneProgramAtATimeWorksOnACopy) {
   ASSERT_TRUE(
       Login(module, copy, files, clock, dialogs, screen).next(QStringLiteral("000"), QString()));
   const auto before = files.read(work());
+  EXPECT_FALSE(login(QStringLiteral("000")));
+  EXPECT_EQ(dialogs.shown, QStringList{work() + QStringLiteral(" が誤って使用中になっています。")});
+  EXPECT_EQ(files.read(work()), before);
+}
+
+TEST_F(LoginTest, ALiveProgramsLockNeverGrowsStale) {
+  const QString holder = QStringLiteral("%1\n%2\n%3\n")
+                             .arg(QString::number(QCoreApplication::applicationPid()),
+                                  QCoreApplication::applicationName(), QSysInfo::machineHostName());
   QFile lock(work() + QStringLiteral(".lock"));
-  ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+  lock.write(holder.toUtf8());
+  lock.flush();
   lock.setFileTime(QDateTime::currentDateTime().addDays(-3), QFileDevice::FileModificationTime);
   lock.close();
   EXPECT_FALSE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown, QStringList{work() + QStringLiteral(" が誤って使用中になっています。")});
-  EXPECT_EQ(files.read(work()), before);
 }
 
 TEST_F(LoginTest, ClearsTheLockOfADeadProgram) {

@@ -99,7 +99,9 @@ TEST(WindowFlowTest, ARunThatDidNotGetHomeIsThereAtTheNextLogin) {
   ASSERT_TRUE(QDir().rename(away, placed));
 
   module = startModule1(files, clock, folder.path());
-  boxes = runProgram(module, {logIn(), click<TAVOstate>("Command2")});
+  boxes = runProgram(module, {logIn(), click<TAVOstate>("Command1"), click<TAVO2>("Command5")});
+  EXPECT_EQ(files.read(module.learner.dbFilePlaced), files.read(module.learner.dbFileWork))
+      << "the conditions that were made have got home";
   const QDir data(module.dbPathDefault);
   const QStringList kept = data.entryList({QStringLiteral("TavoDB000.mdb-2*")}, QDir::Files);
   ASSERT_EQ(kept.size(), 1);

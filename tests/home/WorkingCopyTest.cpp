@@ -197,6 +197,25 @@ TEST_F(WorkingCopyTest, AFailedRunIsStillThereAfterLeaving) {
   EXPECT_EQ(dialogs.shown, QStringList()) << "told once";
 }
 
+TEST_F(WorkingCopyTest, KeepsWhatAnotherMachineCarriedHomeMeanwhile) {
+  for (Machine& machine : machines) ASSERT_TRUE(login(machine));
+  run(there);
+  there.copy->carryHome(WorkingCopy::Texts::Go);
+  run(here);
+  here.copy->leave();
+  EXPECT_TRUE(runsIn(here.learner.dbFilePlaced).contains(digits(runs - 1, 6)));
+  EXPECT_EQ(keptIn(placed), QStringList());
+  here.copy->carryHome(WorkingCopy::Texts::Go);
+  ASSERT_EQ(keptIn(placed).size(), 1);
+  const QString kept = placed + u'/' + keptIn(placed).first();
+  EXPECT_TRUE(runsIn(kept).contains(digits(runs - 1, 6)));
+  EXPECT_EQ(dialogs.shown,
+            QStringList{QStringLiteral("配置場所の %1 は別の機械で変更されていたので "
+                                       "%2 に保存しました。")
+                            .arg(here.learner.dbFilePlaced, kept)});
+  EXPECT_EQ(linesIn(here.learner.historyFilePlaced).size(), runs);
+}
+
 TEST_F(WorkingCopyTest, AJournalStaysBesideItsDatabase) {
   const QString& work = here.learner.dbFileWork;
   const QString journal = QStringLiteral("-journal");
