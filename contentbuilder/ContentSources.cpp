@@ -1,5 +1,7 @@
 #include "contentbuilder/ContentSources.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 #include "contentbuilder/SentenceSources.h"
@@ -11,25 +13,45 @@ namespace tavoli {
 
 namespace {
 
-const QString wordsStart = QStringLiteral("words-");
+const QString wordsFolder = QStringLiteral("words");
 const QString wordsEnd = QStringLiteral(".tsv");
+const QString sentencesFolder = QStringLiteral("sentences");
+const QString sentencesEnd = QStringLiteral(".txt");
 
 /// What lies in the content folder beside the sources.
 const QStringList companions = {QStringLiteral("README.md"), QStringLiteral("CMakeLists.txt")};
 
-/// The dictionary that a file becomes; empty when it is no words file.
-QString dictionaryOf(const QString& file) {
-  if (!file.startsWith(wordsStart) || !file.endsWith(wordsEnd)) return {};
-  const QString table = file.sliced(wordsStart.size()).chopped(wordsEnd.size());
-  const bool theStoresOwn = table.startsWith(QStringLiteral("sqlite_"), Qt::CaseInsensitive);
-  const bool dictionary = table == tableJTDIC || table == tableSTDIC || isSpecialTable(table);
-  return dictionary && !theStoresOwn ? table : QString();
+/// The folder inside `kind` that a source of that kind lies in; empty when it is none.
+QString groupOf(const QString& file, const QString& kind, const QString& ending) {
+  const QStringList steps = file.split(u'/');
+  return steps.size() == 3 && steps[0] == kind && file.endsWith(ending) ? steps[1] : QString();
 }
 
 const SentenceCourse* courseOf(const QString& file) {
+  const QString name = groupOf(file, sentencesFolder, sentencesEnd);
   const auto course = std::find_if(sentenceCourses.begin(), sentenceCourses.end(),
-                                   [&](auto& c) { return sentencesFileName(c.name) == file; });
+                                   [&](auto& c) { return c.name == name; });
   return course == sentenceCourses.end() ? nullptr : &*course;
+}
+
+bool startsLike(const QString& table, const QString& start) {
+  return table.startsWith(start, Qt::CaseInsensitive);
+}
+
+/// Why a dictionary cannot have that name; empty when it can.
+QString tableNameProblem(const QString& table) {
+  if (table == tableJTDIC || table == tableSTDIC) return {};
+  for (const QString& own : {tableJTDIC, tableSTDIC}) {
+    if (startsLike(table, own))
+      return QStringLiteral(
+                 "表%1の名前が%2と紛らわしいので使えません。%2の語なら words/%2/ に、"
+                 "専門の辞書なら別の表名にしてください。")
+          .arg(table, own);
+  }
+  if (startsLike(table, QStringLiteral("sqlite_")) || !isSpecialTable(table) ||
+      table.compare(tableBDIC, Qt::CaseInsensitive) == 0)
+    return QStringLiteral("表名%1は使えません。別の名前にしてください。").arg(table);
+  return {};
 }
 
 class ContentReader {
@@ -38,57 +60,79 @@ class ContentReader {
 
   void read(const SourceFile& file) {
     if (companions.contains(file.name)) return;
-    const SentenceCourse* course = courseOf(file.name);
-    const QString dictionary = dictionaryOf(file.name);
-    if (!course && dictionary.isEmpty()) {
-      complain(file, QStringLiteral("何のファイルか分かりません。名前を words-表名.tsv か "
-                                    "sentences-中学.txt などに直すか、ほかへ移してください。"));
+    if (const SentenceCourse* course = courseOf(file.name)) {
+      if (const std::optional<SourceText> source = readSource(file, m_problems))
+        append(m_tables.front(), parseSentences(*source, *course, m_places[0], m_problems));
       return;
     }
-    const std::optional<SourceText> source = readSource(file, m_problems);
-    if (!source) return;
-    if (course) {
-      std::vector<ContentRow>& rows = m_tables.front().rows;
-      const std::vector<ContentRow> more = parseSentences(*source, *course, m_places, m_problems);
-      rows.insert(rows.end(), more.begin(), more.end());
-      return;
-    }
-    ContentTable* table = tableFor(dictionary);
-    if (table->name == dictionary)
-      table->rows = parseWords(*source, m_problems);
+    const QString table = groupOf(file.name, wordsFolder, wordsEnd);
+    if (table.isEmpty())
+      complain(file,
+               QStringLiteral("何のファイルか分かりません。words/表名/ の .tsv か "
+                              "sentences/中学/ などの .txt にするか、ほかへ移してください。"));
+    else if (const QString problem = tableNameProblem(table); !problem.isEmpty())
+      complain(file, problem);
     else
-      complain(file, QStringLiteral("表%1とは大文字と小文字が違うだけです。表名を変えてください。")
-                         .arg(table->name));
+      readWords(file, table);
   }
 
-  std::vector<ContentTable> takeTables() { return std::move(m_tables); }
+  std::vector<ContentTable> takeTables() {
+    for (const QString& table : {tableJTDIC, tableSTDIC}) {
+      if (!m_read.contains(table)) {
+        m_problems.push_back({QStringLiteral("%1/%2").arg(wordsFolder, table), 0,
+                              QStringLiteral("表%1のファイル（.tsv）がありません。").arg(table)});
+      }
+    }
+    return std::move(m_tables);
+  }
 
  private:
   void complain(const SourceFile& file, const QString& message) {
     m_problems.push_back({file.name, 1, message});
   }
 
+  static void append(ContentTable& table, const std::vector<ContentRow>& rows) {
+    table.rows.insert(table.rows.end(), rows.begin(), rows.end());
+  }
+
+  void readWords(const SourceFile& file, const QString& name) {
+    m_read.insert(name);
+    const std::optional<SourceText> source = readSource(file, m_problems);
+    if (!source) return;
+    const size_t t = tableFor(name);
+    if (m_tables[t].name == name)
+      append(m_tables[t], parseWords(*source, m_places[t], m_problems));
+    else
+      complain(file, QStringLiteral("表%1とは大文字と小文字が違うだけです。表名を変えてください。")
+                         .arg(m_tables[t].name));
+  }
+
   /// The store takes names that differ only in case for the same table.
-  ContentTable* tableFor(const QString& name) {
-    for (ContentTable& table : m_tables)
-      if (table.name.compare(name, Qt::CaseInsensitive) == 0) return &table;
+  size_t tableFor(const QString& name) {
+    const auto found =
+        std::find_if(m_tables.begin(), m_tables.end(), [&](const ContentTable& table) {
+          return table.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    if (found != m_tables.end()) return static_cast<size_t>(found - m_tables.begin());
     m_tables.push_back({name, {}});
-    return &m_tables.back();
+    m_places.emplace_back();
+    return m_tables.size() - 1;
   }
 
   Problems& m_problems;
   std::vector<ContentTable> m_tables = {{tableBDIC, {}}, {tableJTDIC, {}}, {tableSTDIC, {}}};
-  SentencePlaces m_places;
+  std::vector<KeyPlaces> m_places{m_tables.size()};  ///< those of each table
+  QSet<QString> m_read;                              ///< dictionaries that have a file
 };
 
 }  // namespace
 
 QString wordsFileName(const QString& table) {
-  return wordsStart + table + wordsEnd;
+  return QStringLiteral("%1/%2/%2%3").arg(wordsFolder, table, wordsEnd);
 }
 
 QString sentencesFileName(const QString& course) {
-  return QStringLiteral("sentences-%1.txt").arg(course);
+  return QStringLiteral("%1/%2/%2%3").arg(sentencesFolder, course, sentencesEnd);
 }
 
 std::vector<ContentTable> readContent(const std::vector<SourceFile>& files, Problems& problems) {

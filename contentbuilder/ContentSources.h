@@ -8,14 +8,14 @@
 // The content folder as a whole.
 namespace tavoli {
 
-/// The name of a dictionary's source.
+/// The name of a dictionary's source, where one file holds it all.
 QString wordsFileName(const QString& table);
-/// The name of a course's sentences.
+/// The same for a course's sentences.
 QString sentencesFileName(const QString& course);
 
-/// Reads all sources into the tables they become: BDIC, JTDIC and STDIC, which may be empty, then
-/// the specialist dictionaries in the order of the files. Every problem is named, those of a file
-/// by line; with any, the tables are not fit to be stored.
+/// Reads all sources into the tables they become: BDIC, JTDIC and STDIC, then the specialist
+/// dictionaries in the order of the files. Every problem is named, those of a file by line; with
+/// any, the tables are not fit to be stored.
 std::vector<ContentTable> readContent(const std::vector<SourceFile>& files, Problems& problems);
 
 }  // namespace tavoli

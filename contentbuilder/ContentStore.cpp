@@ -115,11 +115,8 @@ class TableDump {
     const QByteArray line = wordSource(row, record).toUtf8();
     Problems problems;
     const auto source = readSource({QString(), header + line}, problems);
-    // Equal keys stand side by side in the table.
-    if (!source || parseWords(*source, problems) != std::vector{row} || !problems.empty() ||
-        row.key == m_lastKey)
+    if (!source || parseWords(*source, m_places, problems) != std::vector{row} || !problems.empty())
       return false;
-    m_lastKey = row.key;
     m_sources.front().bytes += line;
     return true;
   }
@@ -128,8 +125,7 @@ class TableDump {
   QString m_file;
   Problems& m_problems;
   std::vector<SourceFile> m_sources;
-  SentencePlaces m_places;
-  QString m_lastKey;
+  KeyPlaces m_places;
 };
 
 }  // namespace

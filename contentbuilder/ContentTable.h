@@ -1,11 +1,23 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <vector>
 
 namespace tavoli {
+
+/// Where something stands in the sources.
+struct SourcePlace {
+  QString file;
+  int line = 1;
+
+  QString text() const { return QStringLiteral("%1:%2").arg(file, QString::number(line)); }
+};
+
+/// Where each key of a table stands; a key may stand once in all files of its table.
+using KeyPlaces = QHash<QString, SourcePlace>;
 
 /// One item of the content, as its row holds it.
 struct ContentRow {
@@ -13,8 +25,13 @@ struct ContentRow {
   QString レベル;  ///< two digits; words only
   QString record;  ///< packed, every 小問 at 全然 with count 00
   QString 読上;    ///< empty for none
+  SourcePlace place = {};
 
-  bool operator==(const ContentRow&) const = default;
+  /// The place is no part of the item.
+  bool operator==(const ContentRow& other) const {
+    return key == other.key && レベル == other.レベル && record == other.record &&
+           読上 == other.読上;
+  }
 };
 
 /// What becomes of one table: BDIC or a dictionary.
@@ -23,7 +40,7 @@ struct ContentTable {
   std::vector<ContentRow> rows;
 };
 
-/// A source as it lies in the content folder.
+/// A source as it lies in the content folder; its name is the path from there.
 struct SourceFile {
   QString name;
   QByteArray bytes;

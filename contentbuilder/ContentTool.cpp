@@ -10,8 +10,18 @@ namespace tavoli {
 
 namespace {
 
-/// Holds lesson files, which are no part of the database.
-const QString lessonsFolder = QStringLiteral("lessons");
+/// Folders of the content that hold no sources: lesson files are delivered as they are, and what
+/// readers tried is kept for people.
+const QStringList otherFolders = {QStringLiteral("lessons"), QStringLiteral("trials")};
+
+/// The paths of the files below `place`, folder by folder.
+QStringList filesBelow(const QDir& place) {
+  QStringList names = place.entryList(QDir::Files, QDir::Name);
+  for (const QString& folder : place.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+    for (const QString& name : filesBelow(QDir(place.filePath(folder))))
+      names.append(folder + u'/' + name);
+  return names;
+}
 
 Problem existing(const QString& path) {
   return {path, 0,
@@ -34,17 +44,12 @@ std::vector<ContentTable> ContentTool::read(const QString& folder, Problems& pro
     return {};
   }
   std::vector<SourceFile> sources;
-  for (const QString& name : place.entryList(QDir::Files, QDir::Name)) {
+  for (const QString& name : filesBelow(place)) {
+    if (otherFolders.contains(name.section(u'/', 0, 0))) continue;
     if (const std::optional<QByteArray> bytes = m_files.read(place.filePath(name)))
       sources.push_back({name, *bytes});
     else
       problems.push_back({name, 0, QStringLiteral("読めません。権限を確かめてください。")});
-  }
-  for (const QString& name : place.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
-    if (name != lessonsFolder) {
-      problems.push_back(
-          {name, 0, QStringLiteral("何のフォルダーか分かりません。ほかへ移してください。")});
-    }
   }
   std::vector<ContentTable> tables = readContent(sources, problems);
   for (Problem& problem : problems) problem.file = place.filePath(problem.file);
@@ -95,9 +100,9 @@ Problems ContentTool::dump(const QString& database, const QString& folder, bool 
     }
     if (!inTheWay.empty()) return inTheWay;
   }
-  m_files.makeFolder(folder);
   for (const SourceFile& source : sources) {
     const QString path = place.filePath(source.name);
+    m_files.makeFolder(QFileInfo(path).path());
     if (m_files.write(path, source.bytes) != FileResult::Ok) problems.push_back(unwritable(path));
   }
   return problems;

@@ -39,8 +39,9 @@ class SentenceReader {
       : m_source(source), m_problems(problems) {}
 
   ContentRow read(std::span<const SourceLine> lines, const SentenceCourse& course,
-                  SentencePlaces& places) {
+                  KeyPlaces& places) {
     const SourceLine& first = lines.front();
+    m_row.place = {m_source.name, first.number};
     if (isTagLine(trimBlanks(first.text))) {
       complain(first.number, QStringLiteral("文番の行がありません。問題の途中に空行があれば除き、"
                                             "なければ6文字の文番を置いてください。"));
@@ -70,7 +71,7 @@ class SentenceReader {
     for (const QString& message : messages) complain(line, message);
   }
 
-  void readNumber(const SourceLine& line, const SentenceCourse& course, SentencePlaces& places) {
+  void readNumber(const SourceLine& line, const SentenceCourse& course, KeyPlaces& places) {
     m_row.key = trimBlanks(line.text);
     const bool plain = std::all_of(m_row.key.begin(), m_row.key.end(), [](QChar c) {
       return c.unicode() < 0x80 && c.isLetterOrNumber();
@@ -87,12 +88,11 @@ class SentenceReader {
                               "ほかのファイルに移してください。")
                    .arg(m_row.key, course.name, course.from, course.below));
     }
-    const QString here = QStringLiteral("%1:%2").arg(m_source.name).arg(line.number);
     if (places.contains(m_row.key)) {
       complain(line.number, QStringLiteral("文番%1は%2でも使われています。番号を変えてください。")
-                                .arg(m_row.key, places.value(m_row.key)));
+                                .arg(m_row.key, places.value(m_row.key).text()));
     } else {
-      places.insert(m_row.key, here);
+      places.insert(m_row.key, m_row.place);
     }
   }
 
@@ -188,7 +188,7 @@ class SentenceReader {
 }  // namespace
 
 std::vector<ContentRow> parseSentences(const SourceText& source, const SentenceCourse& course,
-                                       SentencePlaces& places, Problems& problems) {
+                                       KeyPlaces& places, Problems& problems) {
   const auto isEmpty = [](const SourceLine& line) { return trimBlanks(line.text).isEmpty(); };
   std::vector<ContentRow> rows;
   auto begin = source.lines.begin();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QHash>
-
 #include <optional>
 
 #include "contentbuilder/ContentTable.h"
@@ -23,12 +21,9 @@ struct SentenceCourse {
 
 extern const std::vector<SentenceCourse> sentenceCourses;
 
-/// Where each number stands, as "file:line". Numbers must differ over all files.
-using SentencePlaces = QHash<QString, QString>;
-
 /// The rows of a sentences file. With a new problem they are not fit to be stored.
 std::vector<ContentRow> parseSentences(const SourceText& source, const SentenceCourse& course,
-                                       SentencePlaces& places, Problems& problems);
+                                       KeyPlaces& places, Problems& problems);
 
 /// The block of a sentence, without an empty line around it; `record` is its record taken apart.
 QString sentenceSource(const ContentRow& row, const CurrentRecord& record);

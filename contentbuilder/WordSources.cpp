@@ -1,7 +1,5 @@
 #include "contentbuilder/WordSources.h"
 
-#include <QHash>
-
 #include <algorithm>
 
 #include "contentbuilder/TextChecks.h"
@@ -16,6 +14,9 @@ namespace {
 
 constexpr int columnCount = 7;
 constexpr int maxKeyLength = 60;
+constexpr int maxLevel = 10;
+
+constexpr QChar quote = u'"';
 
 const QString name発音 = QStringLiteral("「発音」");
 const QString name同 = QStringLiteral("「同」");
@@ -24,12 +25,13 @@ const QString nameコメント = QStringLiteral("「コメント」");
 
 class WordReader {
  public:
-  WordReader(const SourceText& source, Problems& problems)
-      : m_source(source), m_problems(problems) {}
+  WordReader(const SourceText& source, KeyPlaces& places, Problems& problems)
+      : m_source(source), m_places(places), m_problems(problems) {}
 
   ContentRow read(const SourceLine& line) {
     m_line = line.number;
     QStringList columns = line.text.split(u'\t');
+    for (QString& column : columns) column = withoutSpreadsheetQuotes(column);
     if (columns.size() == columnCount - 1) columns.append(QString());
     if (columns.size() != columnCount) {
       complain(QStringLiteral("列が%1個あります。タブで区切って%2個（「読上」を省くときは%3個）に"
@@ -40,6 +42,7 @@ class WordReader {
       return {};
     }
     ContentRow row;
+    row.place = {m_source.name, m_line};
     row.key = columns[0];
     checkKey(row.key);
     row.レベル = level(trimBlanks(columns[1]));
@@ -79,19 +82,34 @@ class WordReader {
       complain(QStringLiteral("「英語」は%1文字までです。").arg(maxKeyLength));
     if (isReservedKey(key))
       complain(QStringLiteral("zzzzで始まる「英語」は、システムが使うので置けません。"));
-    const int first = m_lineOfKey.value(key, m_line);
-    if (first != m_line)
-      complain(QStringLiteral("「%1」は%2行目にもあります。一つにまとめてください。")
-                   .arg(key, QString::number(first)));
-    m_lineOfKey.insert(key, first);
+    if (m_places.contains(key)) {
+      complain(QStringLiteral("「%1」は%2にもあります。一つにまとめてください。")
+                   .arg(key, m_places.value(key).text()));
+    } else {
+      m_places.insert(key, {m_source.name, m_line});
+    }
   }
 
   QString level(const QString& text) {
     const bool number =
         !text.isEmpty() && text.size() <= 2 &&
         std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (!number) complain(QStringLiteral("「レベル」は0から99までの数で書いてください。"));
+    if (!number || numberOf(text) > maxLevel)
+      complain(QStringLiteral("「レベル」は0から%1までの数で書いてください。").arg(maxLevel));
     return digits(numberOf(text), 2);
+  }
+
+  /// A spreadsheet puts a column that holds quotes into quotes, and doubles those inside.
+  QString withoutSpreadsheetQuotes(const QString& column) {
+    if (!column.startsWith(quote)) return column;
+    QString inner =
+        column.size() > 1 && column.endsWith(quote) ? column.sliced(1).chopped(1) : QString(quote);
+    const QString doubled = QString(2, quote);
+    if (QString(inner).remove(doubled).contains(quote))
+      complain(
+          QStringLiteral("「\"」で始まる列は、全体を「\"」で囲み、中の「\"」を「\"\"」と"
+                         "書いてください（表計算ソフトの書き方）。"));
+    return inner.replace(doubled, QString(quote));
   }
 
   QString text(const QString& name, const QString& column) {
@@ -111,14 +129,15 @@ class WordReader {
   }
 
   const SourceText& m_source;
+  KeyPlaces& m_places;
   Problems& m_problems;
   int m_line = 0;
-  QHash<QString, int> m_lineOfKey;
 };
 
 }  // namespace
 
-std::vector<ContentRow> parseWords(const SourceText& source, Problems& problems) {
+std::vector<ContentRow> parseWords(const SourceText& source, KeyPlaces& places,
+                                   Problems& problems) {
   std::vector<ContentRow> rows;
   if (source.lines.empty() || source.lines.front().number != 1 ||
       source.lines.front().text != wordsHeader) {
@@ -127,7 +146,7 @@ std::vector<ContentRow> parseWords(const SourceText& source, Problems& problems)
          QStringLiteral("1行目には列の名前をタブで区切って書いてください: %1").arg(wordsHeader)});
     return rows;
   }
-  WordReader reader(source, problems);
+  WordReader reader(source, places, problems);
   for (size_t i = 1; i < source.lines.size(); ++i)
     if (!trimBlanks(source.lines[i].text).isEmpty()) rows.push_back(reader.read(source.lines[i]));
   return rows;
@@ -141,6 +160,9 @@ QString wordSource(const ContentRow& row, const CurrentRecord& record) {
       row.key,        level, record.発音, record.同.join(fieldMark), meanings.join(fieldMark),
       record.コメント};
   if (!row.読上.isEmpty()) columns.append(row.読上);
+  for (QString& column : columns) {
+    if (column.startsWith(quote)) column = quote + column.replace(quote, QString(2, quote)) + quote;
+  }
   return columns.join(u'\t') + u'\n';
 }
 

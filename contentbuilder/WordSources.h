@@ -11,8 +11,9 @@ namespace tavoli {
 /// The first line of every words file.
 extern const QString wordsHeader;
 
-/// The rows of a words file. With a new problem they are not fit to be stored.
-std::vector<ContentRow> parseWords(const SourceText& source, Problems& problems);
+/// The rows of a words file. With a new problem they are not fit to be stored. `places`: the keys
+/// of the table's other files; those of this one are added.
+std::vector<ContentRow> parseWords(const SourceText& source, KeyPlaces& places, Problems& problems);
 
 /// The line of a word; `record` is its record taken apart.
 QString wordSource(const ContentRow& row, const CurrentRecord& record);

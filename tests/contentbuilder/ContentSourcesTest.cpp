@@ -7,8 +7,9 @@
 namespace tavoli {
 namespace {
 
-const QByteArray wordsFile = "words-JTDIC.tsv";
-const QByteArray sentencesFile = "sentences-中学.txt";
+const QByteArray wordsFile = "words/JTDIC/a.tsv";
+const QByteArray otherWordsFile = "words/STDIC/a.tsv";
+const QByteArray sentencesFile = "sentences/中学/a.txt";
 const QByteArray header = "英語\tレベル\t発音\t同\t日\tコメント\t読上\n";
 
 SourceFile source(const QByteArray& name, const QByteArray& bytes) {
@@ -19,10 +20,13 @@ TEST(ContentSourcesTest, CompilesToPackedRecords) {
   const std::vector<SourceFile> files = {
       source("README.md", "not UTF-8: \xFF"),
       source(
-          "words-Travel.tsv",
+          "words/Travel/a.tsv",
           "\xEF\xBB\xBF" + header +
               "# a comment\r\n\r\nbest\t3\tァbe′st\tfinest|top \t最もよい| [最]善\t最善％道\tbest!"
-              "\r\nBest\t12\t\t\t〜人名\t\n"),
+              "\r\nBest\t10\t\t\t〜人名\t\n"),
+      source(wordsFile, header),
+      source(otherWordsFile, header),
+      source("words/Travel/b.tsv", header + "\"\"\"a\"\" b\"\t0\t\t\t一\t\"\"\"A.\"\"  甲\"\n"),
       source(sentencesFile,
              "# heading\n000120\n問 彼は？％He (   ) (   ) me.  \n"
              "# inside\n答 <It >is\n"
@@ -52,7 +56,9 @@ TEST(ContentSourcesTest, CompilesToPackedRecords) {
       {QStringLiteral("best"), QStringLiteral("03"),
        QStringLiteral("ァbe′st|finest^top^|000最もよい^000[最]善^|最善％道"),
        QStringLiteral("best!")},
-      {QStringLiteral("Best"), QStringLiteral("12"), QStringLiteral("||000～人名^|"), QString()},
+      {QStringLiteral("Best"), QStringLiteral("10"), QStringLiteral("||000～人名^|"), QString()},
+      {QStringLiteral("\"a\" b"), QStringLiteral("00"), QStringLiteral("||000一^|\"A.\"  甲"),
+       QString()},
   };
   EXPECT_EQ(tables[3].rows, words);
 }
@@ -70,7 +76,10 @@ void expectEach(const QByteArray& file, const QByteArray& before,
   for (const Mistake& mistake : mistakes) {
     SCOPED_TRACE(mistake.name);
     Problems problems;
-    readContent({source(file, before + mistake.text)}, problems);
+    std::vector<SourceFile> files = {source(wordsFile, header), source(otherWordsFile, header)};
+    std::erase_if(files, [&](const SourceFile& f) { return f.name == QString::fromUtf8(file); });
+    files.push_back(source(file, before + mistake.text));
+    readContent(files, problems);
     for (const Problem& problem : problems)
       SCOPED_TRACE(testing::Message() << problem.line << ": " << qPrintable(problem.message));
     EXPECT_EQ(problems.size(), 1);
@@ -94,9 +103,11 @@ TEST(ContentSourcesTest, NamesEveryMistakeInAWordsFile) {
           {"blank before the key", " a\t1\t\t\t意味\t\n", 2, "空白"},
           {"long key", longest + "\t1\t\t\t意味\t\n" + longest + "x\t1\t\t\t意味\t\n", 3, "60文字"},
           {"reserved key", "Zzzz\t1\t\t\t意味\t\n", 2, "zzzz"},
-          {"key twice", "a\t1\t\t\t意味\t\nA\t1\t\t\t意味\t\na\t1\t\t\t意味\t\n", 4, "2行目"},
-          {"level too high", "a\t100\t\t\t意味\t\n", 2, "レベル"},
+          {"key twice", "a\t1\t\t\t意味\t\nA\t1\t\t\t意味\t\na\t1\t\t\t意味\t\n", 4, "a.tsv:2"},
+          {"level too high", "a\t11\t\t\t意味\t\n", 2, "レベル"},
           {"no level", "a\t\t\t\t意味\t\n", 2, "レベル"},
+          {"opening quote alone", "a\t1\t\t\t\"b\" c\t\n", 2, "表計算"},
+          {"quote left open", "a\t1\t\t\t\"b\t\n", 2, "表計算"},
           {"no meaning", "a\t1\t\t\t\t\n", 2, "意味がありません"},
           {"empty meaning", "a\t1\t\t\t一||三\t\n", 2, "「日」に空の要素"},
           {"empty synonym", "a\t1\t\tb| \t一\t\n", 2, "「同」に空の要素"},
@@ -117,7 +128,7 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
                  {"short number", "00010\n問 次\n答 a\n", 1, "6文字"},
                  {"another course's number", "500000\n問 次\n答 a\n", 1, "中学の範囲"},
                  {"reserved number", "zzzzz1\n問 次\n答 a\n", 1, "中学の範囲"},
-                 {"number twice", start + "答 a\n\n" + start + "答 a\n", 5, "中学.txt:1"},
+                 {"number twice", start + "答 a\n\n" + start + "答 a\n", 5, "中学/a.txt:1"},
                  {"empty line inside", start + "答 a\n\nコ メ\n問 次\n答 a\n", 5, "空行"},
                  {"no question", "000010\n答 a\n", 1, "「問」がない"},
                  {"empty question", "000010\n問\n答 a\n", 1, "「問」がない"},
@@ -164,23 +175,30 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
 }
 
 TEST(ContentSourcesTest, LooksAtAllFiles) {
+  const QByteArray word = "a\t1\t\t\t意味\t\n";
   Problems problems;
   readContent(
-      {source("words-JTDIC.tsv", header + "a\tx\t\t\t\t\n"), source("words-jtdic.tsv", header),
-       source("words-BDIC.tsv", header), source("words-sqlite_x.tsv", header),
-       source("notes.txt", "-"), source("sentences-高校.txt", "500010\n問 [\n答 {\n"),
-       source("sentences-専門.txt",
-              "500010\n問 次\n答 a\n\nZ00000\n問 次\n答 a\n"
-              "\nY99999\n問 次\n答 a\n")},
+      {source("notes.txt", "-"), source("sentences/中学.txt", ""),
+       source("sentences/大学/a.txt", ""),
+       source("sentences/専門/a.txt",
+              "500020\n問 次\n答 a\n\nZ00000\n問 次\n答 a\n\nY99999\n問 次\n答 a\n"),
+       source("sentences/専門/b.txt", "Y99999\n問 次\n答 a\n"),
+       source("sentences/高校/a.txt", "500010\n問 [\n答 {\n"), source("words/BDIC/a.tsv", header),
+       source("words/JTDIC/a.tsv", header + "a\tx\t\t\t\t\n"),
+       source("words/JTDIC/b.tsv", header + word), source("words/JTDIC2/a.tsv", header),
+       source("words/Travel/a.tsv", header + word), source("words/jtdic/a.tsv", header),
+       source("words/sqlite_x/a.tsv", header), source("words/travel/a.tsv", header)},
       problems);
   QStringList places;
   for (const Problem& problem : problems)
     places.append(QStringLiteral("%1:%2").arg(problem.file).arg(problem.line));
   EXPECT_EQ(places.join(u' '),
-            QStringLiteral("words-JTDIC.tsv:2 words-JTDIC.tsv:2 words-jtdic.tsv:1 words-BDIC.tsv:1 "
-                           "words-sqlite_x.tsv:1 notes.txt:1 sentences-高校.txt:2 "
-                           "sentences-高校.txt:3 sentences-専門.txt:1 sentences-専門.txt:1 "
-                           "sentences-専門.txt:5"));
+            QStringLiteral(
+                "notes.txt:1 sentences/中学.txt:1 sentences/大学/a.txt:1 sentences/専門/a.txt:1 "
+                "sentences/専門/a.txt:5 sentences/専門/b.txt:1 sentences/高校/a.txt:2 "
+                "sentences/高校/a.txt:3 words/BDIC/a.tsv:1 words/JTDIC/a.tsv:2 "
+                "words/JTDIC/a.tsv:2 words/JTDIC/b.tsv:2 words/JTDIC2/a.tsv:1 "
+                "words/jtdic/a.tsv:1 words/sqlite_x/a.tsv:1 words/travel/a.tsv:1 words/STDIC:0"));
 }
 
 }  // namespace

@@ -39,10 +39,14 @@ QStringList allRows(const QString& path) {
 
 class ContentToolTest : public testing::Test {
  protected:
+  void SetUp() override {
+    for (const char* name : {"words/JTDIC/JTDIC.tsv", "words/STDIC/STDIC.tsv"}) write(name, header);
+  }
   QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
   void write(const char* name, const QByteArray& bytes) {
-    files.makeFolder(path("content"));
-    ASSERT_EQ(files.write(path("content/") + QString::fromUtf8(name), bytes), FileResult::Ok);
+    const QString file = path("content/") + QString::fromUtf8(name);
+    files.makeFolder(QFileInfo(file).path());
+    ASSERT_EQ(files.write(file, bytes), FileResult::Ok);
   }
   static QStringList messages(const Problems& problems) {
     QStringList texts;
@@ -50,16 +54,17 @@ class ContentToolTest : public testing::Test {
     return texts;
   }
 
+  const QByteArray header = "英語\tレベル\t発音\t同\t日\tコメント\t読上\n";
   SystemFiles files;
   ContentTool tool{files};
   QTemporaryDir folder;
 };
 
 TEST_F(ContentToolTest, BuildsAWholeDatabaseOfNewItems) {
-  write("words-Travel.tsv",
-        "英語\tレベル\t発音\t同\t日\tコメント\t読上\nvisa\t7\t\t\t査証\t\t\n"
-        "～ abroad\t9\t\t\t海外へ\t\tabroad\n");
-  write("sentences-高校.txt", "500010\n問 次\n答 a\n");
+  write("words/Travel/x.tsv", header +
+                                  "visa\t7\t\t\t査証\t\t\n"
+                                  "～ abroad\t9\t\t\t海外へ\t\tabroad\n");
+  write("sentences/高校/高校.txt", "500010\n問 次\n答 a\n");
   ASSERT_EQ(messages(tool.build(path("content"), path("a.mdb"), false)), QStringList());
   EXPECT_EQ(allRows(path("a.mdb")),
             (QStringList{
@@ -77,18 +82,18 @@ TEST_F(ContentToolTest, BuildsAWholeDatabaseOfNewItems) {
 }
 
 TEST_F(ContentToolTest, ReplacesNothingUnasked) {
-  write("sentences-高校.txt", "500010\n問 次\n答 a\n");
+  write("sentences/高校/高校.txt", "500010\n問 次\n答 a\n");
   ASSERT_TRUE(tool.build(path("content"), path("a.mdb"), false).empty());
   const QStringList before = allRows(path("a.mdb"));
-  write("sentences-高校.txt", "500020\n問 次\n答 a\n");
+  write("sentences/高校/高校.txt", "500020\n問 次\n答 a\n");
   EXPECT_EQ(tool.build(path("content"), path("a.mdb"), false).size(), 1);
-  EXPECT_EQ(tool.dump(path("a.mdb"), path("content"), false).size(), 1);
-  EXPECT_FALSE(files.exists(path("content/words-JTDIC.tsv"))) << "all or nothing";
+  EXPECT_EQ(tool.dump(path("a.mdb"), path("content"), false).size(), 3);
+  EXPECT_FALSE(files.exists(path("content/sentences/中学"))) << "all or nothing";
   EXPECT_EQ(allRows(path("a.mdb")), before);
   EXPECT_TRUE(tool.build(path("content"), path("a.mdb"), true).empty());
   EXPECT_NE(allRows(path("a.mdb")), before);
 
-  write("sentences-高校.txt", "500020\n問 次\n");
+  write("sentences/高校/高校.txt", "500020\n問 次\n");
   const QStringList sound = allRows(path("a.mdb"));
   EXPECT_EQ(tool.build(path("content"), path("a.mdb"), true).size(), 1);
   EXPECT_EQ(tool.build(path("content"), path("b.mdb"), true).size(), 1);
@@ -143,14 +148,14 @@ TEST_F(ContentToolTest, ADumpLeavesOutWhatIsDamagedAndNamesIt) {
   for (const QString& place : {QStringLiteral("BDICの「Z00000」"), QStringLiteral("JTDICの「#1」"),
                                QStringLiteral("JTDICの「a」"), QStringLiteral("JTDICの「b」")})
     EXPECT_TRUE(said.contains(place)) << qPrintable(said);
-  EXPECT_EQ(files.read(path("dumped/sentences-中学.txt")), QByteArray("000010\n問 次\n答 a\n"));
-  EXPECT_EQ(files.read(path("dumped/sentences-専門.txt")), QByteArray());
-  EXPECT_EQ(files.read(path("dumped/words-JTDIC.tsv")),
-            QByteArray("英語\tレベル\t発音\t同\t日\tコメント\t読上\na\t0\t\t\t一\t\n"));
+  EXPECT_EQ(files.read(path("dumped/sentences/中学/中学.txt")),
+            QByteArray("000010\n問 次\n答 a\n"));
+  EXPECT_EQ(files.read(path("dumped/sentences/専門/専門.txt")), QByteArray());
+  EXPECT_EQ(files.read(path("dumped/words/JTDIC/JTDIC.tsv")), header + "a\t0\t\t\t一\t\n");
 }
 
 TEST_F(ContentToolTest, TellsByItsExitStatus) {
-  write("sentences-中学.txt", "000010\n問 次\n");
+  write("sentences/中学/a.txt", "000010\n問 次\n");
   const QString content = path("content");
   const QString delivered = QStringLiteral(TAVOLI_CONTENT_FOLDER);
   const struct {
@@ -163,7 +168,7 @@ TEST_F(ContentToolTest, TellsByItsExitStatus) {
       {"mistakes",
        {QStringLiteral("check"), content},
        1,
-       path("content/sentences-中学.txt:1: 「答」")},
+       path("content/sentences/中学/a.txt:1: 「答」")},
       {"no target", {QStringLiteral("build"), content}, 2, QStringLiteral("-o で書き込み先を")},
       {"unknown option", {QStringLiteral("check"), QStringLiteral("--all")}, 2, QString()},
       {"nothing to dump",
@@ -196,7 +201,7 @@ class RandomContent {
     for (int i = 0; i < 900; ++i) {
       all[0].rows.push_back({digits(i * 1000, 6), QString(), packRecord(sentence()), maybe()});
       all[1].rows.push_back(
-          {QStringLiteral("k ") + digits(i, 4), digits(upTo(99), 2), packRecord(word()), maybe()});
+          {QStringLiteral("k ") + digits(i, 4), digits(upTo(10), 2), packRecord(word()), maybe()});
     }
     return all;
   }
