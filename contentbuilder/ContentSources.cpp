@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 #include "contentbuilder/SentenceSources.h"
 #include "contentbuilder/SourceText.h"
@@ -49,7 +50,7 @@ QString tableNameProblem(const QString& table) {
           .arg(table, own);
   }
   if (startsLike(table, QStringLiteral("sqlite_")) || !isSpecialTable(table) ||
-      table.compare(tableBDIC, Qt::CaseInsensitive) == 0)
+      table.compare(tableBDIC, Qt::CaseInsensitive) == 0 || table.startsWith(u'.'))
     return QStringLiteral("表名%1は使えません。別の名前にしてください。").arg(table);
   return {};
 }
@@ -62,7 +63,8 @@ class ContentReader {
     if (companions.contains(file.name)) return;
     if (const SentenceCourse* course = courseOf(file.name)) {
       if (const std::optional<SourceText> source = readSource(file, m_problems))
-        append(m_tables.front(), parseSentences(*source, *course, m_places[0], m_problems));
+        append(m_tables.front(), *source,
+               parseSentences(*source, *course, m_places[0], m_problems));
       return;
     }
     const QString table = groupOf(file.name, wordsFolder, wordsEnd);
@@ -91,8 +93,21 @@ class ContentReader {
     m_problems.push_back({file.name, 1, message});
   }
 
-  static void append(ContentTable& table, const std::vector<ContentRow>& rows) {
+  static void append(ContentTable& table, const SourceText& source,
+                     const std::vector<ContentRow>& rows) {
     table.rows.insert(table.rows.end(), rows.begin(), rows.end());
+    SourceLayout layout{source.name, {}};
+    auto heading = source.headings.begin();
+    const auto takeHeadings = [&](int before) {
+      for (; heading != source.headings.end() && heading->number < before; ++heading)
+        layout.lines.append(heading->text);
+    };
+    for (const ContentRow& row : rows) {
+      takeHeadings(row.lastLine);
+      layout.lines.append(row.key);
+    }
+    takeHeadings(std::numeric_limits<int>::max());
+    table.layouts.push_back(std::move(layout));
   }
 
   void readWords(const SourceFile& file, const QString& name) {
@@ -101,7 +116,7 @@ class ContentReader {
     if (!source) return;
     const size_t t = tableFor(name);
     if (m_tables[t].name == name)
-      append(m_tables[t], parseWords(*source, m_places[t], m_problems));
+      append(m_tables[t], *source, parseWords(*source, m_places[t], m_problems));
     else
       complain(file, QStringLiteral("表%1とは大文字と小文字が違うだけです。表名を変えてください。")
                          .arg(m_tables[t].name));
@@ -133,6 +148,12 @@ QString wordsFileName(const QString& table) {
 
 QString sentencesFileName(const QString& course) {
   return QStringLiteral("%1/%2/%2%3").arg(sentencesFolder, course, sentencesEnd);
+}
+
+QString tableOfSource(const QString& file) {
+  if (courseOf(file)) return tableBDIC;
+  const QString table = groupOf(file, wordsFolder, wordsEnd);
+  return tableNameProblem(table).isEmpty() ? table : QString();
 }
 
 std::vector<ContentTable> readContent(const std::vector<SourceFile>& files, Problems& problems) {

@@ -14,6 +14,9 @@ namespace tavoli {
 
 namespace {
 
+/// Tells which source holds which keys, and its headings. No dictionary, by its name.
+const QString tableSources = QStringLiteral("USysSources");
+
 QString recordField(const QString& table) {
   return table == tableBDIC ? field問正コ : field発同日コ;
 }
@@ -39,18 +42,28 @@ bool storeTable(const ContentTable& table, Database& database) {
          (table.name == tableBDIC || addRow(*rows, table.name, end));
 }
 
+bool storeLayouts(const std::vector<ContentTable>& tables, Database& database) {
+  ContentTable layouts{tableSources, {}};
+  for (const ContentTable& table : tables)
+    for (const SourceLayout& layout : table.layouts)
+      layouts.rows.push_back({layout.file, QStringLiteral("00"), layout.lines.join(u'\n'), {}});
+  return storeTable(layouts, database);
+}
+
+std::vector<SourceLayout> layoutsIn(Database& database) {
+  std::vector<SourceLayout> layouts;
+  if (!database.TableDefs().contains(tableSources)) return layouts;
+  const auto rows = database.OpenRecordset(tableSources);
+  for (; rows && !rows->atEOF(); rows->MoveNext())
+    layouts.push_back({rows->key(), rows->text(field発同日コ).split(u'\n')});
+  return layouts;
+}
+
 /// Writes one table back.
 class TableDump {
  public:
   TableDump(QString table, QString file, Problems& problems)
-      : m_table(std::move(table)), m_file(std::move(file)), m_problems(problems) {
-    if (m_table == tableBDIC) {
-      for (const SentenceCourse& course : sentenceCourses)
-        m_sources.push_back({sentencesFileName(course.name), {}});
-    } else {
-      m_sources.push_back({wordsFileName(m_table), wordsHeader.toUtf8() + '\n'});
-    }
-  }
+      : m_table(std::move(table)), m_file(std::move(file)), m_problems(problems) {}
 
   /// `rows` is null when the table could not be opened.
   void walk(TableCursor* rows) {
@@ -67,7 +80,20 @@ class TableDump {
     }
   }
 
-  const std::vector<SourceFile>& sources() const { return m_sources; }
+  /// The items go where the layouts have them, the others into a source of their own.
+  std::vector<SourceFile> sources(const std::vector<SourceLayout>& layouts) {
+    for (const SourceLayout& layout : layouts)
+      if (tableOfSource(layout.file) == m_table) arrange(layout);
+    if (m_table == tableBDIC) {
+      for (const SentenceCourse& course : sentenceCourses)
+        arrangeRest(sentencesFileName(course.name),
+                    [&](const QString& key) { return course.holds(key); });
+    } else {
+      if (m_sources.empty()) bytesOf(wordsFileName(m_table));
+      arrangeRest(wordsFileName(m_table), [](const QString&) { return true; });
+    }
+    return std::move(m_sources);
+  }
 
  private:
   bool isReserved(const QString& key) const {
@@ -76,6 +102,35 @@ class TableDump {
   }
 
   void complain(const QString& message) { m_problems.push_back({m_file, 0, message}); }
+
+  QByteArray& bytesOf(const QString& file) {
+    const auto made = std::find_if(m_sources.begin(), m_sources.end(),
+                                   [&](const SourceFile& source) { return source.name == file; });
+    if (made != m_sources.end()) return made->bytes;
+    m_sources.push_back({file, {}});
+    if (m_table != tableBDIC) m_sources.back().bytes = wordsHeader.toUtf8() + '\n';
+    return m_sources.back().bytes;
+  }
+
+  void arrange(const SourceLayout& layout) {
+    QByteArray& bytes = bytesOf(layout.file);
+    bool underHeading = bytes.isEmpty();
+    for (const QString& line : layout.lines) {
+      const bool heading = line.startsWith(u'#');
+      if (!heading && !m_texts.contains(line)) continue;
+      if (m_table == tableBDIC && !underHeading) bytes += '\n';
+      bytes += heading ? line.toUtf8() + '\n' : m_texts.take(line);
+      underHeading = heading;
+    }
+  }
+
+  template <typename Belongs>
+  void arrangeRest(const QString& file, const Belongs& belongs) {
+    SourceLayout rest{file, {}};
+    for (const QString& key : std::as_const(m_keys))
+      if (m_texts.contains(key) && belongs(key)) rest.lines.append(key);
+    if (!rest.lines.isEmpty()) arrange(rest);
+  }
 
   /// False when the row does not read back from its source as it stands.
   bool add(const TableCursor& rows) {
@@ -92,19 +147,15 @@ class TableDump {
   }
 
   bool addSentence(const ContentRow& row, const CurrentRecord& record) {
-    for (size_t i = 0; i < sentenceCourses.size(); ++i) {
-      const SentenceCourse& course = sentenceCourses[i];
+    for (const SentenceCourse& course : sentenceCourses) {
       if (!course.holds(row.key)) continue;
-      QByteArray& bytes = m_sources[i].bytes;
       const QByteArray block = sentenceSource(row, record).toUtf8();
       Problems problems;
       const auto source = readSource({QString(), block}, problems);
       if (!source || parseSentences(*source, course, m_places, problems) != std::vector{row} ||
           !problems.empty())
         return false;
-      if (!bytes.isEmpty()) bytes += '\n';
-      bytes += block;
-      return true;
+      return take(row.key, block);
     }
     return false;
   }
@@ -117,7 +168,12 @@ class TableDump {
     const auto source = readSource({QString(), header + line}, problems);
     if (!source || parseWords(*source, m_places, problems) != std::vector{row} || !problems.empty())
       return false;
-    m_sources.front().bytes += line;
+    return take(row.key, line);
+  }
+
+  bool take(const QString& key, const QByteArray& text) {
+    m_keys.append(key);
+    m_texts.insert(key, text);
     return true;
   }
 
@@ -126,6 +182,8 @@ class TableDump {
   Problems& m_problems;
   std::vector<SourceFile> m_sources;
   KeyPlaces m_places;
+  QStringList m_keys;                  ///< in the table's order
+  QHash<QString, QByteArray> m_texts;  ///< of the items that stand in no source yet
 };
 
 }  // namespace
@@ -133,7 +191,8 @@ class TableDump {
 bool storeContent(const std::vector<ContentTable>& tables, Database& database) {
   return database.write([&] {
     return std::all_of(tables.begin(), tables.end(),
-                       [&](const ContentTable& table) { return storeTable(table, database); });
+                       [&](const ContentTable& table) { return storeTable(table, database); }) &&
+           storeLayouts(tables, database);
   });
 }
 
@@ -145,13 +204,21 @@ std::vector<SourceFile> dumpContent(Database& database, const QString& file, Pro
         {file, 0, QStringLiteral("個人データベースではありません。ファイルを確かめてください。")});
     return sources;
   }
+  const std::vector<SourceLayout> layouts = layoutsIn(database);
   for (const QString& table : tables) {
-    const bool content =
-        table == tableBDIC || table == tableJTDIC || table == tableSTDIC || isSpecialTable(table);
-    if (!content) continue;
+    const bool dictionary = table == tableJTDIC || table == tableSTDIC || isSpecialTable(table);
+    if (table != tableBDIC && !dictionary) continue;
+    if (dictionary && tableOfSource(wordsFileName(table)) != table) {
+      problems.push_back({file, 0,
+                          QStringLiteral("表%1は、その名前をファイルに付けられないので、"
+                                         "書き出しませんでした。")
+                              .arg(table)});
+      continue;
+    }
     TableDump dump(table, file, problems);
     dump.walk(database.OpenRecordset(table).get());
-    sources.insert(sources.end(), dump.sources().begin(), dump.sources().end());
+    const std::vector<SourceFile> more = dump.sources(layouts);
+    sources.insert(sources.end(), more.begin(), more.end());
   }
   return sources;
 }

@@ -13,9 +13,9 @@ namespace tavoli {
 /// be written; it then holds nothing.
 bool storeContent(const std::vector<ContentTable>& tables, Database& database);
 
-/// Writes a database back as sources: a words file for each dictionary and the three sentences
-/// files. Reserved rows are left out. A row that no source can express is left out too, and named
-/// in `problems` by its table and key; `file` is what the database is called there.
+/// Writes a database back as sources, divided and headed as those it was made from. Reserved rows
+/// are left out. A row that no source can express is left out too, and named in `problems` by its
+/// table and key; `file` is what the database is called there.
 std::vector<SourceFile> dumpContent(Database& database, const QString& file, Problems& problems);
 
 }  // namespace tavoli

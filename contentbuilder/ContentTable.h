@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -26,6 +27,7 @@ struct ContentRow {
   QString record;  ///< packed, every 小問 at 全然 with count 00
   QString 読上;    ///< empty for none
   SourcePlace place = {};
+  int lastLine = 0;  ///< of the item in its source
 
   /// The place is no part of the item.
   bool operator==(const ContentRow& other) const {
@@ -34,10 +36,17 @@ struct ContentRow {
   }
 };
 
+/// What a source holds, line by line: keys, and headings that begin with "#".
+struct SourceLayout {
+  QString file;
+  QStringList lines;
+};
+
 /// What becomes of one table: BDIC or a dictionary.
 struct ContentTable {
   QString name;
   std::vector<ContentRow> rows;
+  std::vector<SourceLayout> layouts = {};
 };
 
 /// A source as it lies in the content folder; its name is the path from there.

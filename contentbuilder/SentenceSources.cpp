@@ -42,6 +42,7 @@ class SentenceReader {
                   KeyPlaces& places) {
     const SourceLine& first = lines.front();
     m_row.place = {m_source.name, first.number};
+    m_row.lastLine = lines.back().number;
     if (isTagLine(trimBlanks(first.text))) {
       complain(first.number, QStringLiteral("文番の行がありません。問題の途中に空行があれば除き、"
                                             "なければ6文字の文番を置いてください。"));

@@ -28,11 +28,11 @@ std::optional<SourceText> readSource(const SourceFile& file, Problems& problems)
                                        "ファイルをUTF-8で保存しなおしてください。")});
     return std::nullopt;
   }
-  SourceText source{file.name, {}};
+  SourceText source{file.name, {}, {}};
   int number = 0;
   for (const QString& line : splitLines(storedSpelling(*decodeText(file.bytes)))) {
     ++number;
-    if (!line.startsWith(u'#')) source.lines.push_back({number, line});
+    (line.startsWith(u'#') ? source.headings : source.lines).push_back({number, line});
   }
   return source;
 }

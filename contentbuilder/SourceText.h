@@ -14,10 +14,11 @@ struct SourceLine {
   QString text;
 };
 
-/// The lines of a source but those that begin with "#".
+/// The lines of a source; those that begin with "#" are headings.
 struct SourceText {
   QString name;
   std::vector<SourceLine> lines;
+  std::vector<SourceLine> headings;
 };
 
 /// Nothing, and a problem, when the file is not UTF-8.

@@ -43,6 +43,7 @@ class WordReader {
     }
     ContentRow row;
     row.place = {m_source.name, m_line};
+    row.lastLine = m_line;
     row.key = columns[0];
     checkKey(row.key);
     row.レベル = level(trimBlanks(columns[1]));
