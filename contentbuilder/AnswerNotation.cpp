@@ -126,7 +126,9 @@ class AnswerParser {
 
   bool add(Kind kind, int code, const QString& text) {
     const int end = static_cast<int>(m_line.正.size());
-    if (end < m_start) return wrong(QStringLiteral("印をつけた部分が空です。"));
+    const bool insertion = end < m_start;
+    if (insertion && kind != Kind::Literal)
+      return wrong(QStringLiteral("印をつけた部分が空です。"));
     if (m_start > maxTwoDigits || (kind != Kind::Coded && end > maxTwoDigits)) {
       m_problems.append(
           QStringLiteral("印をつけた部分が答の99文字目より後ろにあります。答を短くしてください。"));
@@ -239,13 +241,20 @@ class AnswerWriter {
   /// `given`: how many characters stand in "<" ">", 0 for none.
   QString write(const QString& 正, const SpanLine& line, int given) {
     m_line = given > 0 ? QStringLiteral("<") : QString();
-    for (int position = 1; position <= 正.size(); ++position) {
+    const auto length = static_cast<int>(正.size());
+    for (int position = 1; position <= length + 1; ++position) {
       m_inGiven = position <= given;
+      for (const Span& span : line) {
+        if (span.start != position || span.end >= position) continue;
+        open(span);
+        close(span);
+      }
+      if (position > length) break;
       for (const Span& span : line)
-        if (span.start == position) open(span);
+        if (span.start == position && span.end >= position) open(span);
       append(正[position - 1]);
       for (const Span& span : line)
-        if (span.end == position) close(span);
+        if (span.end == position && span.start <= position) close(span);
       if (position == given) m_line += u'>';
     }
     return m_line;

@@ -11,9 +11,9 @@
 namespace tavoli {
 
 const std::vector<SentenceCourse> sentenceCourses = {
-    {QStringLiteral("中学"), QStringLiteral("000000"), QStringLiteral("500000")},
-    {QStringLiteral("高校"), QStringLiteral("500000"), QStringLiteral("900000")},
-    {QStringLiteral("専門"), QStringLiteral("900000"), QStringLiteral("Z00000")},
+    {QStringLiteral("中学"), QStringLiteral("000000"), QStringLiteral("499999")},
+    {QStringLiteral("高校"), QStringLiteral("500000"), QStringLiteral("899999")},
+    {QStringLiteral("専門"), QStringLiteral("900000"), QStringLiteral("999999")},
 };
 
 namespace {
@@ -74,20 +74,19 @@ class SentenceReader {
 
   void readNumber(const SourceLine& line, const SentenceCourse& course, KeyPlaces& places) {
     m_row.key = trimBlanks(line.text);
-    const bool plain = std::all_of(m_row.key.begin(), m_row.key.end(), [](QChar c) {
-      return c.unicode() < 0x80 && c.isLetterOrNumber();
-    });
+    const bool plain = std::all_of(m_row.key.begin(), m_row.key.end(),
+                                   [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (m_row.key.size() != numberLength || !plain) {
       complain(line.number,
-               QStringLiteral("「%1」は文番になりません。半角の英数字6文字で書いてください。")
+               QStringLiteral("「%1」は文番になりません。半角の数字6文字で書いてください。")
                    .arg(m_row.key));
       return;
     }
     if (!course.holds(m_row.key)) {
       complain(line.number,
-               QStringLiteral("文番%1は%2の範囲（%3以上%4未満）にありません。番号を変えるか、"
+               QStringLiteral("文番%1は%2の範囲（%3から%4まで）にありません。番号を変えるか、"
                               "ほかのファイルに移してください。")
-                   .arg(m_row.key, course.name, course.from, course.below));
+                   .arg(m_row.key, course.name, course.first, course.last));
     }
     if (places.contains(m_row.key)) {
       complain(line.number, QStringLiteral("文番%1は%2でも使われています。番号を変えてください。")

@@ -10,13 +10,13 @@
 // The sentences files: one row of BDIC a block.
 namespace tavoli {
 
-/// A course's sentences: the numbers from `from` up to below `below`, by code unit.
+/// A course's sentences by their first and last number.
 struct SentenceCourse {
   QString name;
-  QString from;
-  QString below;
+  QString first;
+  QString last;
 
-  bool holds(const QString& 文番) const { return 文番 >= from && 文番 < below; }
+  bool holds(const QString& 文番) const { return 文番 >= first && 文番 <= last; }
 };
 
 extern const std::vector<SentenceCourse> sentenceCourses;

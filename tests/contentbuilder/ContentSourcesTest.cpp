@@ -33,6 +33,7 @@ TEST(ContentSourcesTest, CompilesToPackedRecords) {
              "答 [That ]{I am ~I'm }a {big/large/huge} \\{<1/2\\}~\n"
              "或 That I am {a big/the} \\{<1/2\\}~\n"
              "答 {I had ~146}been\n"
+             "答 I think {/that /it }he is{/ so}\n"
              "コ {コ}メ\n読 He is.\n\n\n000110\n問 次\n答 a"),
   };
   Problems problems;
@@ -47,7 +48,8 @@ TEST(ContentSourcesTest, CompilesToPackedRecords) {
       {QStringLiteral("000120"), QString(),
        QStringLiteral("彼は？％He (   ) (   ) me.|030005It is00000000^"
                       "000023That I am a big {<1/2}~010501030605001131505large131504huge"
-                      "111503the^000010I had been000001000106146^|{コ}メ"),
+                      "111503the^000010I had been000001000106146^"
+                      "000013I think he is00000003090805that 090803it 141303 so^|{コ}メ"),
        QStringLiteral("He is.")},
       {QStringLiteral("000110"), QString(), QStringLiteral("次|000001a00000000^|"), QString()},
   };
@@ -127,7 +129,7 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
              {
                  {"short number", "00010\n問 次\n答 a\n", 1, "6文字"},
                  {"another course's number", "500000\n問 次\n答 a\n", 1, "中学の範囲"},
-                 {"reserved number", "zzzzz1\n問 次\n答 a\n", 1, "中学の範囲"},
+                 {"letter in the number", "00a010\n問 次\n答 a\n", 1, "数字6文字"},
                  {"number twice", start + "答 a\n\n" + start + "答 a\n", 5, "中学/a.txt:1"},
                  {"empty line inside", start + "答 a\n\nコ メ\n問 次\n答 a\n", 5, "空行"},
                  {"no question", "000010\n答 a\n", 1, "「問」がない"},
@@ -160,7 +162,7 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
           {"braces without alternatives", "答 {a} b\n", 3, "「~」も「/」も"},
           {"two kinds in one part", "答 {I am ~I'm /we} b\n", 3, "一緒に"},
           {"empty part", "答 a []b\n", 3, "空です"},
-          {"part of alternatives alone", "答 a {/b}c\n", 3, "空です"},
+          {"insertion of nothing", "答 a {/}c\n", 3, "後ろの語句が空"},
           {"empty alternative", "答 {a//b} c\n", 3, "後ろの語句が空"},
           {"unknown escape", "答 a\\b\n", 3, "「\\」"},
           {"no such contraction", "答 {is~isn't} it\n", 3, "短縮形の表"},
@@ -181,8 +183,8 @@ TEST(ContentSourcesTest, LooksAtAllFiles) {
       {source("notes.txt", "-"), source("sentences/中学.txt", ""),
        source("sentences/大学/a.txt", ""),
        source("sentences/専門/a.txt",
-              "500020\n問 次\n答 a\n\nZ00000\n問 次\n答 a\n\nY99999\n問 次\n答 a\n"),
-       source("sentences/専門/b.txt", "Y99999\n問 次\n答 a\n"),
+              "500020\n問 次\n答 a\n\n900a00\n問 次\n答 a\n\n999999\n問 次\n答 a\n"),
+       source("sentences/専門/b.txt", "999999\n問 次\n答 a\n"),
        source("sentences/高校/a.txt", "500010\n問 [\n答 {\n"), source("words/BDIC/a.tsv", header),
        source("words/JTDIC/a.tsv", header + "a\tx\t\t\t\t\n"),
        source("words/JTDIC/b.tsv", header + word), source("words/JTDIC2/a.tsv", header),

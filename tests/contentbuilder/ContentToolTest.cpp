@@ -243,8 +243,10 @@ class RandomContent {
 
   Substitution substitution(const QString& 正) {
     using enum Substitution::Kind;
-    Substitution s{Literal, 1 + upTo(static_cast<int>(正.size()) - 1), 0, 0, QString()};
-    s.end = s.start + upTo(static_cast<int>(正.size()) - s.start);
+    const auto size = static_cast<int>(正.size());
+    Substitution s{Literal, 1 + upTo(size), 0, 0, QString()};
+    s.end = s.start + upTo(size) / 2;
+    if (upTo(3) == 0 || s.end > size) s.end = s.start - 1;  // an insertion
     const auto& [span, code] =
         m_contractions[static_cast<size_t>(upTo(static_cast<int>(m_contractions.size()) - 1))];
     const auto found = static_cast<int>(正.indexOf(span, s.start / 3));
@@ -262,11 +264,9 @@ class RandomContent {
       AnswerLine line{text(), 0, {}};
       if (upTo(2) == 0) line.先頭文字数 = upTo(static_cast<int>(line.正.size()));
       for (int i = upTo(7); i > 0; --i) line.substitutions.push_back(substitution(line.正));
-      if (upTo(1) == 0) {
-        Substitution omission = substitution(line.正);
-        omission.kind = Substitution::Kind::Omission;
-        line.substitutions.push_back(omission);
-      }
+      Substitution omission = substitution(line.正);
+      omission.kind = Substitution::Kind::Omission;
+      if (omission.start <= omission.end && upTo(1) == 0) line.substitutions.push_back(omission);
       QStringList problems;
       SubQuestion packed = packAnswer(line, problems);
       if (problems.isEmpty()) return packed;
