@@ -3,16 +3,19 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "contentbuilder/ContentChecks.h"
 #include "contentbuilder/ContentSources.h"
 #include "contentbuilder/ContentStore.h"
+#include "contentbuilder/LessonChecks.h"
 
 namespace tavoli {
 
 namespace {
 
-/// Folders of the content that hold no sources: lesson files are delivered as they are, and what
-/// readers tried is kept for people.
-const QStringList otherFolders = {QStringLiteral("lessons"), QStringLiteral("trials")};
+/// Lesson files are delivered as they are.
+const QString lessonsFolder = QStringLiteral("lessons");
+/// What readers tried; kept for people.
+const QString trialsFolder = QStringLiteral("trials");
 
 /// The paths of the files below `place`, folder by folder.
 QStringList filesBelow(const QDir& place) {
@@ -44,14 +47,18 @@ std::vector<ContentTable> ContentTool::read(const QString& folder, Problems& pro
     return {};
   }
   std::vector<SourceFile> sources;
+  std::vector<SourceFile> lessons;
   for (const QString& name : filesBelow(place)) {
-    if (otherFolders.contains(name.section(u'/', 0, 0))) continue;
+    const QString within = name.section(u'/', 0, 0);
+    if (within == trialsFolder) continue;
     if (const std::optional<QByteArray> bytes = m_files.read(place.filePath(name)))
-      sources.push_back({name, *bytes});
+      (within == lessonsFolder ? lessons : sources).push_back({name, *bytes});
     else
       problems.push_back({name, 0, QStringLiteral("読めません。権限を確かめてください。")});
   }
   std::vector<ContentTable> tables = readContent(sources, problems);
+  checkWording(tables, problems);
+  checkLessons(lessons, tables, problems);
   for (Problem& problem : problems) problem.file = place.filePath(problem.file);
   return tables;
 }

@@ -12,4 +12,15 @@ QString separatorProblem(const QString& name, const QString& text);
 /// Display marks that do not pair or that nest.
 QString markProblem(const QString& name, const QString& text);
 
+/// Characters that look like the right ones and are not: "｜", "%" for "％", curly quotes, blanks
+/// that are none, composed characters in pieces.
+QString lookalikeProblem(const QString& name, const QString& text);
+
+/// What a learner could not type as a word: all but letters, digits, "' . - & / ,", "～" and
+/// single blanks.
+QString untypableWordProblem(const QString& name, const QString& text);
+
+/// What a learner could not type in a sentence: all but ASCII and single blanks.
+QString untypableAnswerProblem(const QString& name, const QString& text);
+
 }  // namespace tavoli

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "contentbuilder/ContentChecks.h"
 #include "contentbuilder/ContentSources.h"
+#include "contentbuilder/LessonChecks.h"
 #include "data/Schema.h"
 #include "tests/support/Print.h"
 
@@ -81,7 +83,8 @@ void expectEach(const QByteArray& file, const QByteArray& before,
     std::vector<SourceFile> files = {source(wordsFile, header), source(otherWordsFile, header)};
     std::erase_if(files, [&](const SourceFile& f) { return f.name == QString::fromUtf8(file); });
     files.push_back(source(file, before + mistake.text));
-    readContent(files, problems);
+    const std::vector<ContentTable> tables = readContent(files, problems);
+    checkWording(tables, problems);
     for (const Problem& problem : problems)
       SCOPED_TRACE(testing::Message() << problem.line << ": " << qPrintable(problem.message));
     EXPECT_EQ(problems.size(), 1);
@@ -174,6 +177,100 @@ TEST(ContentSourcesTest, NamesEveryMistakeInASentencesFile) {
           {"eleven alternatives", "答 {a/1/2/3/4/5/6/7/8/9/10/11}\n", 3, "11個"},
           {"too many combinations", "答 {a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}b{a/1}\n", 3, "100通り"},
       });
+}
+
+TEST(ContentSourcesTest, NamesEveryMistakeInAWord) {
+  const auto row = [](const QByteArray& key, const QByteArray& 発音, const QByteArray& 同,
+                      const QByteArray& 日 = "一", const QByteArray& コメント = "") {
+    return key + "\t1\t" + 発音 + "\t" + 同 + "\t" + 日 + "\t" + コメント + "\n";
+  };
+  const QByteArray sound =
+      row("o'clock", "ァo'clo′ck", "Mr.|24/7") + row("Q&A", "発キ′ュー", "A-B") +
+      row("between ～ and ～", "", "", "甲|乙", "Up 10%.  10%増。％Up 5% a year.  増。");
+  expectEach(
+      wordsFile, header + sound,
+      {
+          {"curly quote in the key", row("it’s", "", ""), 5, "「英語」に「’」"},
+          {"full-width letter in the key", row("ａ", "", ""), 5, "「英語」に「ａ」"},
+          {"no-break blank in the key", row("a\u00A0b", "", ""), 5, "「英語」に"},
+          {"two blanks in a synonym", row("a", "", "b  c"), 5, "「同」に空白が二つ"},
+          {"meaning twice", row("a", "", "", "一|二|一"), 5, "「日」に「一」が二つ"},
+          {"synonym twice", row("a", "", "b|b"), 5, "「同」に「b」が二つ"},
+          {"synonym is the key", row("e-mail", "", "mail|email"), 5, "「email」は「英語」と同じ"},
+          {"comma in a synonym", row("a", "", "b, c"), 5, "「b, c」に「,」"},
+          {"Japanese comma in a synonym", row("a", "", "b、c"), 5, "「,」か「、」"},
+          {"full-width bar", row("a", "", "", "一｜二"), 5, "全角の「｜」"},
+          {"half-width line break", row("a", "", "", "一", "B.  乙。%C.  丙。"), 5, "半角の「%」"},
+          {"half-width line break behind a digit", row("a", "", "", "一", "甲 7%At"), 5, "「%」"},
+          {"decomposed kana", row("a", "", "", "か\u3099"), 5, "分解された"},
+          {"invisible blank", row("a", "", "", "一", "\u200B甲"), 5, "U+200B"},
+          {"two stresses", row("aba", "a′ba′", ""), 5, "「′」は一つだけ"},
+          {"warning without a stress", row("aba", "ァaba", ""), 5, "「′」がありません"},
+          {"stressed consonant", row("aba", "ァab′a", ""), 5, "母音の字"},
+          {"stress in front", row("aba", "′aba", ""), 5, "母音の字"},
+          {"stressed small kana", row("a", "発フェ′ア", ""), 5, "小さくない片仮名"},
+          {"another spelling", row("colour", "ァco′lor", ""), 5, "つづり「color」"},
+      });
+}
+
+TEST(ContentSourcesTest, NamesEveryMistakeInASentence) {
+  const QByteArray sound =
+      "000010\n問 空所を。％I (   ) not (late).％A: It (   ).\n答 am\n答 {is/'s}\n\n"
+      "000020\n問 次の英文に誤りがあれば訂正しなさい。％彼は。％％He go there.\n"
+      "答 <受動態=>He goes to colo[u]r{/ now}.\n\n"
+      "000030\n問 並べかえなさい。％I / am / a boy\n答 {/Yes, }I am 5% old[, too].\n\n";
+  const QByteArray block = "000040\n問 英語に。\n";
+  const int line = static_cast<int>(sound.count('\n')) + 1;
+  expectEach(
+      sentencesFile, sound,
+      {
+          {"answer given whole", block + "答 <am>\n", line, "全部与えられ"},
+          {"omission without its blank", block + "答 I see [that] he is in.\n", line,
+           "空白が余ります"},
+          {"omission with both blanks", block + "答 I see[ that ]he is in.\n", line,
+           "空白が足りません"},
+          {"blank before the mark", block + "答 I am in [now].\n", line, "余ります"},
+          {"alternative without its blank", block + "答 I {am /was}in it.\n", line, "足りません"},
+          {"insertion without its blank", block + "答 I see {/that}he is in.\n", line,
+           "足りません"},
+          {"alternative like the answer", block + "答 I {am/am} in.\n", line, "同じ言い方「am」"},
+          {"alternative twice", block + "答 I {am/was/was} in.\n", line, "同じ言い方「was」"},
+          {"full-width in an answer", block + "答 I ａm in.\n", line, "「ａ」は使えません"},
+          {"full-width in an alternative", block + "答 I {am/ａｍ} in.\n", line,
+           "別の言い方に「ａ」"},
+          {"two blanks in an answer", block + "答 I am  in.\n", line, "空白が二つ"},
+          {"no mark", block + "答 I am in\n", line, "終わりに . ? !"},
+          {"alternative without the mark", block + "答 I am {in./out}\n", line, "なくなります"},
+          {"more blanks", "000040\n問 We (   ) (   ).\n答 are\n", line, "空所が2個で、「答」が1個"},
+          {"fewer blanks", "000040\n問 We (   ).\n答 are\n答 in\n", line, "空所が1個で"},
+          {"another blank", "000040\n問 We (  ).\n答 are\n", line, "かっこと三つの空白"},
+          {"full-width blank", "000040\n問 We （　）.\n答 are\n", line, "かっこと三つの空白"},
+          {"question without a mark", "000040\n問 Is (   ) in it\n答 he\n", line, "「問」の英文"},
+          {"nothing to correct",
+           "000040\n問 次の英文に誤りがあれば訂正しなさい。％He go.\n答 He goes.\n", line,
+           "訂正する英文"},
+          {"half-width line break", "000040\n問 次。%A\n答 a\n", line, "半角の「%」"},
+          {"curly quote in the comment", block + "答 a\nコ It’s\n", line, "「コ」に「’」"},
+          {"question of another number",
+           "000040\n問 空所を。％[I] (   ) not (late).％A: It (   ).\n答 a\n答 b\n", line,
+           "文番000010"},
+      });
+}
+
+TEST(ContentSourcesTest, HoldsLessonsAgainstTheTables) {
+  const std::vector<ContentTable> tables = {
+      {tableBDIC, {{QStringLiteral("000010"), {}, {}, {}}}},
+      {tableJTDIC, {{QStringLiteral("look at"), {}, {}, {}}}}};
+  Problems problems;
+  checkLessons(
+      {source("lessons/a.tav", "*題\r\n!題\r\nlook at\r\n000010･文\r\n\r\nlook\r\n000020･文\r\n"),
+       source("lessons/b.txt", "look at\r\n")},
+      tables, problems);
+  QStringList places;
+  for (const Problem& problem : problems)
+    places.append(QStringLiteral("%1:%2").arg(problem.file).arg(problem.line));
+  EXPECT_EQ(places.join(u' '),
+            QStringLiteral("lessons/a.tav:5 lessons/a.tav:6 lessons/a.tav:7 lessons/b.txt:0"));
 }
 
 TEST(ContentSourcesTest, LooksAtAllFiles) {

@@ -115,7 +115,7 @@ TEST_F(ContentToolTest, ADumpKeepsFilesOrderAndHeadings) {
   const std::pair<const char*, QByteArray> sources[] = {
       {"words/JTDIC/JTDIC.tsv", header + "# 動詞\n# （一年）\ngo\t1\t\t\t行く\t\n"},
       {"words/JTDIC/b.tsv", header + "be\t1\t\t\tである\t\n# 名詞\nant\t1\t\t\tあり\t\n# 終り\n"},
-      {"sentences/中学/a.txt", "# 文\n000020\n問 次\n答 a\n\n# 次\n000010\n問 次\n答 b\n"}};
+      {"sentences/中学/a.txt", "# 文\n000020\n問 次\n答 a\n\n# 次\n000010\n問 二\n答 b\n"}};
   for (const auto& [name, bytes] : sources) write(name, bytes);
   ASSERT_EQ(messages(tool.build(path("content"), path("a.mdb"), false)), QStringList());
   std::optional<Database> database;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "contentbuilder/ContentTable.h"
+#include "contentbuilder/Problem.h"
+
+namespace tavoli {
+
+/// Adds what is wrong in the wording of the items. Those that have a problem already could not be
+/// read and are passed over.
+void checkWording(const std::vector<ContentTable>& tables, Problems& problems);
+
+}  // namespace tavoli
