@@ -7,8 +7,8 @@
 
 namespace tavoli {
 
-/// Adds what is wrong in the wording of the items. Those that have a problem already could not be
-/// read and are passed over.
-void checkWording(const std::vector<ContentTable>& tables, Problems& problems);
+/// Adds what is wrong, or seldom meant, in the wording of the items and between them. Items that
+/// have a problem already could not be read and are passed over.
+void checkWording(const std::vector<ContentTable>& tables, Problems& problems, Warnings& warnings);
 
 }  // namespace tavoli

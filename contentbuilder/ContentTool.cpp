@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "contentbuilder/AcceptedWarnings.h"
 #include "contentbuilder/ContentChecks.h"
 #include "contentbuilder/ContentSources.h"
 #include "contentbuilder/ContentStore.h"
@@ -14,6 +15,8 @@ namespace {
 
 /// Lesson files are delivered as they are.
 const QString lessonsFolder = QStringLiteral("lessons");
+/// Lists of warnings that are meant.
+const QString acceptedFolder = QStringLiteral("accepted");
 /// What readers tried; kept for people.
 const QString trialsFolder = QStringLiteral("trials");
 
@@ -40,38 +43,53 @@ Problem unwritable(const QString& path) {
 
 }  // namespace
 
-std::vector<ContentTable> ContentTool::read(const QString& folder, Problems& problems) const {
+ContentTool::Content ContentTool::read(const QString& folder) const {
+  Content content;
+  Problems& problems = content.problems;
   const QDir place(folder);
   if (!place.exists()) {
     problems.push_back({folder, 0, QStringLiteral("フォルダーがありません。")});
-    return {};
+    return content;
   }
   std::vector<SourceFile> sources;
   std::vector<SourceFile> lessons;
+  std::vector<SourceFile> accepted;
   for (const QString& name : filesBelow(place)) {
     const QString within = name.section(u'/', 0, 0);
     if (within == trialsFolder) continue;
+    std::vector<SourceFile>& files = within == lessonsFolder    ? lessons
+                                     : within == acceptedFolder ? accepted
+                                                                : sources;
     if (const std::optional<QByteArray> bytes = m_files.read(place.filePath(name)))
-      (within == lessonsFolder ? lessons : sources).push_back({name, *bytes});
+      files.push_back({name, *bytes});
     else
       problems.push_back({name, 0, QStringLiteral("読めません。権限を確かめてください。")});
   }
-  std::vector<ContentTable> tables = readContent(sources, problems);
-  checkWording(tables, problems);
-  checkLessons(lessons, tables, problems);
+  content.tables = readContent(sources, problems);
+  checkWording(content.tables, problems, content.warnings);
+  checkLessons(lessons, content.tables, problems);
+  takeAccepted(accepted, content.warnings, problems);
   for (Problem& problem : problems) problem.file = place.filePath(problem.file);
-  return tables;
+  for (Warning& warning : content.warnings)
+    warning.problem.file = place.filePath(warning.problem.file);
+  return content;
 }
 
-Problems ContentTool::check(const QString& folder) const {
-  Problems problems;
-  read(folder, problems);
-  return problems;
+ContentTool::Findings ContentTool::check(const QString& folder, const QString& list) const {
+  Content content = read(folder);
+  Findings findings{std::move(content.problems), std::move(content.warnings), {}};
+  if (list.isEmpty()) return findings;
+  if (const std::optional<QByteArray> bytes = m_files.read(list))
+    findings.coverage = coverageOf(*bytes, content.tables);
+  if (!findings.coverage)
+    findings.problems.push_back(
+        {list, 0, QStringLiteral("一覧を読めません。UTF-8のファイルか確かめてください。")});
+  return findings;
 }
 
 Problems ContentTool::build(const QString& folder, const QString& target, bool force) {
-  Problems problems;
-  const std::vector<ContentTable> tables = read(folder, problems);
+  Content content = read(folder);
+  Problems& problems = content.problems;
   if (m_files.exists(target) && !force) problems.push_back(existing(target));
   if (!problems.empty()) return problems;
 
@@ -79,7 +97,7 @@ Problems ContentTool::build(const QString& folder, const QString& target, bool f
   const QString made = workshop.filePath(QStringLiteral("content.mdb"));
   bool stored = false;
   if (std::optional<Database> database = createDatabase(made))
-    stored = storeContent(tables, *database);
+    stored = storeContent(content.tables, *database);
   if (!stored || m_files.copy(made, target) != FileResult::Ok)
     problems.push_back(unwritable(target));
   return problems;

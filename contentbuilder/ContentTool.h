@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "contentbuilder/ContentTable.h"
+#include "contentbuilder/Coverage.h"
 #include "contentbuilder/Problem.h"
 #include "system/Files.h"
 
@@ -16,8 +17,14 @@ class ContentTool {
  public:
   explicit ContentTool(Files& files) : m_files(files) {}
 
-  /// Checks a content folder.
-  Problems check(const QString& folder) const;
+  struct Findings {
+    Problems problems;
+    Warnings warnings;  ///< that are not accepted
+    std::optional<Coverage> coverage;
+  };
+
+  /// Checks a content folder, and how much it holds of a list of headwords when one is given.
+  Findings check(const QString& folder, const QString& list = QString()) const;
 
   /// Checks a content folder and compiles it. With a problem the target stays as it was; an
   /// existing target is replaced only with `force`.
@@ -28,7 +35,13 @@ class ContentTool {
   Problems dump(const QString& database, const QString& folder, bool force);
 
  private:
-  std::vector<ContentTable> read(const QString& folder, Problems& problems) const;
+  struct Content {
+    std::vector<ContentTable> tables;
+    Problems problems;
+    Warnings warnings;
+  };
+
+  Content read(const QString& folder) const;
 
   Files& m_files;
 };

@@ -15,4 +15,15 @@ struct Problem {
 
 using Problems = std::vector<Problem>;
 
+/// What is seldom meant, but may be: it can be accepted by its kind and key.
+struct Warning {
+  Problem problem;
+  QString kind;  ///< holds no blank
+  QString key;
+
+  QString name() const { return kind + u' ' + key; }
+};
+
+using Warnings = std::vector<Warning>;
+
 }  // namespace tavoli

@@ -16,9 +16,40 @@ constexpr int exitUsage = 2;
 
 const QString optionTarget = QStringLiteral("o");
 const QString optionForce = QStringLiteral("force");
+const QString optionStrict = QStringLiteral("strict");
+const QString optionCoverage = QStringLiteral("coverage");
+const QString optionMissing = QStringLiteral("missing");
 
 void print(const QString& text, FILE* out = stderr) {
   QTextStream(out) << text << '\n';
+}
+
+void print(const Problem& problem, const QString& before, const QString& behind) {
+  const QString line = problem.line > 0 ? QStringLiteral(":%1").arg(problem.line) : QString();
+  print(problem.file + line + QStringLiteral(": ") + before + problem.message + behind);
+}
+
+void print(const Warnings& warnings) {
+  for (const Warning& warning : warnings)
+    print(warning.problem, QStringLiteral("警告: "), QStringLiteral(" [%1]").arg(warning.name()));
+  if (warnings.empty()) return;
+  print(QStringLiteral("警告が%1個あります。認めるものは、[ ] の中を accepted フォルダーの .txt に"
+                       "一行ずつ書いてください。")
+            .arg(warnings.size()));
+}
+
+void print(const Coverage& coverage, bool missing) {
+  for (const Coverage::Share& share : coverage.shares) {
+    const double percent = coverage.headwords == 0 ? 0 : 100.0 * share.held / coverage.headwords;
+    print(QStringLiteral("%1: %2 / %3 (%4 %)")
+              .arg(share.table)
+              .arg(share.held)
+              .arg(coverage.headwords)
+              .arg(percent, 0, 'f', 1),
+          stdout);
+  }
+  if (!missing) return;
+  for (const QString& headword : coverage.missing) print(headword, stdout);
 }
 
 int usage(const QCommandLineParser& parser, const QString& message) {
@@ -35,12 +66,16 @@ int main(int argc, char* argv[]) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("学習内容のファイルを調べ、個人データベースを作ります。\n\n"
-                     "  tavoli-content check フォルダー\n"
+                     "  tavoli-content check フォルダー [--strict] [--coverage 一覧 [--missing]]\n"
                      "  tavoli-content build フォルダー -o データベース\n"
                      "  tavoli-content dump データベース -o フォルダー"));
   const QCommandLineOption help = parser.addHelpOption();
   parser.addOption({optionTarget, QStringLiteral("書き込み先"), QStringLiteral("書き込み先")});
   parser.addOption({optionForce, QStringLiteral("すでにあるファイルを置き換えます。")});
+  parser.addOption({optionStrict, QStringLiteral("警告も誤りとして扱います。")});
+  parser.addOption({optionCoverage, QStringLiteral("一覧の見出し語がどれだけあるか数えます。"),
+                    QStringLiteral("一覧")});
+  parser.addOption({optionMissing, QStringLiteral("一覧のうち、ない見出し語を書き出します。")});
   parser.addPositionalArgument(QStringLiteral("命令"), QStringLiteral("check、build、dump"));
   parser.addPositionalArgument(QStringLiteral("対象"), QStringLiteral("読むもの"));
   if (!parser.parse(application.arguments())) return usage(parser, parser.errorText());
@@ -62,18 +97,21 @@ int main(int argc, char* argv[]) {
     return usage(parser, QStringLiteral("-o で書き込み先を指定してください。"));
 
   Problems problems;
-  if (command == QStringLiteral("check"))
-    problems = tool.check(subject);
-  else if (command == QStringLiteral("build"))
+  bool warned = false;
+  if (command == QStringLiteral("check")) {
+    const ContentTool::Findings found = tool.check(subject, parser.value(optionCoverage));
+    problems = found.problems;
+    print(found.warnings);
+    warned = !found.warnings.empty();
+    if (found.coverage) print(*found.coverage, parser.isSet(optionMissing));
+  } else if (command == QStringLiteral("build"))
     problems = tool.build(subject, target, force);
   else if (command == QStringLiteral("dump"))
     problems = tool.dump(subject, target, force);
   else
     return usage(parser, QStringLiteral("「%1」という命令はありません。").arg(command));
 
-  for (const Problem& problem : problems) {
-    const QString line = problem.line > 0 ? QStringLiteral(":%1").arg(problem.line) : QString();
-    print(problem.file + line + QStringLiteral(": ") + problem.message);
-  }
-  return problems.empty() ? exitWell : exitProblems;
+  for (const Problem& problem : problems) print(problem, QString(), QString());
+  const bool well = problems.empty() && !(warned && parser.isSet(optionStrict));
+  return well ? exitWell : exitProblems;
 }

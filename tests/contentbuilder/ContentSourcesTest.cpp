@@ -84,7 +84,8 @@ void expectEach(const QByteArray& file, const QByteArray& before,
     std::erase_if(files, [&](const SourceFile& f) { return f.name == QString::fromUtf8(file); });
     files.push_back(source(file, before + mistake.text));
     const std::vector<ContentTable> tables = readContent(files, problems);
-    checkWording(tables, problems);
+    Warnings warnings;
+    checkWording(tables, problems, warnings);
     for (const Problem& problem : problems)
       SCOPED_TRACE(testing::Message() << problem.line << ": " << qPrintable(problem.message));
     EXPECT_EQ(problems.size(), 1);

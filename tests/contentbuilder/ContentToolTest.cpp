@@ -177,22 +177,34 @@ TEST_F(ContentToolTest, ADumpLeavesOutWhatIsDamagedAndNamesIt) {
 }
 
 TEST_F(ContentToolTest, TellsByItsExitStatus) {
-  write("sentences/中学/a.txt", "000010\n問 次\n");
+  const QByteArray word = header + "go\t4\t\t\t行く\t\n";
+  for (const char* name : {"words/STDIC/STDIC.tsv", "../warned/words/STDIC/a.tsv"})
+    write(name, word);
+  write("../warned/words/JTDIC/a.tsv", header);
+  write("accepted/a.txt", "例文の数 STDIC/go\n");
+  write("../mistakes/sentences/中学/a.txt", "000010\n問 次\n");
+  ASSERT_EQ(files.write(path("list"), "go\nno\n"), FileResult::Ok);
   const QString content = path("content");
-  const QString delivered = QStringLiteral(TAVOLI_CONTENT_FOLDER);
+  const QString warned = path("warned");
+  const QString check = QStringLiteral("check");
   const struct {
     const char* name;
     QStringList arguments;
     int status;
     QString said;
   } cases[] = {
-      {"sound", {QStringLiteral("check"), delivered}, 0, QString()},
-      {"mistakes",
-       {QStringLiteral("check"), content},
-       1,
-       path("content/sentences/中学/a.txt:1: 「答」")},
+      {"sound", {check, QStringLiteral(TAVOLI_CONTENT_FOLDER)}, 0, QString()},
+      {"mistakes", {check, path("mistakes")}, 1, path("mistakes/sentences/中学/a.txt:1: 「答」")},
+      {"warnings", {check, warned}, 0, path("warned/words/STDIC/a.tsv:2: 警告: ")},
+      {"warnings refused", {check, warned, QStringLiteral("--strict")}, 1, QString()},
+      {"accepted", {check, content, QStringLiteral("--strict")}, 0, QString()},
+      {"coverage",
+       {check, content, QStringLiteral("--coverage"), path("list"), QStringLiteral("--missing")},
+       0,
+       QStringLiteral("JTDIC: 0 / 2 (0.0 %)\nSTDIC: 1 / 2 (50.0 %)\nno\n")},
+      {"no list", {check, content, QStringLiteral("--coverage"), path("x")}, 1, path("x: 一覧を")},
       {"no target", {QStringLiteral("build"), content}, 2, QStringLiteral("-o で書き込み先を")},
-      {"unknown option", {QStringLiteral("check"), QStringLiteral("--all")}, 2, QString()},
+      {"unknown option", {check, QStringLiteral("--all")}, 2, QString()},
       {"nothing to dump",
        {QStringLiteral("dump"), path("x"), QStringLiteral("-o"), path("y")},
        1,
@@ -203,9 +215,10 @@ TEST_F(ContentToolTest, TellsByItsExitStatus) {
     QProcess process;
     process.start(QStringLiteral(TAVOLI_CONTENT_TOOL), c.arguments);
     ASSERT_TRUE(process.waitForFinished());
-    const QString said = QString::fromUtf8(process.readAllStandardError());
+    const QString said =
+        QString::fromUtf8(process.readAllStandardError() + process.readAllStandardOutput());
     EXPECT_EQ(process.exitCode(), c.status);
-    EXPECT_TRUE(said.startsWith(c.said)) << qPrintable(said);
+    EXPECT_TRUE(said.contains(c.said)) << qPrintable(said);
   }
 }
 
