@@ -28,6 +28,13 @@ bool endsInSlot(const QString& english) {
   return english.section(u' ', -1).contains(u'～');
 }
 
+/// An idiom with "～" for its A and B.
+QString slotForm(const QString& key) {
+  QStringList words = key.split(u' ');
+  words.replaceInStrings(QRegularExpression(QStringLiteral("^[AB]$")), QStringLiteral("～"));
+  return words.join(u' ');
+}
+
 bool holdsWord(const QString& text, const QString& word) {
   const QRegularExpression whole(
       QStringLiteral("(?<![A-Za-z])%1(?![A-Za-z])").arg(QRegularExpression::escape(word)),
@@ -124,7 +131,10 @@ Warnings wordWarnings(const QString& table, const ContentRow& row, const Current
     warn(kindCount, QStringLiteral("意味が%1個で例文が%2個です。意味ごとに例文を書いてください。")
                         .arg(record.小問.size())
                         .arg(examples));
-  if (endsInSlot(row.key) || std::any_of(record.同.begin(), record.同.end(), endsInSlot))
+  const auto slotted = [&](const QString& synonym) {
+    return endsInSlot(synonym) && synonym != slotForm(row.key);
+  };
+  if (endsInSlot(row.key) || std::any_of(record.同.begin(), record.同.end(), slotted))
     warn(kindTrailing,
          QStringLiteral("「英語」か「同」が「～」で終わっています。「～」を入力しないと"
                         "正解になりません。"));

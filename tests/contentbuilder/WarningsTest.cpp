@@ -43,6 +43,7 @@ TEST(WarningsTest, TellWhatIsSeldomMeantInAWord) {
       {"one example for two", "go\t1\t\t\t行く|囲碁\tI go.  行く。\n", "例文の数 JTDIC/go"},
       {"slot at the end", "go ～ing\t1\t\t\t行く\tI go.  行く。\n", "末尾の～ JTDIC/go ～ing"},
       {"slot at a synonym's end", "go\t1\t\tlook ～\t行く\tI go.  行く。\n", "末尾の～ JTDIC/go"},
+      {"slots for A and B", "A and B\t1\t\t～ and ～\tと\tUs and them.  例。\n", ""},
       {"answer in the meaning", "go\t1\t\t\t行く（Goの意）\tI go.  行く。\n",
        "答が問題に JTDIC/go"},
       {"part of another word", "go\t1\t\t\t行く（goes）\tI go.  行く。\n", ""},
