@@ -7,18 +7,11 @@
 
 #include "conditions/PracticeConditions.h"
 #include "data/Database.h"
+#include "data/ItemState.h"
 #include "practice/PracticeSet.h"
 #include "progress/ProgressCounters.h"
 
 namespace tavoli {
-
-/// The memory state of a whole item, summed up from its 小問.
-struct ItemState {
-  QChar state = memoryうろ覚え;
-  /// Codes that are no memory state, each with the guard text that names it; empty on sound data.
-  QStringList complaints;
-};
-ItemState itemState(const CurrentRecord& record, const QString& key);
 
 /// Stores items of a run in their rows, and follows how the learner's memory counts change by it.
 class ItemWriteBack {
