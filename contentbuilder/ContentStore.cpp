@@ -14,13 +14,6 @@ namespace tavoli {
 
 namespace {
 
-/// Tells which source holds which keys, and its headings. No dictionary, by its name.
-const QString tableSources = QStringLiteral("USysSources");
-
-QString recordField(const QString& table) {
-  return table == tableBDIC ? field問正コ : field発同日コ;
-}
-
 bool addRow(TableCursor& rows, const QString& table, const ContentRow& row) {
   rows.AddNew();
   rows.setValue(keyField(table), row.key);
@@ -42,20 +35,12 @@ bool storeTable(const ContentTable& table, Database& database) {
          (table.name == tableBDIC || addRow(*rows, table.name, end));
 }
 
-bool storeLayouts(const std::vector<ContentTable>& tables, Database& database) {
-  ContentTable layouts{tableSources, {}};
-  for (const ContentTable& table : tables)
-    for (const SourceLayout& layout : table.layouts)
-      layouts.rows.push_back({layout.file, QStringLiteral("00"), layout.lines.join(u'\n'), {}});
-  return storeTable(layouts, database);
-}
-
 std::vector<SourceLayout> layoutsIn(Database& database) {
   std::vector<SourceLayout> layouts;
-  if (!database.TableDefs().contains(tableSources)) return layouts;
-  const auto rows = database.OpenRecordset(tableSources);
-  for (; rows && !rows->atEOF(); rows->MoveNext())
-    layouts.push_back({rows->key(), rows->text(field発同日コ).split(u'\n')});
+  const ContentNotes notes = notesIn(database);
+  for (auto note = notes.cbegin(); note != notes.cend(); ++note)
+    if (!tableOfSource(note.key()).isEmpty())
+      layouts.push_back({note.key(), note.value().split(u'\n')});
   return layouts;
 }
 
@@ -188,11 +173,12 @@ class TableDump {
 
 }  // namespace
 
-bool storeContent(const std::vector<ContentTable>& tables, Database& database) {
+bool storeContent(const std::vector<ContentTable>& tables, const ContentNotes& notes,
+                  Database& database) {
   return database.write([&] {
     return std::all_of(tables.begin(), tables.end(),
                        [&](const ContentTable& table) { return storeTable(table, database); }) &&
-           storeLayouts(tables, database);
+           storeNotes(notes, database);
   });
 }
 

@@ -13,8 +13,6 @@ namespace tavoli {
 
 namespace {
 
-/// Lesson files are delivered as they are.
-const QString lessonsFolder = QStringLiteral("lessons");
 /// Lists of warnings that are meant.
 const QString acceptedFolder = QStringLiteral("accepted");
 /// What readers tried; kept for people.
@@ -54,12 +52,14 @@ ContentTool::Content ContentTool::read(const QString& folder) const {
   std::vector<SourceFile> sources;
   std::vector<SourceFile> lessons;
   std::vector<SourceFile> accepted;
+  std::vector<SourceFile> noted;
   for (const QString& name : filesBelow(place)) {
     const QString within = name.section(u'/', 0, 0);
     if (within == trialsFolder) continue;
-    std::vector<SourceFile>& files = within == lessonsFolder    ? lessons
-                                     : within == acceptedFolder ? accepted
-                                                                : sources;
+    std::vector<SourceFile>& files = within == lessonsFolder                     ? lessons
+                                     : within == acceptedFolder                  ? accepted
+                                     : name == numberFile || name == renamesFile ? noted
+                                                                                 : sources;
     if (const std::optional<QByteArray> bytes = m_files.read(place.filePath(name)))
       files.push_back({name, *bytes});
     else
@@ -69,6 +69,8 @@ ContentTool::Content ContentTool::read(const QString& folder) const {
   checkWording(content.tables, problems, content.warnings);
   checkLessons(lessons, content.tables, problems);
   takeAccepted(accepted, content.warnings, problems);
+  noted.insert(noted.end(), lessons.begin(), lessons.end());
+  content.notes = makeNotes(noted, content.tables, problems);
   for (Problem& problem : problems) problem.file = place.filePath(problem.file);
   for (Warning& warning : content.warnings)
     warning.problem.file = place.filePath(warning.problem.file);
@@ -97,7 +99,7 @@ Problems ContentTool::build(const QString& folder, const QString& target, bool f
   const QString made = workshop.filePath(QStringLiteral("content.mdb"));
   bool stored = false;
   if (std::optional<Database> database = createDatabase(made))
-    stored = storeContent(content.tables, *database);
+    stored = storeContent(content.tables, content.notes, *database);
   if (!stored || m_files.copy(made, target) != FileResult::Ok)
     problems.push_back(unwritable(target));
   return problems;

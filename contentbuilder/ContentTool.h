@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "contentbuilder/ContentNotes.h"
 #include "contentbuilder/ContentTable.h"
 #include "contentbuilder/Coverage.h"
 #include "contentbuilder/Problem.h"
@@ -39,6 +40,7 @@ class ContentTool {
     std::vector<ContentTable> tables;
     Problems problems;
     Warnings warnings;
+    ContentNotes notes;
   };
 
   Content read(const QString& folder) const;

@@ -5,6 +5,8 @@
 #include <cstdio>
 
 #include "contentbuilder/ContentTool.h"
+#include "contentbuilder/ContentUpdate.h"
+#include "system/Clock.h"
 
 namespace {
 
@@ -19,6 +21,8 @@ const QString optionForce = QStringLiteral("force");
 const QString optionStrict = QStringLiteral("strict");
 const QString optionCoverage = QStringLiteral("coverage");
 const QString optionMissing = QStringLiteral("missing");
+const QString optionInto = QStringLiteral("into");
+const QString optionLessons = QStringLiteral("lessons");
 
 void print(const QString& text, FILE* out = stderr) {
   QTextStream(out) << text << '\n';
@@ -52,6 +56,19 @@ void print(const Coverage& coverage, bool missing) {
   for (const QString& headword : coverage.missing) print(headword, stdout);
 }
 
+Problems update(Files& files, const QString& content, const QString& learner,
+                const QString& lessons) {
+  const ContentUpdate done = updateContent(files, SystemClock(), content, learner, lessons);
+  if (!done.problems.empty()) return done.problems;
+  for (const Problem& row : done.untouched) print(row, QString(), QString());
+  print(
+      QStringLiteral("取り込みました。追加 %1、変更 %2（うち改名 %3）。前のものは %4 にあります。")
+          .arg(QString::number(done.added), QString::number(done.changed),
+               QString::number(done.renamed), done.backup),
+      stdout);
+  return {};
+}
+
 int usage(const QCommandLineParser& parser, const QString& message) {
   print(message);
   print(parser.helpText());
@@ -68,7 +85,9 @@ int main(int argc, char* argv[]) {
       QStringLiteral("学習内容のファイルを調べ、個人データベースを作ります。\n\n"
                      "  tavoli-content check フォルダー [--strict] [--coverage 一覧 [--missing]]\n"
                      "  tavoli-content build フォルダー -o データベース\n"
-                     "  tavoli-content dump データベース -o フォルダー"));
+                     "  tavoli-content dump データベース -o フォルダー\n"
+                     "  tavoli-content update 新しい教材 --into データベース"
+                     " [--lessons フォルダー]"));
   const QCommandLineOption help = parser.addHelpOption();
   parser.addOption({optionTarget, QStringLiteral("書き込み先"), QStringLiteral("書き込み先")});
   parser.addOption({optionForce, QStringLiteral("すでにあるファイルを置き換えます。")});
@@ -76,7 +95,12 @@ int main(int argc, char* argv[]) {
   parser.addOption({optionCoverage, QStringLiteral("一覧の見出し語がどれだけあるか数えます。"),
                     QStringLiteral("一覧")});
   parser.addOption({optionMissing, QStringLiteral("一覧のうち、ない見出し語を書き出します。")});
-  parser.addPositionalArgument(QStringLiteral("命令"), QStringLiteral("check、build、dump"));
+  parser.addOption({optionInto, QStringLiteral("新しい教材を取り込む学習者のデータベース"),
+                    QStringLiteral("データベース")});
+  parser.addOption({optionLessons, QStringLiteral("一緒に新しくするレッスンファイルのフォルダー"),
+                    QStringLiteral("フォルダー")});
+  parser.addPositionalArgument(QStringLiteral("命令"),
+                               QStringLiteral("check、build、dump、update"));
   parser.addPositionalArgument(QStringLiteral("対象"), QStringLiteral("読むもの"));
   if (!parser.parse(application.arguments())) return usage(parser, parser.errorText());
   if (parser.isSet(help)) {
@@ -93,8 +117,12 @@ int main(int argc, char* argv[]) {
   const bool force = parser.isSet(optionForce);
   const QString& command = arguments[0];
   const QString& subject = arguments[1];
-  if (command != QStringLiteral("check") && target.isEmpty())
+  const bool writes = command == QStringLiteral("build") || command == QStringLiteral("dump");
+  if (writes && target.isEmpty())
     return usage(parser, QStringLiteral("-o で書き込み先を指定してください。"));
+  const QString learner = parser.value(optionInto);
+  if (command == QStringLiteral("update") && learner.isEmpty())
+    return usage(parser, QStringLiteral("--into で学習者のデータベースを指定してください。"));
 
   Problems problems;
   bool warned = false;
@@ -108,6 +136,8 @@ int main(int argc, char* argv[]) {
     problems = tool.build(subject, target, force);
   else if (command == QStringLiteral("dump"))
     problems = tool.dump(subject, target, force);
+  else if (command == QStringLiteral("update"))
+    problems = update(files, subject, learner, parser.value(optionLessons));
   else
     return usage(parser, QStringLiteral("「%1」という命令はありません。").arg(command));
 

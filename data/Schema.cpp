@@ -21,6 +21,10 @@ QString keyField(const QString& table) {
   return table == tableBDIC ? field文番 : field英語;
 }
 
+QString recordField(const QString& table) {
+  return table == tableBDIC ? field問正コ : field発同日コ;
+}
+
 namespace schema {
 
 QString quoted(const QString& name) {

@@ -45,6 +45,8 @@ bool isSpecialTable(const QString& table);
 
 /// The field that a table is keyed and ordered by.
 QString keyField(const QString& table);
+/// The field that holds a table's packed records.
+QString recordField(const QString& table);
 
 namespace schema {
 

@@ -14,7 +14,6 @@ constexpr int countWidth = 5;
 constexpr int timeWidth = 9;
 constexpr int maxCount = 99999;
 constexpr int maxTime = 999999999;
-constexpr int startedFrom = 316;
 constexpr int momentWidth = 15;
 const QString momentFormat = QStringLiteral("yyyy/MM/ddHH:mm");
 
@@ -64,7 +63,7 @@ StoredProgress parseProgressRecord(const QString& progressRecord) {
     });
   }
   stored.previousStart =
-      QDateTime::fromString(cut(progressRecord, startedFrom, momentWidth), momentFormat);
+      QDateTime::fromString(cut(progressRecord, progressTimesFrom, momentWidth), momentFormat);
   return stored;
 }
 

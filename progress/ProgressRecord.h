@@ -13,6 +13,8 @@ namespace tavoli {
 
 /// The first of the 336 characters that the history of runs repeats.
 inline constexpr int progressNumbersFrom = 10;
+/// The first character behind the counters.
+inline constexpr int progressTimesFrom = 316;
 
 /// Numbers that have no room in their places are written as the largest that has.
 QString buildProgressRecord(const QString& userId, const ProgressCounters& counters,

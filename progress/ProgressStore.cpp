@@ -2,6 +2,7 @@
 
 #include "data/Database.h"
 #include "data/Schema.h"
+#include "data/Text.h"
 #include "progress/ProgressRecord.h"
 #include "progress/TableSurvey.h"
 #include "system/Clock.h"
@@ -74,6 +75,30 @@ bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& c
   bookTime(owner, counters, clock, dialogs);
   const QString progressRecord = buildProgressRecord(owner.userId, counters, owner.times);
   return database.write([&] { return saveProgressRecord(*rsBDIC, progressRecord); });
+}
+
+bool recountMemory(Database& database) {
+  const auto rsBDIC = database.OpenRecordset(tableBDIC);
+  if (!rsBDIC) return false;
+  rsBDIC->Seek(SeekOp::Equal, rowCourse);
+  const QString chosen = trimBlanks(rsBDIC->text(field問正コ));
+  rsBDIC->Seek(SeekOp::Equal, rowProgress);
+  if (rsBDIC->NoMatch()) return !rsBDIC->failed();
+  const QString before = rsBDIC->text(field問正コ);
+  ProgressCounters counters = parseProgressRecord(before).counters;
+  const QString special = chosen.isEmpty() ? firstSpecialTable : chosen;
+  const auto survey = [&](const QString& table, Level level) {
+    return !database.TableDefs().contains(table) ||
+           surveyWordTable(database, table, counters.記憶単熟[level]);
+  };
+  if (!survey(tableJTDIC, 中学) || !survey(tableSTDIC, 高校) || !survey(special, 専門) ||
+      !surveySentences(database, counters.記憶文))
+    return false;
+  const QString figures = buildProgressRecord(QString(), counters, RunClock());
+  return saveProgressRecord(
+      *rsBDIC, fixedWidth(before, progressNumbersFrom - 1) +
+                   cut(figures, progressNumbersFrom, progressTimesFrom - progressNumbersFrom) +
+                   cutFrom(before, progressTimesFrom));
 }
 
 }  // namespace tavoli

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "contentbuilder/ContentChecks.h"
+#include "contentbuilder/ContentNotes.h"
 #include "contentbuilder/ContentSources.h"
 #include "contentbuilder/LessonChecks.h"
 #include "data/Schema.h"
@@ -272,6 +273,35 @@ TEST(ContentSourcesTest, HoldsLessonsAgainstTheTables) {
     places.append(QStringLiteral("%1:%2").arg(problem.file).arg(problem.line));
   EXPECT_EQ(places.join(u' '),
             QStringLiteral("lessons/a.tav:5 lessons/a.tav:6 lessons/a.tav:7 lessons/b.txt:0"));
+}
+
+TEST(ContentSourcesTest, NamesMistakesInNumberAndRenames) {
+  const std::vector<ContentTable> tables = {
+      {tableBDIC, {{QStringLiteral("000020"), {}, {}, {}}}},
+      {tableJTDIC, {{QStringLiteral("b"), {}, {}, {}}, {QStringLiteral("c"), {}, {}, {}}}}};
+  const std::pair<QByteArray, const char*> cases[] = {
+      {"# 題\n\na\tb\n000010\t000020\nx\ta\n", ""},
+      {"a b\n", "1: 前の"},
+      {"a\tb\na\tc\n", "2: 「a」の改名が二つ"},
+      {"a\tx\n", "1: 「x」はどの表にも"},
+      {"a\tx\nx\ta\n", "1: 「a」の改名が元に戻って|2: 「x」の改名が元に戻って"},
+      {"b\tc\n", "1: 表JTDICに「b」も「c」も"},
+  };
+  for (const auto& [bytes, expected] : cases) {
+    Problems problems;
+    makeNotes({source("number.txt", "1\n"), source("renames.tsv", bytes)}, tables, problems);
+    const QStringList parts = QString::fromUtf8(expected).split(u'|', Qt::SkipEmptyParts);
+    ASSERT_EQ(static_cast<qsizetype>(problems.size()), parts.size()) << bytes.constData();
+    for (size_t i = 0; i < problems.size(); ++i)
+      EXPECT_TRUE(QStringLiteral("%1: %2")
+                      .arg(problems[i].line)
+                      .arg(problems[i].message)
+                      .startsWith(parts[static_cast<qsizetype>(i)]))
+          << qPrintable(problems[i].message);
+  }
+  Problems problems;
+  makeNotes({source("number.txt", "x\n")}, tables, problems);
+  EXPECT_EQ(problems.size(), 1);
 }
 
 TEST(ContentSourcesTest, LooksAtAllFiles) {

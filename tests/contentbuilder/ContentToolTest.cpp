@@ -324,7 +324,7 @@ TEST_F(ContentToolTest, AnythingSoundComesBackFromADump) {
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   const std::vector<ContentTable> tables = RandomContent(seed).tables();
   std::optional<Database> database = createDatabase(path("a.mdb"));
-  ASSERT_TRUE(storeContent(tables, *database));
+  ASSERT_TRUE(storeContent(tables, {}, *database));
   Problems problems;
   const std::vector<SourceFile> sources = dumpContent(*database, QString(), problems);
   const std::vector<ContentTable> again = readContent(sources, problems);
