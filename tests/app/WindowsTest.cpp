@@ -61,13 +61,13 @@ TEST(Windows, FitSmallScreensBearTheProgramsNameAndNameTheirControls) {
   LookUp dictionary(*rows);
   TAVO3 tavo3(module.conditions);
   TAVO4 tavo4(module.conditions);
-  for (const char16_t* heading : {u"BusinessTOEIC", u"高校DB", u"中学DB"}) {
+  for (const char16_t* heading : {u"BusinessTOEIC", u"高校DB", u"中学DB"})
     tavo3.addLookUp(QString::fromUtf16(heading), dictionary);
-    tavo4.addLookUp(QString::fromUtf16(heading), dictionary);
-  }
+  tavo4.addLookUp(QStringLiteral("中学DB"), dictionary);
   tavo3.showCaption(QStringLiteral("例文"));
   tavo3.showSource(QStringLiteral("問題　BusinessTOEIC"));
-  tavo3.showStatus(StatusPanel::Position, QStringLiteral("位置=25000／25000 999999"));
+  for (int panel = 1; panel <= 8; ++panel)
+    tavo3.showStatus(static_cast<StatusPanel>(panel), QString(60, u'練'));
   TAVO5 tavo5(module.conditions);
   TAVO6 tavo6(module.conditions);
   ChoiceDialog tavo8({QStringLiteral("専門ＤＢの指定"),

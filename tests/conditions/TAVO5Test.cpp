@@ -10,67 +10,40 @@
 namespace tavoli {
 namespace {
 
-/// The dialog, filled by the keyboard and the mouse as a learner does it.
-class TAVO5Test : public testing::Test {
- protected:
-  TAVO5Test() {
-    conditions.firstRepeatWord = 4;
-    conditions.firstRepeatSent = 3;
-    open();
-  }
-
-  void open() {
-    dialog = std::make_unique<TAVO5>(conditions);
-    dialog->show();
-  }
-  QLineEdit* box(int number) {
-    return dialog->findChild<QLineEdit*>(QStringLiteral("Text%1").arg(number));
-  }
-  void type(int number, const QString& text) {
-    box(number)->selectAll();
-    if (text.isEmpty()) QTest::keyClick(box(number), Qt::Key_Delete);
-    QTest::keyClicks(box(number), text);
-  }
-  void press(int number) {
-    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Command%1").arg(number)),
-                      Qt::LeftButton);
-  }
-
-  PracticeConditions conditions;
-  std::unique_ptr<TAVO5> dialog;
-};
-
-TEST_F(TAVO5Test, UndoesWhatLeavesTheRangeAtOnce) {
-  QTest::keyClick(dialog->focusWidget(), Qt::Key_3);
-  EXPECT_EQ(box(1)->text(), QStringLiteral("3")) << "the first key replaces the number";
-  type(1, QStringLiteral("4"));
-  for (const char16_t* entry : {u"6", u"0", u"a", u"-", u""}) {
-    type(1, QString::fromUtf16(entry));
-    EXPECT_EQ(box(1)->text(), QStringLiteral("4")) << qPrintable(QString::fromUtf16(entry));
-  }
-  type(1, QStringLiteral("5"));
-  for (const char16_t* entry : {u"4", u""}) {
-    type(2, QString::fromUtf16(entry));
-    EXPECT_EQ(box(2)->text(), QStringLiteral("3"));
-  }
+QLineEdit* box(const QWidget& dialog, int number) {
+  return dialog.findChild<QLineEdit*>(QStringLiteral("Text%1").arg(number));
 }
 
-TEST_F(TAVO5Test, StoresWithOkOnly) {
-  type(1, QStringLiteral("1"));
-  press(2);
-  press(4);
-  EXPECT_EQ(conditions.firstRepeatWord, 4);
-  EXPECT_EQ(conditions.firstRepeatSent, 3);
+void press(const QWidget& dialog, int number) {
+  QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("Command%1").arg(number)),
+                    Qt::LeftButton);
+}
 
-  open();
-  press(1);
-  EXPECT_EQ(box(1)->text(), QStringLiteral("2")) << "the standard value";
-  EXPECT_EQ(box(2)->text(), QStringLiteral("3")) << "has a button of its own";
-  type(2, QStringLiteral("2"));
-  press(3);
-  EXPECT_FALSE(dialog->isVisible());
+TEST(TAVO5Test, UndoesWhatLeavesTheRangeAtOnceAndStoresWithOkOnly) {
+  PracticeConditions conditions;
+  conditions.firstRepeatWord = 4;
+  conditions.firstRepeatSent = 3;
+  TAVO5 dialog(conditions);
+  dialog.show();
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_3);
+  EXPECT_EQ(box(dialog, 1)->text(), QStringLiteral("3")) << "the first key replaces the number";
+  for (const auto& [number, most] : {std::pair(1, 5), std::pair(2, 3)}) {
+    box(dialog, number)->selectAll();
+    QTest::keyClick(box(dialog, number), static_cast<char>('0' + most));
+    for (const char entry : {static_cast<char>('1' + most), '0', 'a', '-', '\b'}) {
+      box(dialog, number)->selectAll();
+      QTest::keyClick(box(dialog, number), entry);
+      EXPECT_EQ(box(dialog, number)->text(), QString::number(most)) << entry;
+    }
+  }
+  press(dialog, 4);
+  EXPECT_EQ(conditions.firstRepeatWord, 4) << "cancelled";
+  dialog.show();
+  press(dialog, 1);
+  EXPECT_EQ(box(dialog, 1)->text(), QStringLiteral("2")) << "the standard value";
+  press(dialog, 3);
   EXPECT_EQ(conditions.firstRepeatWord, 2);
-  EXPECT_EQ(conditions.firstRepeatSent, 2);
+  EXPECT_EQ(conditions.firstRepeatSent, 3);
 }
 
 }  // namespace

@@ -40,19 +40,14 @@ TEST(ChoiceDialogTest, ShowsThePresentEntryAndGivesWhatIsChosen) {
   }
 }
 
-TEST(ChoiceDialogTest, EnterAcceptsAndTheButtonsSayWhichWayItEnded) {
-  for (const auto& [button, result] : {std::pair("", QDialog::Accepted),
-                                       {"Command1", QDialog::Accepted},
-                                       {"Command2", QDialog::Rejected}}) {
-    ChoiceDialog dialog({QString(), QString(), {QStringLiteral("Anatomy")}, QString()});
-    dialog.show();
-    if (*button == '\0')
-      QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-    else
-      QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.result(), result);
-  }
+TEST(ChoiceDialogTest, TheButtonsSayWhichWayItEnded) {
+  ChoiceDialog dialog({QString(), QString(), {QStringLiteral("Anatomy")}, QString()});
+  dialog.show();
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  dialog.show();
+  QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("Command2")), Qt::LeftButton);
+  EXPECT_EQ(dialog.result(), QDialog::Rejected);
 }
 
 }  // namespace
