@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <map>
+#include <ranges>
 
 #include "practice/QuestionView.h"
 #include "tests/support/Print.h"
@@ -19,8 +20,7 @@ QString drawn(MarkedText marked) {
     signs[span.offset] += pair[0];
     signs[span.offset + span.length] += pair[1];
   }
-  for (auto sign = signs.crbegin(); sign != signs.crend(); ++sign)
-    marked.text.insert(sign->first, sign->second);
+  for (const auto& [place, sign] : std::views::reverse(signs)) marked.text.insert(place, sign);
   return marked.text;
 }
 
