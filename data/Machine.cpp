@@ -10,6 +10,7 @@ namespace tavoli {
 namespace {
 
 constexpr int idDigits = 16;
+constexpr qint64 mostBytes = 32;  ///< an id with its line end is shorter
 
 bool isId(const QByteArray& text) {
   return text.size() == idDigits && std::all_of(text.begin(), text.end(), [](char c) {
@@ -28,7 +29,7 @@ QString randomId(int digits) {
 QString machineOf(const QString& folder) {
   QFile file(folder + u'/' + machineFileName);
   if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray text = file.read(2 * idDigits).trimmed();
+  const QByteArray text = file.read(mostBytes).trimmed();
   return isId(text) ? QString::fromLatin1(text) : QString();
 }
 

@@ -303,7 +303,7 @@ TEST_F(WorkingCopyTest, TellsWhoHoldsALockAndOffersAnOldOne) {
       SCOPED_TRACE(c.name);
       files.write(lock, c.lock);
       const QDateTime since = files.modified(lock);
-      clock.time = since.addSecs(c.hours * 3600);
+      clock.time = since.addSecs(c.hours * 3600LL);
       dialogs.answers = {takesIt};
       EXPECT_EQ(login(here), c.offered && takesIt);
       const QString told = (c.offered ? dialogs.asked : dialogs.shown).value(0);
