@@ -16,6 +16,7 @@ constexpr int exitWell = 0;
 constexpr int exitProblems = 1;
 constexpr int exitUsage = 2;
 
+const QString optionHelp = QStringLiteral("help");
 const QString optionTarget = QStringLiteral("o");
 const QString optionForce = QStringLiteral("force");
 const QString optionStrict = QStringLiteral("strict");
@@ -56,6 +57,30 @@ void print(const Coverage& coverage, bool missing) {
   for (const QString& headword : coverage.missing) print(headword, stdout);
 }
 
+void describe(QCommandLineParser& parser) {
+  parser.setApplicationDescription(
+      QStringLiteral("学習内容のファイルを調べ、個人データベースを作ります。\n\n"
+                     "  tavoli-content check フォルダー [--strict] [--coverage 一覧 [--missing]]\n"
+                     "  tavoli-content build フォルダー -o データベース\n"
+                     "  tavoli-content dump データベース -o フォルダー\n"
+                     "  tavoli-content update 新しい教材 --into データベース"
+                     " [--lessons フォルダー]"));
+  parser.addHelpOption();
+  parser.addOption({optionTarget, QStringLiteral("書き込み先"), QStringLiteral("書き込み先")});
+  parser.addOption({optionForce, QStringLiteral("すでにあるファイルを置き換えます。")});
+  parser.addOption({optionStrict, QStringLiteral("警告も誤りとして扱います。")});
+  parser.addOption({optionCoverage, QStringLiteral("一覧の見出し語がどれだけあるか数えます。"),
+                    QStringLiteral("一覧")});
+  parser.addOption({optionMissing, QStringLiteral("一覧のうち、ない見出し語を書き出します。")});
+  parser.addOption({optionInto, QStringLiteral("新しい教材を取り込む学習者のデータベース"),
+                    QStringLiteral("データベース")});
+  parser.addOption({optionLessons, QStringLiteral("一緒に新しくするレッスンファイルのフォルダー"),
+                    QStringLiteral("フォルダー")});
+  parser.addPositionalArgument(QStringLiteral("命令"),
+                               QStringLiteral("check、build、dump、update"));
+  parser.addPositionalArgument(QStringLiteral("対象"), QStringLiteral("読むもの"));
+}
+
 Problems update(Files& files, const QString& content, const QString& learner,
                 const QString& lessons) {
   const ContentUpdate done = updateContent(files, SystemClock(), content, learner, lessons);
@@ -81,29 +106,9 @@ int main(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
 
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      QStringLiteral("学習内容のファイルを調べ、個人データベースを作ります。\n\n"
-                     "  tavoli-content check フォルダー [--strict] [--coverage 一覧 [--missing]]\n"
-                     "  tavoli-content build フォルダー -o データベース\n"
-                     "  tavoli-content dump データベース -o フォルダー\n"
-                     "  tavoli-content update 新しい教材 --into データベース"
-                     " [--lessons フォルダー]"));
-  const QCommandLineOption help = parser.addHelpOption();
-  parser.addOption({optionTarget, QStringLiteral("書き込み先"), QStringLiteral("書き込み先")});
-  parser.addOption({optionForce, QStringLiteral("すでにあるファイルを置き換えます。")});
-  parser.addOption({optionStrict, QStringLiteral("警告も誤りとして扱います。")});
-  parser.addOption({optionCoverage, QStringLiteral("一覧の見出し語がどれだけあるか数えます。"),
-                    QStringLiteral("一覧")});
-  parser.addOption({optionMissing, QStringLiteral("一覧のうち、ない見出し語を書き出します。")});
-  parser.addOption({optionInto, QStringLiteral("新しい教材を取り込む学習者のデータベース"),
-                    QStringLiteral("データベース")});
-  parser.addOption({optionLessons, QStringLiteral("一緒に新しくするレッスンファイルのフォルダー"),
-                    QStringLiteral("フォルダー")});
-  parser.addPositionalArgument(QStringLiteral("命令"),
-                               QStringLiteral("check、build、dump、update"));
-  parser.addPositionalArgument(QStringLiteral("対象"), QStringLiteral("読むもの"));
+  describe(parser);
   if (!parser.parse(application.arguments())) return usage(parser, parser.errorText());
-  if (parser.isSet(help)) {
+  if (parser.isSet(optionHelp)) {
     print(parser.helpText(), stdout);
     return exitWell;
   }
