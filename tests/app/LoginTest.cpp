@@ -168,27 +168,6 @@ TEST_F(LoginTest, FetchesThePlacedFilesAndCarriesANewPasswordBack) {
       << "the one without an extension is preferred";
 }
 
-TEST_F(LoginTest, KeepsWorkThatDidNotGetHome) {
-  placeElsewhere();
-  ASSERT_TRUE(login(QStringLiteral("000")));
-  EXPECT_TRUE(login(QStringLiteral("000")));
-  work_on(work());
-  const auto worked = files.read(work());
-  ASSERT_TRUE(login(QStringLiteral("000")));
-  const QString kept = work() + QStringLiteral("-20260401-090000");
-  EXPECT_EQ(
-      dialogs.shown,
-      QStringList{QStringLiteral("配置場所に戻されていない学習結果があったので %1 に保存しました。")
-                      .arg(kept)});
-  EXPECT_EQ(files.read(kept), worked);
-  EXPECT_TRUE(login(QStringLiteral("000")));
-  EXPECT_TRUE(dialogs.shown.isEmpty()) << "kept once";
-  work_on(work());
-  EXPECT_TRUE(login(QStringLiteral("000")));
-  EXPECT_TRUE(files.exists(kept + QStringLiteral("-2"))) << "within the same second";
-  EXPECT_EQ(files.read(kept), worked);
-}
-
 TEST_F(LoginTest, LeavingWithoutARunLeavesNothingToKeep) {
   placeElsewhere();
   ASSERT_TRUE(login(QStringLiteral("000")));
