@@ -1,6 +1,6 @@
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
-#include <ranges>
 
 #include "practice/QuestionView.h"
 #include "tests/support/Print.h"
@@ -12,7 +12,7 @@ namespace {
 /// The text with what is asked between < >, what was answered between / /, and marks as ever.
 QString drawn(MarkedText marked) {
   using Kind = MarkedText::Span::Kind;
-  std::map<qsizetype, QString> signs;
+  std::map<qsizetype, QString, std::greater<>> signs;
   for (const MarkedText::Span& span : marked.spans) {
     const QString pair = span.kind == Kind::Asked      ? QStringLiteral("<>")
                          : span.kind == Kind::Answered ? QStringLiteral("//")
@@ -20,7 +20,7 @@ QString drawn(MarkedText marked) {
     signs[span.offset] += pair[0];
     signs[span.offset + span.length] += pair[1];
   }
-  for (const auto& [place, sign] : std::views::reverse(signs)) marked.text.insert(place, sign);
+  for (const auto& [place, sign] : signs) marked.text.insert(place, sign);
   return marked.text;
 }
 
