@@ -16,11 +16,13 @@ struct MarkedText {
     Kind kind;
     qsizetype offset;  ///< in `text`, from 0
     qsizetype length;
+    bool operator==(const Span&) const = default;
   };
   QString text;
   std::vector<Span> spans;
   /// A mark stood alone or was closed by another kind's; such a pair marks nothing.
   bool unpaired = false;
+  bool operator==(const MarkedText&) const = default;
 };
 
 /// Marks are taken in pairs from the left: the first with the second, the third with the fourth.

@@ -103,8 +103,8 @@ void AnswerAreas::addLookUp(const QString& dictionaryHeading, LookUp& dictionary
 }
 
 void AnswerAreas::tellAnswer() {
-  const QString asked = question->toPlainText();
-  QStringList told = {message->plainMessage(), fullAnswer->toPlainText()};
+  const QString& asked = question->markedText().text;
+  QStringList told = {message->plainMessage(), fullAnswer->markedText().text};
   told.removeAll(QString());
   // A key takes the verdict from the screen; it is the last one until the next question all the
   // same.

@@ -19,7 +19,8 @@ class AnswerWindow : public QMainWindow, public Screen {
 
   void showQuestion(const MarkedText& text) override { m_areas.question->setMarkedText(text); }
   void showSubQuestion(const QuestionView& view) override {
-    m_areas.question->setMarkedText(view.question);
+    if (view.question != m_areas.question->markedText())
+      m_areas.question->setMarkedText(view.question);
     m_areas.answer->setHint(answerHint(view));
     m_areas.describeAnswer();
   }

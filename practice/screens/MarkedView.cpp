@@ -45,6 +45,8 @@ MarkedView::MarkedView(QWidget* parent) : QTextEdit(parent) {
 }
 
 void MarkedView::setMarkedText(const MarkedText& marked, Show show) {
+  // A new text takes over the look of the place where the caret is.
+  if (!m_marked.spans.empty()) setCurrentCharFormat(QTextCharFormat());
   m_marked = marked;
   setPlainText(marked.text);
   drawSpans();
@@ -59,9 +61,6 @@ void MarkedView::setMarkedText(const MarkedText& marked, Show show) {
 
 void MarkedView::drawSpans() {
   QTextCursor cursor(document());
-  // A new text takes over the look of the place where the caret was.
-  cursor.select(QTextCursor::Document);
-  cursor.setCharFormat(QTextCharFormat());
   for (const MarkedText::Span& span : m_marked.spans) {
     cursor.setPosition(static_cast<int>(span.offset));
     cursor.setPosition(static_cast<int>(span.offset + span.length), QTextCursor::KeepAnchor);

@@ -19,6 +19,7 @@ class MarkedView : public QTextEdit {
   enum class Show { Top, End };
   /// Shows the text and brings its beginning or its end into view.
   void setMarkedText(const MarkedText& marked, Show show = Show::Top);
+  const MarkedText& markedText() const { return m_marked; }
 
   /// A few lines; what is left of a window is shared out by its layout.
   QSize sizeHint() const override { return sizeOfLines(3); }

@@ -69,6 +69,8 @@ StatusPanels::StatusPanels(std::function<void()> nextComparison, QWidget* parent
 
 void StatusPanels::showStatus(StatusPanel which, const QString& text) {
   QLabel* label = panel(which);
+  // Times are shown at every key, and change once a minute.
+  if (label->text() == text) return;
   label->setText(text);
   label->setToolTip(which == StatusPanel::Comparison ? text + u'\n' + comparisonTip : text);
   label->setAccessibleDescription(text);
