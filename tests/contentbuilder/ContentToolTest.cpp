@@ -3,7 +3,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <random>
 
 #include "contentbuilder/AnswerNotation.h"
 #include "contentbuilder/ContentSources.h"
@@ -11,6 +10,7 @@
 #include "contentbuilder/ContentTool.h"
 #include "data/Contractions.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -320,7 +320,7 @@ class RandomContent {
 };
 
 TEST_F(ContentToolTest, AnythingSoundComesBackFromADump) {
-  const unsigned seed = std::random_device{}();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   const std::vector<ContentTable> tables = RandomContent(seed).tables();
   std::optional<Database> database = createDatabase(path("a.mdb"));

@@ -1,10 +1,10 @@
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
-#include <random>
 
 #include "data/LineBreaking.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 
 namespace tavoli {
 namespace {
@@ -68,7 +68,7 @@ TEST(LineBreakingTest, BreaksWhereAReaderExpectsIt) {
 
 /// Mixed text keeps every rule at every width that its longest piece fits into.
 TEST(LineBreakingTest, RandomTextKeepsTheRules) {
-  const unsigned seed = std::random_device{}();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
   const QStringList pieces =

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
-#include <random>
 
 #include "practice/PracticeLoop.h"
 #include "tests/support/Drill.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 
 namespace tavoli {
 namespace {
@@ -285,7 +285,7 @@ TEST(PracticeLoopTest, AnyKeyEmptiesTheMessageAndOneOfTheFirstStopsTheVoice) {
 
 /// Anything may be pressed at any time.
 TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
-  const unsigned seed = std::random_device{}();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
   const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };

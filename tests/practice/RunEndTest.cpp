@@ -3,7 +3,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
-#include <random>
 
 #include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
@@ -15,6 +14,7 @@
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -120,7 +120,7 @@ class RunEndTest : public testing::Test {
 };
 
 TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
-  const unsigned seed = std::random_device()();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(seed);
   std::mt19937 engine(seed);
   const auto chance = [&](int most) { return std::uniform_int_distribution(0, most)(engine); };

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <random>
 
 #include "progress/ProgressRecord.h"
 #include "progress/ProgressReport.h"
 #include "progress/ProgressStore.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -26,7 +26,7 @@ ProgressCounters randomCounters(std::mt19937& engine, int maxCount, int maxTime)
 }
 
 TEST(ProgressRecordTest, ComesBackFromItsText) {
-  const unsigned seed = std::random_device()();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(seed);
   std::mt19937 engine(seed);
   RunClock times;
