@@ -12,6 +12,7 @@
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
+#include "tests/support/Seed.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
@@ -211,7 +212,7 @@ TEST_F(WorkingCopyTest, AJournalStaysBesideItsDatabase) {
 }
 
 TEST_F(WorkingCopyTest, NothingIsLostBetweenTwoMachines) {
-  const unsigned seed = std::random_device()();
+  const unsigned seed = test::randomSeed();
   SCOPED_TRACE(seed);
   std::mt19937 engine(seed);
   const auto chance = [&](int most) { return std::uniform_int_distribution(0, most)(engine); };
