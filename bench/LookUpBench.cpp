@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "data/Text.h"
-#include "practice/LookUp.h"
+#include "lookup/LookUp.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {

@@ -7,8 +7,8 @@
 #include "contentbuilder/WordChecks.h"
 #include "contentbuilder/WordWarnings.h"
 #include "data/CurrentRecord.h"
-#include "data/MarkedText.h"
 #include "data/Schema.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

@@ -6,8 +6,8 @@
 
 #include "contentbuilder/TextChecks.h"
 #include "data/Expansion.h"
-#include "data/MarkedText.h"
 #include "data/Text.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

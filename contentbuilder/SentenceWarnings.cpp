@@ -4,7 +4,7 @@
 
 #include "contentbuilder/Comments.h"
 #include "contentbuilder/SentenceChecks.h"
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "data/MarkedText.h"
 #include "data/Text.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

@@ -8,9 +8,9 @@
 #include "contentbuilder/Comments.h"
 #include "contentbuilder/WordChecks.h"
 #include "contentbuilder/WordForms.h"
-#include "data/MarkedText.h"
 #include "data/Schema.h"
 #include "data/Text.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

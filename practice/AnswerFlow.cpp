@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "itemtext/QuestionText.h"
 #include "practice/DamageGuard.h"
 #include "practice/PracticeScreen.h"
-#include "practice/QuestionText.h"
 #include "practice/VerdictText.h"
 #include "system/Dialogs.h"
 

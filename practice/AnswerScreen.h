@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 #include "practice/QuestionView.h"
 
 namespace tavoli {

@@ -3,7 +3,7 @@
 #include <QSet>
 #include <QString>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 #include "practice/RunState.h"
 
 namespace tavoli {

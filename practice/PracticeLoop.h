@@ -2,11 +2,11 @@
 
 #include <QString>
 
+#include "itemtext/QuestionText.h"
 #include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
 #include "practice/DamageGuard.h"
 #include "practice/QuestionRequests.h"
-#include "practice/QuestionText.h"
 #include "practice/RestTime.h"
 #include "practice/RestingDialogs.h"
 #include "practice/ReviewDrill.h"

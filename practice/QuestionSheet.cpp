@@ -1,7 +1,7 @@
 #include "practice/QuestionSheet.h"
 
-#include "data/LineBreaking.h"
-#include "practice/QuestionText.h"
+#include "itemtext/LineBreaking.h"
+#include "itemtext/QuestionText.h"
 #include "system/PageSurface.h"
 
 namespace tavoli {

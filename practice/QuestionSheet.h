@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 #include "practice/PracticeSet.h"
 
 namespace tavoli {

@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include "practice/QuestionText.h"
+#include "itemtext/QuestionText.h"
 
 namespace tavoli {
 

@@ -3,7 +3,7 @@
 #include <bitset>
 
 #include "data/CurrentRecord.h"
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

@@ -4,8 +4,8 @@
 
 #include "conditions/ConditionsText.h"
 #include "data/Text.h"
+#include "itemtext/QuestionText.h"
 #include "judge/MemoryTransition.h"
-#include "practice/QuestionText.h"
 #include "practice/RestTime.h"
 #include "practice/ReviewScreen.h"
 #include "practice/VerdictText.h"

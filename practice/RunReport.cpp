@@ -1,7 +1,7 @@
 #include "practice/RunReport.h"
 
 #include "data/Text.h"
-#include "practice/QuestionText.h"
+#include "itemtext/QuestionText.h"
 
 namespace tavoli {
 

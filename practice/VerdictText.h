@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 #include "judge/Comparison.h"
 
 // What an entry is told, whichever drill judged it.

@@ -4,13 +4,13 @@
 
 #include <utility>
 
+#include "lookup/screens/LookUpPane.h"
+#include "lookup/screens/WordView.h"
 #include "practice/screens/AnswerBox.h"
-#include "practice/screens/LookUpPane.h"
 #include "practice/screens/MessageLine.h"
-#include "practice/screens/ScaledFont.h"
-#include "practice/screens/TextMenu.h"
 #include "practice/screens/TimeStrip.h"
-#include "practice/screens/WordView.h"
+#include "ui/screens/ScaledFont.h"
+#include "ui/screens/TextMenu.h"
 
 namespace tavoli {
 

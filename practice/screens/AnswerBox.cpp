@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "practice/screens/ScaledFont.h"
+#include "ui/screens/ScaledFont.h"
 
 namespace tavoli {
 

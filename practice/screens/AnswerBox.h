@@ -1,6 +1,6 @@
 #pragma once
 
-#include "practice/screens/EnglishBox.h"
+#include "ui/screens/EnglishBox.h"
 
 namespace tavoli {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "lookup/screens/WordView.h"
 #include "practice/screens/AnswerAreas.h"
 #include "practice/screens/AnswerBox.h"
 #include "practice/screens/MessageLine.h"
 #include "practice/screens/TimeStrip.h"
-#include "practice/screens/WordView.h"
 
 namespace tavoli {
 

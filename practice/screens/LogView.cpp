@@ -5,7 +5,7 @@
 #include <QLayout>
 #include <QTextBlock>
 
-#include "practice/screens/WordView.h"
+#include "lookup/screens/WordView.h"
 
 namespace tavoli {
 

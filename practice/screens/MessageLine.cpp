@@ -1,7 +1,7 @@
 #include "practice/screens/MessageLine.h"
 
-#include "practice/screens/MarkedView.h"
-#include "practice/screens/ScaledFont.h"
+#include "ui/screens/MarkedView.h"
+#include "ui/screens/ScaledFont.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "practice/screens/ScaledFont.h"
+#include "ui/screens/ScaledFont.h"
 
 namespace tavoli {
 

@@ -10,7 +10,7 @@
 #include "conditions/screens/TAVO2.h"
 #include "conditions/screens/TAVO5.h"
 #include "conditions/screens/TAVO6.h"
-#include "practice/LookUp.h"
+#include "lookup/LookUp.h"
 #include "practice/screens/FunctionKeys.h"
 #include "practice/screens/TAVO3.h"
 #include "practice/screens/TAVO4.h"

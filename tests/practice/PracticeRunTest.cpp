@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "home/WorkingCopy.h"
+#include "itemtext/QuestionText.h"
 #include "practice/PracticeRun.h"
-#include "practice/QuestionText.h"
 #include "system/Files.h"
 #include "tests/support/FakePaper.h"
 #include "tests/support/Fakes.h"

@@ -7,11 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "practice/LookUp.h"
+#include "lookup/LookUp.h"
 #include "practice/PracticeLoop.h"
-#include "practice/screens/MarkedView.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/TestStore.h"
+#include "ui/screens/MarkedView.h"
 
 namespace tavoli::test {
 

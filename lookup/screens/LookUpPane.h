@@ -6,8 +6,8 @@
 
 #include <optional>
 
-#include "practice/LookUp.h"
-#include "practice/screens/WordView.h"
+#include "lookup/LookUp.h"
+#include "lookup/screens/WordView.h"
 
 namespace tavoli {
 

@@ -1,11 +1,11 @@
-#include "practice/screens/LookUpPane.h"
+#include "lookup/screens/LookUpPane.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QToolButton>
 
-#include "practice/screens/EnglishBox.h"
+#include "ui/screens/EnglishBox.h"
 
 namespace tavoli {
 

@@ -1,4 +1,4 @@
-#include "practice/screens/EnglishBox.h"
+#include "ui/screens/EnglishBox.h"
 
 #include <QKeyEvent>
 

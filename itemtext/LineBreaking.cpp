@@ -1,4 +1,4 @@
-#include "data/LineBreaking.h"
+#include "itemtext/LineBreaking.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

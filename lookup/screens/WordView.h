@@ -1,6 +1,6 @@
 #pragma once
 
-#include "practice/screens/MarkedView.h"
+#include "ui/screens/MarkedView.h"
 
 namespace tavoli {
 

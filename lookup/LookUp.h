@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "data/MarkedText.h"
 #include "data/TableCursor.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

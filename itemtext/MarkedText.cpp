@@ -1,4 +1,4 @@
-#include "data/MarkedText.h"
+#include "itemtext/MarkedText.h"
 
 namespace tavoli {
 

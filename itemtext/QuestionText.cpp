@@ -1,6 +1,6 @@
-#include "practice/QuestionText.h"
+#include "itemtext/QuestionText.h"
 
-#include "conditions/PracticeConditions.h"
+#include "data/Course.h"
 #include "data/Text.h"
 
 namespace tavoli {

@@ -1,4 +1,4 @@
-#include "practice/screens/TextMenu.h"
+#include "ui/screens/TextMenu.h"
 
 #include <QLineEdit>
 #include <QTextEdit>

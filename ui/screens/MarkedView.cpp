@@ -1,4 +1,4 @@
-#include "practice/screens/MarkedView.h"
+#include "ui/screens/MarkedView.h"
 
 #include <QEvent>
 #include <QTextCharFormat>

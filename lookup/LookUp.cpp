@@ -1,4 +1,4 @@
-#include "practice/LookUp.h"
+#include "lookup/LookUp.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "practice/LookUp.h"
-#include "practice/screens/LookUpPane.h"
+#include "lookup/LookUp.h"
+#include "lookup/screens/LookUpPane.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 

@@ -1,9 +1,9 @@
-#include "practice/screens/WordView.h"
+#include "lookup/screens/WordView.h"
 
 #include <QMouseEvent>
 #include <QTextCursor>
 
-#include "practice/LookUp.h"
+#include "lookup/LookUp.h"
 
 namespace tavoli {
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "data/LineBreaking.h"
+#include "itemtext/LineBreaking.h"
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
 
