@@ -6,6 +6,8 @@
 #include "tests/support/ConditionsOverStore.h"
 #include "tests/support/Print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -43,16 +45,14 @@ TEST_F(ConditionsByNameTest, NamesSetWhatTheScreenWouldSet) {
     const QString expected = QString::fromUtf16(c.complaint);
     EXPECT_EQ(complaint.left(expected.size()), expected);
     EXPECT_EQ(complaint.isEmpty(), expected.isEmpty());
-    EXPECT_EQ(QStringLiteral("%1%2 %3-%4 %5 %6")
-                  .arg(conditions.selMethod)
+    EXPECT_EQ(u"%1%2 %3-%4 %5 %6"_s.arg(conditions.selMethod)
                   .arg(conditions.startMode)
                   .arg(conditions.levelFrom, conditions.levelTo)
                   .arg(conditions.reviewCycle)
                   .arg(conditions.maxLoadWords),
               QString::fromUtf16(c.record));
   }
-  EXPECT_TRUE(setCourseByName(course, {{QStringLiteral("COURSE"), QStringLiteral("3")}})
-                  .startsWith(QStringLiteral("COURSE: 0")));
+  EXPECT_TRUE(setCourseByName(course, {{u"COURSE"_s, u"3"_s}}).startsWith(u"COURSE: 0"_s));
   EXPECT_EQ(course.COURSE, course高校);
 }
 
@@ -60,7 +60,7 @@ TEST_F(LessonChoiceTest, LessonFilesOfAllKindsAreMet) {
   enter();
   writeLesson(u"sjis.tav", QByteArray::fromHex("93ae8e8c0d0a") + QByteArray(70, 'a'));
   pick(u"sjis.tav");
-  EXPECT_EQ(screen.lesson, QStringList({QStringLiteral("動詞"), QString(60, u'a')}));
+  EXPECT_EQ(screen.lesson, QStringList({u"動詞"_s, QString(60, u'a')}));
   writeLesson(u"empty.tav", QByteArray());
   pick(u"empty.tav");
   rules.chooseStartMode(u'3');
@@ -68,22 +68,22 @@ TEST_F(LessonChoiceTest, LessonFilesOfAllKindsAreMet) {
 
   writeLesson(u"binary.tav", QByteArray("\0\1\2", 3));
   pick(u"binary.tav");
-  EXPECT_TRUE(screen.lessonTrouble.contains(QStringLiteral("/binary.tav は読めません")));
+  EXPECT_TRUE(screen.lessonTrouble.contains(u"/binary.tav は読めません"_s));
   EXPECT_EQ(rules.next(), std::nullopt);
   EXPECT_EQ(dialogs.shown, QStringList{screen.lessonTrouble});
 
-  rules.typeLessonName(QStringLiteral("no.tav"), store.folder());
+  rules.typeLessonName(u"no.tav"_s, store.folder());
   EXPECT_TRUE(screen.lesson.isEmpty());
   EXPECT_EQ(rules.next(), std::nullopt);
-  EXPECT_EQ(dialogs.shown.last(), store.folder() + QStringLiteral("/no.tavは見つかりません。"));
-  rules.typeLessonName(QStringLiteral(" 名詞.tav"), store.folder());
-  EXPECT_EQ(conditions.lessonPath(), store.folder() + QStringLiteral("/名詞.tav"));
-  EXPECT_EQ(screen.lesson, QStringList{QStringLiteral("apple")});
+  EXPECT_EQ(dialogs.shown.last(), store.folder() + u"/no.tavは見つかりません。"_s);
+  rules.typeLessonName(u" 名詞.tav"_s, store.folder());
+  EXPECT_EQ(conditions.lessonPath(), store.folder() + u"/名詞.tav"_s);
+  EXPECT_EQ(screen.lesson, QStringList{u"apple"_s});
 
-  const QString barred = store.folder() + QStringLiteral("/a|b");
+  const QString barred = store.folder() + u"/a|b"_s;
   QDir().mkdir(barred);
-  rules.pickLesson(barred, QStringLiteral("x.tav"));
-  EXPECT_TRUE(dialogs.shown.last().contains(QStringLiteral("選べません")));
+  rules.pickLesson(barred, u"x.tav"_s);
+  EXPECT_TRUE(dialogs.shown.last().contains(u"選べません"_s));
   EXPECT_EQ(conditions.lessonFolder, store.folder()) << "the record could not hold it";
 }
 

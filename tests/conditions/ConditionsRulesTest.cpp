@@ -7,41 +7,43 @@
 #include "tests/support/ConditionsOverStore.h"
 #include "tests/support/Print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
 using ConditionsRulesTest = test::ConditionsOverStore;
 
-const QString special = QStringLiteral("BusinessTOEIC");
-const QString forcedToBeginning = QStringLiteral("開始英語の指定を「最初から」に設定します。");
-const QString brokenStart = QStringLiteral(
-    "開始英語の指定が\n「・前回と同じ英語から」、「・前回の最後に続けて」の場合は\n"
-    "前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 \n");
-const QString fromBeginning = QStringLiteral("今回は最初から実行します。");
+const QString special = u"BusinessTOEIC"_s;
+const QString forcedToBeginning = u"開始英語の指定を「最初から」に設定します。"_s;
+const QString brokenStart =
+    u"開始英語の指定が\n「・前回と同じ英語から」、「・前回の最後に続けて」の場合は\n"
+    u"前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 \n"_s;
+const QString fromBeginning = u"今回は最初から実行します。"_s;
 
 TEST_F(ConditionsRulesTest, EachCourseBringsItsOwnRecordBack) {
   PracticeConditions other = last;
   other.memorySelect = u'5';
-  other.levelTo = QStringLiteral("03");
+  other.levelTo = u"03"_s;
   remember(tableJTDIC, other);
   enter();
   EXPECT_EQ(screen.focus, u'N');
   EXPECT_EQ(screen.lesson.size(), 4);
-  EXPECT_EQ(screen.pastCaption, QStringLiteral("前回（中学／高校／専門別）"));
-  EXPECT_EQ(screen.pastRun.lastEnglish, QStringLiteral("go abroad"));
+  EXPECT_EQ(screen.pastCaption, u"前回（中学／高校／専門別）"_s);
+  EXPECT_EQ(screen.pastRun.lastEnglish, u"go abroad"_s);
   rules.chooseMemory(u'3');
   rules.chooseCourse(course中学);
   EXPECT_EQ(course.COURSE, course中学);
   EXPECT_EQ(screen.memorySelect, u'5');
-  EXPECT_EQ(screen.numbers[NumberField::LevelTo], QStringLiteral("3"));
+  EXPECT_EQ(screen.numbers[NumberField::LevelTo], u"3"_s);
   rules.chooseCourse(course高校);
   EXPECT_EQ(conditions.memorySelect, u'1') << "a choice that no run used is lost";
 }
 
 TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
-  const QString vanished = QStringLiteral("Vanished");
-  const QString notFound = QStringLiteral(
-      "専門単熟DB Vanished が見つかりません。「中学／高校／専門の選択」で指定し直してください。");
+  const QString vanished = u"Vanished"_s;
+  const QString notFound =
+      u"専門単熟DB Vanished が見つかりません。「中学／高校／専門の選択」で指定し直してください。"_s;
   using Choices = QList<std::optional<QString>>;
   const struct {
     const char* name;
@@ -82,18 +84,18 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
 }
 
 TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
-  learner.dbFileWork = store.folder() + QStringLiteral("/bare.mdb");
+  learner.dbFileWork = store.folder() + u"/bare.mdb"_s;
   auto made = createDatabase(learner.dbFileWork);
   for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC}) made->createTable(table);
   made.reset();
   ASSERT_TRUE(rules.enter());
   screen.choices = {QString()};
   rules.chooseCourse(course専門);
-  EXPECT_EQ(screen.offered, QStringList{QStringLiteral(">")});
+  EXPECT_EQ(screen.offered, QStringList{u">"_s});
   ASSERT_EQ(dialogs.shown.size(), 1);
-  EXPECT_TRUE(dialogs.shown.takeFirst().startsWith(QStringLiteral("専門単熟DB  が")));
+  EXPECT_TRUE(dialogs.shown.takeFirst().startsWith(u"専門単熟DB  が"_s));
   EXPECT_EQ(rules.next(), std::nullopt);
-  EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("専門辞書の指定ができていません。")});
+  EXPECT_EQ(dialogs.shown, QStringList{u"専門辞書の指定ができていません。"_s});
 }
 
 TEST_F(ConditionsRulesTest, AnUnreadableDatabaseChangesNothing) {
@@ -104,22 +106,22 @@ TEST_F(ConditionsRulesTest, AnUnreadableDatabaseChangesNothing) {
   EXPECT_EQ(screen.course, course高校);
   rules.chooseStartMode(u'3');
   EXPECT_TRUE(screen.starts.isEmpty());
-  const QString trouble = store.path() + QStringLiteral(" : OpenDatabase error    Err.Number=3024");
+  const QString trouble = store.path() + u" : OpenDatabase error    Err.Number=3024"_s;
   EXPECT_EQ(dialogs.shown, QStringList({trouble, trouble}));
   EXPECT_EQ(rules.next(), std::nullopt);
-  EXPECT_EQ(dialogs.shown.last(), store.path() + QStringLiteral(" : not found"));
+  EXPECT_EQ(dialogs.shown.last(), store.path() + u" : not found"_s);
   EXPECT_FALSE(rules.enter());
 }
 
 /// Clicks: m a method, s a start mode, p picks the other lesson file, P the same one again, t types
 /// the start that follows, n presses Next.
 TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
-  const QString otherLesson = brokenStart + QStringLiteral("動詞.tav≠名詞.tav\n") + fromBeginning;
+  const QString otherLesson = brokenStart + u"動詞.tav≠名詞.tav\n"_s + fromBeginning;
   const QString otherMethod = brokenStart + fromBeginning;
   const QString notInTable =
-      QStringLiteral("指定開始英語の cow はデータベース中にありません。\n無視して続けますか。");
+      u"指定開始英語の cow はデータベース中にありません。\n無視して続けますか。"_s;
   const QString notInLesson =
-      QStringLiteral("指定開始英語の cow は 動詞.tav の中にありません。\n無視して続けますか。");
+      u"指定開始英語の cow は 動詞.tav の中にありません。\n無視して続けますか。"_s;
   const struct {
     const char* name;
     const char* record;  ///< selMethod and startMode of the last run
@@ -170,7 +172,7 @@ TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
       if (click[0] == u'p') pick(u"名詞.tav");
       if (click[0] == u'P') pick(u"動詞.tav");
       if (click[0] == u't') rules.typeStart(rest);
-      if (click[0] == u'n') startKey = rules.next().value_or(QStringLiteral("-"));
+      if (click[0] == u'n') startKey = rules.next().value_or(u"-"_s);
     }
     EXPECT_EQ(QString(screen.selMethod) + screen.startMode, QLatin1String(c.then));
     EXPECT_EQ(QString(conditions.selMethod) + conditions.startMode, QLatin1String(c.then));
@@ -190,19 +192,19 @@ TEST_F(ConditionsRulesTest, AFirstRunHasNoPlaceToGoOnFrom) {
 
 TEST_F(ConditionsRulesTest, ASpecifiedStartComesBackWithItsGroupAndFile) {
   last.startMode = u'3';
-  last.startEnglish = QStringLiteral("bank");
+  last.startEnglish = u"bank"_s;
   enter();
   EXPECT_EQ(screen.starts.size(), 4) << "the end mark is listed";
-  EXPECT_EQ(screen.start, QStringLiteral("bank"));
+  EXPECT_EQ(screen.start, u"bank"_s);
   rules.chooseMethod(u'4');
   EXPECT_EQ(screen.startMode, u'1');
   EXPECT_EQ(screen.start, QString());
   rules.chooseStartMode(u'3');
-  EXPECT_EQ(screen.start, QStringLiteral("500010･彼は学生です。"));
+  EXPECT_EQ(screen.start, u"500010･彼は学生です。"_s);
   rules.chooseMethod(u'3');
-  EXPECT_EQ(screen.start, QStringLiteral("apple")) << "the first of the list";
+  EXPECT_EQ(screen.start, u"apple"_s) << "the first of the list";
   rules.chooseStartMode(u'3');
-  EXPECT_EQ(screen.start, QStringLiteral("bank"));
+  EXPECT_EQ(screen.start, u"bank"_s);
 }
 
 TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {
@@ -213,7 +215,7 @@ TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {
   enter();
   EXPECT_EQ(screen.pastRuns.size(), 1);
   rules.choosePastRun(0);
-  EXPECT_EQ(screen.pastCaption, QStringLiteral("001　2026/04/02専"));
+  EXPECT_EQ(screen.pastCaption, u"001　2026/04/02専"_s);
   EXPECT_EQ(screen.pastRun.memorySelect, u'4');
   rules.choosePastRun(1);
   EXPECT_EQ(screen.pastRun.memorySelect, u'4') << "there is none";

@@ -9,30 +9,32 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
 PracticeConditions unusual() {
   PracticeConditions c;
-  c.userId = QStringLiteral("taro");
+  c.userId = u"taro"_s;
   c.selMethod = u'4';
   c.maxLoadWords = 24990;
   c.maxLoadSent = 10;
   c.startMode = u'3';
-  c.startEnglish = QStringLiteral("   120･彼は");
-  c.firstEnglish = QStringLiteral("000120･");
-  c.lastEnglish = QStringLiteral("look forward to ～ing");
+  c.startEnglish = u"   120･彼は"_s;
+  c.firstEnglish = u"000120･"_s;
+  c.lastEnglish = u"look forward to ～ing"_s;
   c.memorySelect = u'5';
-  c.levelFrom = QStringLiteral("03");
-  c.levelTo = QStringLiteral("99");
+  c.levelFrom = u"03"_s;
+  c.levelTo = u"99"_s;
   c.targetSentA = 1.25;
   c.targetWordB = 99;
   c.reviewCycle = 9;
   c.firstRepeatWord = 5;
   c.compareMode = u'1';
   c.compareFlag = false;
-  c.lessonFolder = QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ");
-  c.lessonFile = QStringLiteral("動詞.tav");
+  c.lessonFolder = u"/home/太郎/Tavoliﾚｯｽﾝ"_s;
+  c.lessonFile = u"動詞.tav"_s;
   return c;
 }
 
@@ -49,22 +51,22 @@ TEST(ConditionsTest, KeepsEveryFieldAtItsPosition) {
   for (const auto& field : fields)
     EXPECT_EQ(cut(record, field.position, field.width), QString::fromUtf8(field.content))
         << "at " << field.position;
-  EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
+  EXPECT_EQ(cutFrom(record, 202), u"/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"_s);
 
-  EXPECT_EQ(startKeyOf(c), QStringLiteral("120･彼は"));
-  PracticeConditions read = decodeConditions(record, QStringLiteral("/default"));
+  EXPECT_EQ(startKeyOf(c), u"120･彼は"_s);
+  PracticeConditions read = decodeConditions(record, u"/default"_s);
   read.userId = c.userId;
   EXPECT_EQ(encodeConditions(read), record);
 }
 
 TEST(ConditionsTest, ReadsShortAndOldRecords) {
   const QString record = encodeConditions(unusual());
-  PracticeConditions c = decodeConditions(QString(), QStringLiteral("/default"));
+  PracticeConditions c = decodeConditions(QString(), u"/default"_s);
   EXPECT_EQ(c.maxLoadWords, 0);
   EXPECT_EQ(c.startEnglish, QString());
-  EXPECT_EQ(c.lessonFolder, QStringLiteral("/default"));
-  c = decodeConditions(record.left(201) + QStringLiteral("C:\\old"), QStringLiteral("/default"));
-  EXPECT_EQ(c.lessonFolder, QStringLiteral("/default")) << "a tail without a mark";
+  EXPECT_EQ(c.lessonFolder, u"/default"_s);
+  c = decodeConditions(record.left(201) + u"C:\\old"_s, u"/default"_s);
+  EXPECT_EQ(c.lessonFolder, u"/default"_s) << "a tail without a mark";
   EXPECT_EQ(c.lessonFile, QString());
   const struct {
     const char16_t* code;
@@ -86,8 +88,8 @@ TEST(ConditionsTest, NoValueShiftsTheFieldsBehindIt) {
   c.reviewCycle = 10;
   c.startEnglish = QString(80, u'あ');
   const QString record = encodeConditions(c);
-  EXPECT_EQ(cut(record, 175, 1), QStringLiteral("5"));
-  EXPECT_EQ(cutFrom(record, 202), QStringLiteral("/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"));
+  EXPECT_EQ(cut(record, 175, 1), u"5"_s);
+  EXPECT_EQ(cutFrom(record, 202), u"/home/太郎/Tavoliﾚｯｽﾝ|動詞.tav"_s);
 }
 
 TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
@@ -95,46 +97,45 @@ TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   CourseChoice course = readCourse(store.database(), CourseChoice());
   EXPECT_EQ(course.COURSE, course高校) << "a new learner";
   auto rsBDIC = store.database().OpenRecordset(tableBDIC);
-  course = {course専門, QStringLiteral("BusinessTOEIC")};
+  course = {course専門, u"BusinessTOEIC"_s};
   EXPECT_TRUE(saveCourse(*rsBDIC, course));
-  EXPECT_TRUE(saveCourse(*rsBDIC, {course中学, QStringLiteral("other")}));
+  EXPECT_TRUE(saveCourse(*rsBDIC, {course中学, u"other"_s}));
   course = readCourse(store.database(), CourseChoice());
   EXPECT_EQ(course.COURSE, course中学);
-  EXPECT_EQ(course.specialTable, QStringLiteral("BusinessTOEIC")) << "kept beside another course";
+  EXPECT_EQ(course.specialTable, u"BusinessTOEIC"_s) << "kept beside another course";
 
-  const QString lessons = QStringLiteral("/lessons");
+  const QString lessons = u"/lessons"_s;
   auto rsTDIC = store.database().OpenRecordset(tableJTDIC);
-  PracticeConditions c = loadConditions(*rsTDIC, QStringLiteral("taro"), lessons);
+  PracticeConditions c = loadConditions(*rsTDIC, u"taro"_s, lessons);
   EXPECT_EQ(c.lessonFolder, lessons);
   EXPECT_EQ(store.stored(tableJTDIC, rowConditions, field発同日コ), encodeConditions(c));
   c.memorySelect = u'3';
   EXPECT_TRUE(saveConditions(*rsTDIC, c));
-  EXPECT_EQ(loadConditions(*rsTDIC, QStringLiteral("taro"), lessons).memorySelect, u'3');
+  EXPECT_EQ(loadConditions(*rsTDIC, u"taro"_s, lessons).memorySelect, u'3');
 }
 
 TEST(PastConditionsTest, KeepsTheLastHundredRuns) {
   QTemporaryDir folder;
   SystemFiles files;
-  const QString path = folder.filePath(QStringLiteral("TavoCond000"));
+  const QString path = folder.filePath(u"TavoCond000"_s);
   EXPECT_TRUE(pastConditions(files, path).isEmpty());
   PracticeConditions c = unusual();
   for (int day = 1; day <= 103; ++day) {
     c.maxLoadSent = day;
-    ASSERT_TRUE(
-        appendPastConditions(files, path,
-                             pastConditionsLine(QDate(2026, 1, 1).addDays(day),
-                                                {course専門, QStringLiteral("BusinessTOEIC")}, c)));
+    ASSERT_TRUE(appendPastConditions(
+        files, path,
+        pastConditionsLine(QDate(2026, 1, 1).addDays(day), {course専門, u"BusinessTOEIC"_s}, c)));
   }
   const QStringList lines = pastConditions(files, path);
   ASSERT_EQ(lines.size(), 100);
-  EXPECT_EQ(cut(lines.first(), 19, 5), QStringLiteral("4    "));
-  EXPECT_EQ(listPastConditions(lines).last(), QStringLiteral("100　2026/04/14専"));
+  EXPECT_EQ(cut(lines.first(), 19, 5), u"4    "_s);
+  EXPECT_EQ(listPastConditions(lines).last(), u"100　2026/04/14専"_s);
   const PastRun run = readConditions(lines.last());
   EXPECT_EQ(run.selMethod, u'4');
   EXPECT_EQ(run.memorySelect, u'5');
-  EXPECT_EQ(run.levelTo, QStringLiteral("99"));
-  EXPECT_EQ(run.specialTable, QStringLiteral("BusinessTOEIC"));
-  EXPECT_EQ(run.lessonFile, QStringLiteral("動詞.tav"));
+  EXPECT_EQ(run.levelTo, u"99"_s);
+  EXPECT_EQ(run.specialTable, u"BusinessTOEIC"_s);
+  EXPECT_EQ(run.lessonFile, u"動詞.tav"_s);
   for (int length = 0; length < lines.last().size(); ++length)
     EXPECT_TRUE(readConditions(lines.last().left(length)).date.size() <= 10);
 }
@@ -142,10 +143,10 @@ TEST(PastConditionsTest, KeepsTheLastHundredRuns) {
 TEST(PastConditionsTest, NeverOverwritesAFileItCannotRead) {
   QTemporaryDir folder;
   SystemFiles files;
-  const QString path = folder.filePath(QStringLiteral("TavoCond000"));
+  const QString path = folder.filePath(u"TavoCond000"_s);
   const QByteArray binary("\0\1\2", 3);
   ASSERT_EQ(files.write(path, binary), FileResult::Ok);
-  EXPECT_FALSE(appendPastConditions(files, path, QStringLiteral("line")));
+  EXPECT_FALSE(appendPastConditions(files, path, u"line"_s));
   EXPECT_EQ(files.read(path), binary);
 }
 

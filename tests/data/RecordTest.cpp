@@ -11,36 +11,37 @@
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
 TEST(RecordTest, TakesAWordApart) {
-  const CurrentRecord record =
-      ParseRecord(QStringLiteral("be′st|finest^top^|007最もよい^212最善^|The best way  最善の道"),
-                  QStringLiteral(" best  "), u'1');
+  const CurrentRecord record = ParseRecord(
+      u"be′st|finest^top^|007最もよい^212最善^|The best way  最善の道"_s, u" best  "_s, u'1');
   EXPECT_TRUE(record.complete);
-  EXPECT_EQ(record.英語, QStringLiteral("best"));
-  EXPECT_EQ(record.同, (QStringList{QStringLiteral("finest"), QStringLiteral("top")}));
+  EXPECT_EQ(record.英語, u"best"_s);
+  EXPECT_EQ(record.同, (QStringList{u"finest"_s, u"top"_s}));
   ASSERT_EQ(record.小問数, 2);
-  EXPECT_EQ(record.text(2), QStringLiteral("最善"));
+  EXPECT_EQ(record.text(2), u"最善"_s);
   EXPECT_EQ(record.記(2), memory完全);
   EXPECT_EQ(record.at(1).小問回数, 7);
-  EXPECT_EQ(record.コメント, QStringLiteral("The best way  最善の道"));
+  EXPECT_EQ(record.コメント, u"The best way  最善の道"_s);
   EXPECT_EQ(record.text(3), QString());
 }
 
 TEST(RecordTest, TakesASentenceApart) {
-  const CurrentRecord record = ParseRecord(
-      QStringLiteral("問題％(   )|030011I am a boy.010201000105001^001004boys00000000^|コ|メ"),
-      QStringLiteral("000010"), tableOfSentences);
+  const CurrentRecord record =
+      ParseRecord(u"問題％(   )|030011I am a boy.010201000105001^001004boys00000000^|コ|メ"_s,
+                  u"000010"_s, tableOfSentences);
   EXPECT_TRUE(record.complete);
   ASSERT_EQ(record.小問数, 2);
   EXPECT_EQ(record.at(1).先頭文字数, 3);
-  EXPECT_EQ(record.at(1).正, QStringLiteral("I am a boy."));
+  EXPECT_EQ(record.at(1).正, u"I am a boy."_s);
   EXPECT_EQ(record.at(1).省略開始, 1);
   EXPECT_EQ(record.at(1).省略終了, 2);
   EXPECT_EQ(record.記(2), memoryうろ覚え);
-  EXPECT_EQ(record.コメント, QStringLiteral("コ|メ")) << "the comment is all behind the last mark";
+  EXPECT_EQ(record.コメント, u"コ|メ"_s) << "the comment is all behind the last mark";
 }
 
 TEST(RecordTest, DamagedRecordsAreParsedAsFarAsTheyGoAndKeptFromRewriting) {
@@ -52,22 +53,19 @@ TEST(RecordTest, DamagedRecordsAreParsedAsFarAsTheyGoAndKeptFromRewriting) {
     bool complete;
   } cases[] = {
       {"empty", QString(), u'1', 0, false},
-      {"no marks", QStringLiteral("abc"), u'B', 0, false},
-      {"length beyond the text", QStringLiteral("問|000099short^|コ"), u'B', 1, false},
-      {"letters for a length", QStringLiteral("問|000xyzanswer^|コ"), u'B', 0, false},
-      {"letters for a count", QStringLiteral("||0xx意味^|"), u'1', 1, false},
-      {"nineteen meanings", QStringLiteral("||") + QStringLiteral("000意味^").repeated(19) + u'|',
-       u'1', 19, true},
-      {"twenty meanings", QStringLiteral("||") + QStringLiteral("000意味^").repeated(20) + u'|',
-       u'1', 19, false},
-      {"twenty synonyms", u'|' + QStringLiteral("syn^").repeated(20) + QStringLiteral("|000意味^|"),
-       u'1', 1, false},
-      {"an empty meaning ends what is asked", QStringLiteral("||000一^000^000三^|"), u'1', 1, true},
-      {"unended element", QStringLiteral("||000一^000二|"), u'1', 1, false},
+      {"no marks", u"abc"_s, u'B', 0, false},
+      {"length beyond the text", u"問|000099short^|コ"_s, u'B', 1, false},
+      {"letters for a length", u"問|000xyzanswer^|コ"_s, u'B', 0, false},
+      {"letters for a count", u"||0xx意味^|"_s, u'1', 1, false},
+      {"nineteen meanings", u"||"_s + u"000意味^"_s.repeated(19) + u'|', u'1', 19, true},
+      {"twenty meanings", u"||"_s + u"000意味^"_s.repeated(20) + u'|', u'1', 19, false},
+      {"twenty synonyms", u'|' + u"syn^"_s.repeated(20) + u"|000意味^|"_s, u'1', 1, false},
+      {"an empty meaning ends what is asked", u"||000一^000^000三^|"_s, u'1', 1, true},
+      {"unended element", u"||000一^000二|"_s, u'1', 1, false},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const CurrentRecord record = ParseRecord(c.text, QStringLiteral("key"), c.table);
+    const CurrentRecord record = ParseRecord(c.text, u"key"_s, c.table);
     EXPECT_EQ(record.小問数, c.小問数);
     EXPECT_EQ(record.complete, c.complete);
   }
@@ -77,13 +75,13 @@ TEST(RecordTest, NoDamageCrashesTheParserOrTheExpansion) {
   const unsigned seed = test::randomSeed();
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
-  const QString alphabet = QStringLiteral("||^^^000112299５ａIam '％[]{}");
+  const QString alphabet = u"||^^^000112299５ａIam '％[]{}"_s;
   for (int round = 0; round < 20'000; ++round) {
     QString text;
     for (auto length = random() % 60; length > 0; --length)
       text += alphabet[static_cast<qsizetype>(random()) % alphabet.size()];
     for (const QChar table : {u'B', u'1'}) {
-      const CurrentRecord record = ParseRecord(text, QStringLiteral("k"), table);
+      const CurrentRecord record = ParseRecord(text, u"k"_s, table);
       if (record.complete) {
         ASSERT_EQ(packRecord(record), text);
       }
@@ -107,7 +105,7 @@ TEST(RecordTest, ShowsThePronunciationNote) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    EXPECT_EQ(BuildPronunciationText(QString::fromUtf16(c.note), QStringLiteral("before")),
+    EXPECT_EQ(BuildPronunciationText(QString::fromUtf16(c.note), u"before"_s),
               QString::fromUtf16(c.shown));
   }
 }
@@ -178,7 +176,7 @@ TEST(ExpansionTest, HoldsEveryCombinationThatDoesNotOverlap) {
 }
 
 TEST(ExpansionTest, ContractionTableKnowsItsPairs) {
-  EXPECT_EQ(contractionText(182), QStringLiteral("They'd "));
+  EXPECT_EQ(contractionText(182), u"They'd "_s);
   EXPECT_EQ(contractionText(0) + contractionText(183), QString());
   EXPECT_EQ(contractionCode(u"cannot", u"can't"), 103);
   EXPECT_EQ(contractionCode(u"There has ", u"There's "), 0);
@@ -186,15 +184,15 @@ TEST(ExpansionTest, ContractionTableKnowsItsPairs) {
 }
 
 TEST(TextFileTest, ReadsUtf8AndCodePage932) {
-  const QString text = QStringLiteral("～ or so　－・①髙\r\nsecond");
+  const QString text = u"～ or so　－・①髙\r\nsecond"_s;
   QStringEncoder codePage932("Shift_JIS");
   EXPECT_EQ(decodeText(codePage932(text)), text);
   EXPECT_EQ(decodeText(text.toUtf8()), text);
   EXPECT_EQ(decodeText("\xEF\xBB\xBF" + text.toUtf8()), text);
-  EXPECT_EQ(decodeText(QByteArray("\x81\x60\x81\x7C\xA5", 5)), QStringLiteral("～－･"));
+  EXPECT_EQ(decodeText(QByteArray("\x81\x60\x81\x7C\xA5", 5)), u"～－･"_s);
   EXPECT_EQ(decodeText(QByteArray("ab\0cd", 5)), std::nullopt);
   EXPECT_EQ(decodeText(QByteArray("\xFF\xFE\xFD\x80\xA0")), std::nullopt);
-  EXPECT_EQ(splitLines(QStringLiteral("a\r\nb\n\nc\r")).join(u'|'), QStringLiteral("a|b||c"));
+  EXPECT_EQ(splitLines(u"a\r\nb\n\nc\r"_s).join(u'|'), u"a|b||c"_s);
   EXPECT_EQ(splitLines(QString()), QStringList());
 }
 
@@ -204,8 +202,8 @@ TEST(TextTest, ReadsNumbersUpToTheFirstOtherCharacter) {
   EXPECT_EQ(numberOf(u"１２"), 0) << "full-width digits are no digits";
   EXPECT_EQ(numberOf(u"-5"), -5);
   EXPECT_DOUBLE_EQ(realOf(u"0.50.7"), 0.5);
-  EXPECT_EQ(trimBlanks(u"  a b\u3000 "), QStringLiteral("a b\u3000"));
-  EXPECT_EQ(cut(u"abc", 3, 5) + cut(u"abc", 9, 2) + cut(u"abc", -1, 3), QStringLiteral("ca"));
+  EXPECT_EQ(trimBlanks(u"  a b\u3000 "), u"a b\u3000"_s);
+  EXPECT_EQ(cut(u"abc", 3, 5) + cut(u"abc", 9, 2) + cut(u"abc", -1, 3), u"ca"_s);
 }
 
 }  // namespace

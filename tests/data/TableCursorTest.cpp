@@ -4,6 +4,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -27,7 +29,7 @@ class TableCursorTest : public testing::Test {
     for (const char* key :
          {"may", "apple", "～ or so", "May", "3D", "apple pie", "Zoo", "zzz", "'em", "café",
           "@home", "in time", "in ～", "in-box", "zzzzzzzzzzzzzzzzzzzz2"})
-      store.addWord(tableJTDIC, QString::fromUtf8(key), QStringLiteral("||000意味^|"));
+      store.addWord(tableJTDIC, QString::fromUtf8(key), u"||000意味^|"_s);
   }
   TestStore store;
 };
@@ -35,9 +37,8 @@ class TableCursorTest : public testing::Test {
 TEST_F(TableCursorTest, WalksSymbolsThenDigitsThenLettersThenReservedKeys) {
   auto rows = store.database().OpenRecordset(tableJTDIC);
   QStringList expected =
-      QStringLiteral(
-          "'em,@home,～ or so,3D,apple,apple pie,café,in ～,in time,in-box,May,may,Zoo,zzz")
-          .split(u',');
+      u"'em,@home,～ or so,3D,apple,apple pie,café,in ～,in time,in-box,May,may,Zoo,zzz"_s.split(
+          u',');
   expected += {rowContentEnd, rowConditions};
   EXPECT_EQ(keysForward(*rows), expected);
   EXPECT_EQ(keysBackward(*rows), expected);
@@ -82,21 +83,21 @@ TEST_F(TableCursorTest, SeeksInKeyOrder) {
 
 TEST_F(TableCursorTest, EditsTheCurrentRowAndAddsBesideIt) {
   auto rows = store.database().OpenRecordset(tableJTDIC);
-  rows->Seek(SeekOp::Equal, QStringLiteral("apple"));
+  rows->Seek(SeekOp::Equal, u"apple"_s);
   rows->Edit();
-  rows->setValue(field記憶, QStringLiteral("2"));
+  rows->setValue(field記憶, u"2"_s);
   rows->setValue(field読上, QString());
   ASSERT_TRUE(rows->Update());
-  EXPECT_EQ(rows->text(field記憶), QStringLiteral("2"));
+  EXPECT_EQ(rows->text(field記憶), u"2"_s);
 
   rows->AddNew();
-  rows->setValue(field英語, QStringLiteral("apple juice"));
+  rows->setValue(field英語, u"apple juice"_s);
   ASSERT_TRUE(rows->Update());
-  EXPECT_EQ(rows->key(), QStringLiteral("apple"));
+  EXPECT_EQ(rows->key(), u"apple"_s);
   rows->MoveNext();
-  EXPECT_EQ(rows->key(), QStringLiteral("apple juice"));
+  EXPECT_EQ(rows->key(), u"apple juice"_s);
   EXPECT_EQ(rows->value(field読上), std::nullopt) << "a field never set is NULL";
-  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field読上), QString())
+  EXPECT_EQ(store.stored(tableJTDIC, u"apple"_s, field読上), QString())
       << "the empty text is not NULL";
   EXPECT_FALSE(rows->Update()) << "nothing was begun";
 }
@@ -106,18 +107,18 @@ TEST_F(TableCursorTest, WriteKeepsAllOrNothing) {
   const auto setMemory = [&](const QString& key) {
     rows->Seek(SeekOp::Equal, key);
     rows->Edit();
-    rows->setValue(field記憶, QStringLiteral("2"));
+    rows->setValue(field記憶, u"2"_s);
     return rows->Update();
   };
-  EXPECT_FALSE(store.database().write([&] { return setMemory(QStringLiteral("apple")) && false; }));
-  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field記憶), QStringLiteral("0"));
-  EXPECT_TRUE(store.database().write([&] { return setMemory(QStringLiteral("apple")); }));
-  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field記憶), QStringLiteral("2"));
+  EXPECT_FALSE(store.database().write([&] { return setMemory(u"apple"_s) && false; }));
+  EXPECT_EQ(store.stored(tableJTDIC, u"apple"_s, field記憶), u"0"_s);
+  EXPECT_TRUE(store.database().write([&] { return setMemory(u"apple"_s); }));
+  EXPECT_EQ(store.stored(tableJTDIC, u"apple"_s, field記憶), u"2"_s);
 }
 
 TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
   TestStore store;
-  store.addSentence(QStringLiteral("000010"), QString(200'000, u'x'));
+  store.addSentence(u"000010"_s, QString(200'000, u'x'));
   store.close();
   SystemFiles files;
   const QByteArray content = files.read(store.path()).value();
@@ -136,7 +137,7 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
                {"sound", content, openError::none}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const QString path = store.folder() + QStringLiteral("/case.mdb");
+    const QString path = store.folder() + u"/case.mdb"_s;
     if (c.content) files.write(path, *c.content);
     std::optional<Database> database;
     int errorNumber = -1;
@@ -148,12 +149,11 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
 
 TEST(OpenDatabaseTest, ListsTheSpecialistDictionariesOnly) {
   TestStore store;
-  EXPECT_EQ(specialTables(store.database()), QStringList{QStringLiteral("BusinessTOEIC")});
+  EXPECT_EQ(specialTables(store.database()), QStringList{u"BusinessTOEIC"_s});
   for (const char16_t* table : {u"MSysObjects", u"USysOwn", u"医学MSys", u"Anatomy"})
     ASSERT_TRUE(store.database().createTable(QString::fromUtf16(table)));
   EXPECT_EQ(specialTables(store.database()),
-            QStringList({QStringLiteral("BusinessTOEIC"), QStringLiteral("医学MSys"),
-                         QStringLiteral("Anatomy")}));
+            QStringList({u"BusinessTOEIC"_s, u"医学MSys"_s, u"Anatomy"_s}));
 }
 
 }  // namespace

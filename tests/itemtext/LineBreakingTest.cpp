@@ -6,6 +6,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -72,18 +74,16 @@ TEST(LineBreakingTest, RandomTextKeepsTheRules) {
   SCOPED_TRACE(testing::Message() << "seed " << seed);
   std::mt19937 random(seed);
   const QStringList pieces =
-      QStringLiteral("日本語|です|。|、|「|」|word|don't|3.14|big,|end.|(a)| |  |　|％|～|a")
-          .split(u'|');
-  static const QRegularExpression latinEnd(QStringLiteral("[A-Za-z0-9]$"));
-  static const QRegularExpression latinStart(QStringLiteral("^[A-Za-z0-9]"));
-  static const QRegularExpression closing(QStringLiteral("^[。、．，）」』.,)!?]"));
+      u"日本語|です|。|、|「|」|word|don't|3.14|big,|end.|(a)| |  |　|％|～|a"_s.split(u'|');
+  static const QRegularExpression latinEnd(u"[A-Za-z0-9]$"_s);
+  static const QRegularExpression latinStart(u"^[A-Za-z0-9]"_s);
+  static const QRegularExpression closing(u"^[。、．，）」』.,)!?]"_s);
   for (int round = 0; round < 3000; ++round) {
     QString text;
     QChar open;
     for (auto n = random() % 40; n > 0; --n) {
       // Between the two ends of a Japanese word at most two pieces can hold together.
-      text += n % 3 == 0 ? QStringLiteral("日本語")
-                         : pieces[static_cast<qsizetype>(random()) % pieces.size()];
+      text += n % 3 == 0 ? u"日本語"_s : pieces[static_cast<qsizetype>(random()) % pieces.size()];
       if (random() % 4 != 0) continue;
       const QChar opening = random() % 2 == 0 ? u'[' : u'{';
       text += open.isNull() ? opening : open == u'[' ? u']' : u'}';

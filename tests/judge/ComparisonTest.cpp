@@ -4,6 +4,8 @@
 #include "judge/Comparison.h"
 #include "tests/support/Print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -12,14 +14,14 @@ ComparisonSettings mode(int menu) {
   return comparisonChoices()[static_cast<size_t>(menu - 1)].settings;
 }
 
-CurrentRecord sentence(const QString& answer, const QString& tail = QStringLiteral("00000000")) {
-  return ParseRecord(QStringLiteral("問|000") + digits(static_cast<int>(answer.size()), 3) +
-                         answer + tail + QStringLiteral("^|"),
-                     QString(), tableOfSentences);
+CurrentRecord sentence(const QString& answer, const QString& tail = u"00000000"_s) {
+  return ParseRecord(
+      u"問|000"_s + digits(static_cast<int>(answer.size()), 3) + answer + tail + u"^|"_s, QString(),
+      tableOfSentences);
 }
 
 CurrentRecord word(const QString& 英語, const QString& synonyms = QString()) {
-  return ParseRecord(u'|' + synonyms + QStringLiteral("|000意味^|"), 英語, u'1');
+  return ParseRecord(u'|' + synonyms + u"|000意味^|"_s, 英語, u'1');
 }
 
 TEST(ComparisonTest, JudgesInAllFourModes) {
@@ -94,7 +96,7 @@ TEST(ComparisonTest, MarksTheStretchThatDiffers) {
 }
 
 TEST(ComparisonTest, TheStretchNeverLeavesWhatWasTypedToTheLeft) {
-  const QString letters = QStringLiteral("ab .-");
+  const QString letters = u"ab .-"_s;
   for (int n = 0; n < 5 * 5 * 5 * 5 * 5 * 5; ++n) {
     QString text;
     for (int rest = n, i = 0; i < 6; ++i, rest /= 5) text += letters[rest % 5];
@@ -116,15 +118,13 @@ TEST(ComparisonTest, WidensASingleBlank) {
     widenBlank(c);
     return cut(c.typedAnswer, c.NGP, c.NGP2 - c.NGP + 1);
   };
-  EXPECT_EQ(widened(QStringLiteral("ab-cd"), QStringLiteral("ab cd")), QStringLiteral("b c"));
-  EXPECT_EQ(widened(QStringLiteral("abxcd"), QStringLiteral("abycd")), QStringLiteral("y"));
+  EXPECT_EQ(widened(u"ab-cd"_s, u"ab cd"_s), u"b c"_s);
+  EXPECT_EQ(widened(u"abxcd"_s, u"abycd"_s), u"y"_s);
 }
 
 TEST(ComparisonTest, TellsRightVariantsFromToleratedOnes) {
   // "I am" may be contracted, "big" may be "large", "very " may be left out.
-  const CurrentRecord record =
-      sentence(QStringLiteral("I am a very big man."), QStringLiteral("0812010101050011315"
-                                                                      "05large"));
+  const CurrentRecord record = sentence(u"I am a very big man."_s, u"081201010105001131505large"_s);
   const struct {
     const char16_t* typed;
     Verdict verdict;
@@ -150,29 +150,26 @@ TEST(ComparisonTest, TellsRightVariantsFromToleratedOnes) {
 }
 
 TEST(ComparisonTest, AnAcceptedVariantCountsWhereAToleratedOneReadsTheSame) {
-  const CurrentRecord record =
-      sentence(QStringLiteral("I am very big."), QStringLiteral("06100101010500101"
-                                                                "1004I'm "));
-  EXPECT_TRUE(COMP(record, 1, QStringLiteral("I'm big."), mode(1)).accepted);
+  const CurrentRecord record = sentence(u"I am very big."_s, u"061001010105001011004I'm "_s);
+  EXPECT_TRUE(COMP(record, 1, u"I'm big."_s, mode(1)).accepted);
 }
 
 TEST(ComparisonTest, SynonymsOfAWordAreTolerated) {
-  const CurrentRecord record = word(QStringLiteral("big"), QStringLiteral("large^great size^"));
-  EXPECT_EQ(COMP(record, 1, QStringLiteral("BIG"), mode(3)).ANScomp, Verdict::Right);
-  const Comparison synonym = COMP(record, 1, QStringLiteral("greatsize"), mode(3));
+  const CurrentRecord record = word(u"big"_s, u"large^great size^"_s);
+  EXPECT_EQ(COMP(record, 1, u"BIG"_s, mode(3)).ANScomp, Verdict::Right);
+  const Comparison synonym = COMP(record, 1, u"greatsize"_s, mode(3));
   EXPECT_EQ(synonym.ANScomp, Verdict::Variant);
   EXPECT_FALSE(synonym.accepted);
-  EXPECT_EQ(COMP(word(QStringLiteral("Mr.")), 1, QStringLiteral("Mr"), mode(3)).ANScomp,
-            Verdict::Wrong)
+  EXPECT_EQ(COMP(word(u"Mr."_s), 1, u"Mr"_s, mode(3)).ANScomp, Verdict::Wrong)
       << "a word knows no missing mark";
-  EXPECT_EQ(COMP(record, 1, QStringLiteral("-"), mode(3)).ANScomp, Verdict::Wrong);
+  EXPECT_EQ(COMP(record, 1, u"-"_s, mode(3)).ANScomp, Verdict::Wrong);
 }
 
 TEST(ComparisonTest, TidiesWhatWasTyped) {
-  EXPECT_EQ(CleanTypedAnswer(QStringLiteral("  Yes ,  I   am　. ")), QStringLiteral("Yes, I am ."));
-  EXPECT_EQ(CleanTypedAnswer(QStringLiteral(" 　 ")), QString());
-  EXPECT_EQ(CleanTypedAnswer(QStringLiteral("a  ,b")), QStringLiteral("a,b"));
-  EXPECT_EQ(CleanTypedAnswer(QStringLiteral("〜 −")), QStringLiteral("～ －"));
+  EXPECT_EQ(CleanTypedAnswer(u"  Yes ,  I   am　. "_s), u"Yes, I am ."_s);
+  EXPECT_EQ(CleanTypedAnswer(u" 　 "_s), QString());
+  EXPECT_EQ(CleanTypedAnswer(u"a  ,b"_s), u"a,b"_s);
+  EXPECT_EQ(CleanTypedAnswer(u"〜 −"_s), u"～ －"_s);
 }
 
 TEST(ComparisonTest, ChoicesAndStoredSettingsAreTheSame) {

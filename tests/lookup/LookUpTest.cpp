@@ -10,6 +10,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -54,13 +56,12 @@ class LookUpTest : public testing::Test {
   LookUpTest() {
     for (const char16_t* key : {u"may", u"apple", u"～ or so", u"May", u"apple pie", u"café", u"3D",
                                 u"nan", u"zoo", u"zzzzzzzzzzzzzzzzzzzz2"})
-      store.addWord(tableJTDIC, QString::fromUtf16(key),
-                    test::wordRecord({QStringLiteral("意味")}));
+      store.addWord(tableJTDIC, QString::fromUtf16(key), test::wordRecord({u"意味"_s}));
   }
 
   /// The headword of a shown text; all of a text that is no entry.
   static QString headOf(const std::optional<MarkedText>& shown) {
-    return shown ? shown->text.section(QStringLiteral("　（"), 0, 0) : QStringLiteral("(nothing)");
+    return shown ? shown->text.section(u"　（"_s, 0, 0) : u"(nothing)"_s;
   }
 
   test::TestStore store;
@@ -96,8 +97,7 @@ TEST_F(LookUpTest, FindsTheEntryAtOrBehindAText) {
 }
 
 TEST_F(LookUpTest, StepsOverAllEntriesAndStaysAtBothEnds) {
-  const QStringList entries =
-      QStringLiteral("～ or so,3D,apple,apple pie,café,May,may,nan,zoo").split(u',');
+  const QStringList entries = u"～ or so,3D,apple,apple pie,café,May,may,nan,zoo"_s.split(u',');
   for (const QString& entry : entries) EXPECT_EQ(headOf(lookUp.next()), entry);
   for (int i = 0; i < 3; ++i) EXPECT_EQ(headOf(lookUp.next()), entries.last());
   for (auto i = entries.size() - 1; i-- > 0;) EXPECT_EQ(headOf(lookUp.previous()), entries[i]);
@@ -121,32 +121,32 @@ TEST_F(LookUpTest, StepsFromWhatWasFound) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     for (const bool forward : {false, true}) {
-      lookUp.find(QStringLiteral("nan"));
+      lookUp.find(u"nan"_s);
       lookUp.find(QString::fromUtf16(c.text));
       EXPECT_EQ(headOf(forward ? lookUp.next() : lookUp.previous()),
                 QString::fromUtf16(forward ? c.next : c.previous));
     }
   }
   lookUp.find(QString());
-  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("zoo"));
-  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("nan")) << "then it steps on";
+  EXPECT_EQ(headOf(lookUp.previous()), u"zoo"_s);
+  EXPECT_EQ(headOf(lookUp.previous()), u"nan"_s) << "then it steps on";
 }
 
 TEST_F(LookUpTest, StepsOnFromItsOwnEntryWhereADictionaryIsShared) {
   LookUp other(*rows);
-  lookUp.find(QStringLiteral("apple"));
-  other.find(QStringLiteral("nan"));
-  EXPECT_EQ(headOf(lookUp.next()), QStringLiteral("apple pie"));
-  EXPECT_EQ(headOf(other.previous()), QStringLiteral("may"));
-  EXPECT_EQ(headOf(lookUp.previous()), QStringLiteral("apple"));
+  lookUp.find(u"apple"_s);
+  other.find(u"nan"_s);
+  EXPECT_EQ(headOf(lookUp.next()), u"apple pie"_s);
+  EXPECT_EQ(headOf(other.previous()), u"may"_s);
+  EXPECT_EQ(headOf(lookUp.previous()), u"apple"_s);
 }
 
 TEST_F(LookUpTest, ADictionaryWithoutEntriesShowsNone) {
   const auto end = store.database().OpenRecordset(tableSTDIC);
   LookUp empty(*end);
-  EXPECT_EQ(headOf(empty.next()), QStringLiteral("(nothing)"));
-  EXPECT_EQ(headOf(empty.previous()), QStringLiteral("(nothing)"));
-  EXPECT_EQ(headOf(empty.find(QStringLiteral("[a]"))), QStringLiteral("[a]：Not found."));
+  EXPECT_EQ(headOf(empty.next()), u"(nothing)"_s);
+  EXPECT_EQ(headOf(empty.previous()), u"(nothing)"_s);
+  EXPECT_EQ(headOf(empty.find(u"[a]"_s)), u"[a]：Not found."_s);
 }
 
 TEST_F(LookUpTest, ShowsEntriesToTheLetter) {
@@ -166,22 +166,20 @@ TEST_F(LookUpTest, ShowsEntriesToTheLetter) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const QString key = QStringLiteral("test ") + QLatin1String(c.name);
+    const QString key = u"test "_s + QLatin1String(c.name);
     store.addWord(tableJTDIC, key, QString::fromUtf16(c.record), memoryうろ覚え, 3);
     const auto shown = lookUp.find(key);
     ASSERT_TRUE(shown);
-    EXPECT_EQ(shown->text,
-              key + QStringLiteral("　（ うろ覚え　00　ﾚﾍﾞﾙ 03 ）\n") + QString::fromUtf16(c.text));
+    EXPECT_EQ(shown->text, key + u"　（ うろ覚え　00　ﾚﾍﾞﾙ 03 ）\n"_s + QString::fromUtf16(c.text));
   }
-  const auto marked = lookUp.find(QStringLiteral("test marks"));
+  const auto marked = lookUp.find(u"test marks"_s);
   ASSERT_EQ(marked->spans.size(), 2U);
   EXPECT_EQ(marked->spans[0].kind, MarkedText::Span::Kind::Underlined);
   EXPECT_EQ(marked->text.mid(marked->spans[1].offset, marked->spans[1].length), u"注");
 }
 
 TEST_F(LookUpTest, SaysSoWhenTheFileCannotBeRead) {
-  for (int i = 0; i < 400; ++i)
-    store.addWord(tableSTDIC, QStringLiteral("word%1").arg(i), QString(500, u'x'));
+  for (int i = 0; i < 400; ++i) store.addWord(tableSTDIC, u"word%1"_s.arg(i), QString(500, u'x'));
   rows.reset();
   store.close();
   QFile file(store.path());
@@ -195,9 +193,9 @@ TEST_F(LookUpTest, SaysSoWhenTheFileCannotBeRead) {
   LookUp words(*damaged);
   int unread = 0;
   for (int i = 0; i < 400; ++i) {
-    const QString word = QStringLiteral("word%1").arg(i);
+    const QString word = u"word%1"_s.arg(i);
     const QString head = headOf(words.find(word));
-    EXPECT_TRUE(head == word || head.startsWith(QStringLiteral("辞書を読めませんでした。")));
+    EXPECT_TRUE(head == word || head.startsWith(u"辞書を読めませんでした。"_s));
     unread += head != word;
   }
   EXPECT_GT(unread, 0);
@@ -205,37 +203,36 @@ TEST_F(LookUpTest, SaysSoWhenTheFileCannotBeRead) {
 }
 
 TEST_F(LookUpTest, PaneShowsWhatIsTypedSteppedToAndClicked) {
-  LookUpPane pane(1, QStringLiteral("中学DB"), lookUp);
+  LookUpPane pane(1, u"中学DB"_s, lookUp);
   pane.resize(400, 300);
   pane.show();
-  auto* box = pane.findChild<QLineEdit*>(QStringLiteral("Text3(1)"));
-  auto* view = pane.findChild<WordView*>(QStringLiteral("RichTextBox3(1)"));
-  const auto head = [&] { return view->toPlainText().section(QStringLiteral("　（"), 0, 0); };
-  QTest::keyClicks(box, QStringLiteral("app"));
-  EXPECT_EQ(head(), QStringLiteral("apple"));
+  auto* box = pane.findChild<QLineEdit*>(u"Text3(1)"_s);
+  auto* view = pane.findChild<WordView*>(u"RichTextBox3(1)"_s);
+  const auto head = [&] { return view->toPlainText().section(u"　（"_s, 0, 0); };
+  QTest::keyClicks(box, u"app"_s);
+  EXPECT_EQ(head(), u"apple"_s);
   QTest::keyClick(box, Qt::Key_Down);
-  EXPECT_EQ(head(), QStringLiteral("apple pie"));
-  const auto buttons =
-      pane.findChild<QWidget*>(QStringLiteral("UpDown1(1)"))->findChildren<QToolButton*>();
+  EXPECT_EQ(head(), u"apple pie"_s);
+  const auto buttons = pane.findChild<QWidget*>(u"UpDown1(1)"_s)->findChildren<QToolButton*>();
   ASSERT_EQ(buttons.size(), 2);
   QTest::mouseClick(buttons[1], Qt::LeftButton);
-  EXPECT_EQ(head(), QStringLiteral("café"));
+  EXPECT_EQ(head(), u"café"_s);
   QTest::mouseClick(buttons[0], Qt::LeftButton);
   QTest::keyClick(box, Qt::Key_Up);
-  EXPECT_EQ(head(), QStringLiteral("apple"));
-  EXPECT_EQ(box->text(), QStringLiteral("app")) << "stepping leaves the box alone";
+  EXPECT_EQ(head(), u"apple"_s);
+  EXPECT_EQ(box->text(), u"app"_s) << "stepping leaves the box alone";
   box->clear();
-  EXPECT_EQ(head(), QStringLiteral("apple")) << "an empty box keeps the entry on show";
+  EXPECT_EQ(head(), u"apple"_s) << "an empty box keeps the entry on show";
   QTest::keyClick(box, Qt::Key_0, Qt::ShiftModifier);
   QTest::keyClick(box, '~');
-  EXPECT_EQ(box->text(), QStringLiteral("～～"));
+  EXPECT_EQ(box->text(), u"～～"_s);
   for (int i = 0; i < 2; ++i) {
-    pane.setWord(QStringLiteral("apple pie"));
-    EXPECT_EQ(head(), QStringLiteral("apple pie")) << "the same word again, too";
+    pane.setWord(u"apple pie"_s);
+    EXPECT_EQ(head(), u"apple pie"_s) << "the same word again, too";
     QTest::keyClick(box, Qt::Key_Down);
   }
 
-  pane.setWord(QStringLiteral("apple pie"));
+  pane.setWord(u"apple pie"_s);
   QSignalSpy words(&pane, &LookUpPane::wordClicked);
   const auto pointAt = [&](int position) {
     QTextCursor cursor(view->document());
@@ -248,8 +245,8 @@ TEST_F(LookUpTest, PaneShowsWhatIsTypedSteppedToAndClicked) {
   QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, pointAt(4));
   QTest::mouseClick(view->viewport(), Qt::RightButton, {}, pointAt(7));
   ASSERT_EQ(words.size(), 2);
-  EXPECT_EQ(words[0][0], QStringLiteral("pie"));
-  EXPECT_EQ(words[1][0], QStringLiteral("appl"));
+  EXPECT_EQ(words[0][0], u"pie"_s);
+  EXPECT_EQ(words[1][0], u"appl"_s);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include "tests/support/Drill.h"
 #include "tests/support/Print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -11,25 +13,25 @@ using test::Drill;
 /// "I am big." with the contraction "I'm " and the literal "huge" for "big", followed by another
 /// blank.
 QString sentenceWith(QChar code) {
-  return QStringLiteral("問|00") + code + QStringLiteral("009I am big.0000010101050010608") +
-         QStringLiteral("04huge^") + QStringLiteral("000004next00000000^|");
+  return u"問|00"_s + code + u"009I am big.0000010101050010608"_s + u"04huge^"_s +
+         u"000004next00000000^|"_s;
 }
 
 /// "big" with the synonym "large" and two meanings.
 QString wordWith(QChar code) {
-  return QStringLiteral("|large^|") + code + QStringLiteral("00大きい^000偉大な^|");
+  return u"|large^|"_s + code + u"00大きい^000偉大な^|"_s;
 }
 
 TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
-  const QString promoted = QStringLiteral("○　正解です。　『うろ覚え』にしました。");
-  const QString promotedWord = QStringLiteral("○　正解です。『うろ覚え』にしました。『 大きい 』");
-  const QString right = QStringLiteral("○　正解です。\n");
-  const QString complete = QStringLiteral("○　正解です。　『完全記憶』にしました。");
-  const QString completeVariant = QStringLiteral("◎　正解です。　『完全記憶』にしました。");
-  const QString keptUro = QStringLiteral("○　正解です。　『うろ覚えを維持』します。");
-  const QString kept = QStringLiteral("○　正解です。　『完全記憶を維持』します。");
-  const QString keptVariant = QStringLiteral("◎　正解です。　『完全記憶を維持』します。");
-  const QString fallen = QStringLiteral("『全然』に記憶状態を戻しました。");
+  const QString promoted = u"○　正解です。　『うろ覚え』にしました。"_s;
+  const QString promotedWord = u"○　正解です。『うろ覚え』にしました。『 大きい 』"_s;
+  const QString right = u"○　正解です。\n"_s;
+  const QString complete = u"○　正解です。　『完全記憶』にしました。"_s;
+  const QString completeVariant = u"◎　正解です。　『完全記憶』にしました。"_s;
+  const QString keptUro = u"○　正解です。　『うろ覚えを維持』します。"_s;
+  const QString kept = u"○　正解です。　『完全記憶を維持』します。"_s;
+  const QString keptVariant = u"◎　正解です。　『完全記憶を維持』します。"_s;
+  const QString fallen = u"『全然』に記憶状態を戻しました。"_s;
   const struct {
     char kind;  // S sentence, W word
     QChar from;
@@ -41,21 +43,21 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
       {'S', u'0', "r", u'1', promoted, true},
       {'S', u'0', "v", u'1', promoted, true},
       {'S', u'0', "wr", u'0', right, true},
-      {'S', u'0', "wv", u'0', QStringLiteral("◎　正解です。\n"), true},
+      {'S', u'0', "wv", u'0', u"◎　正解です。\n"_s, true},
       {'S', u'0', "mr", u'0', right, true},
       {'S', u'0', "qr", u'0', right, true},
       {'S', u'0', "tr", u'0', right, true},
       {'S', u'0', "1r", u'0', right, true},
       {'S', u'0', "w", u'0', QString(), false},
       {'S', u'0', "t", u'0', QString(), false},
-      {'S', u'0', "K", u'1', QStringLiteral("『うろ覚え』にしました。"), true},
+      {'S', u'0', "K", u'1', u"『うろ覚え』にしました。"_s, true},
       {'W', u'0', "r", u'1', promotedWord, true},
-      {'W', u'0', "wr", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
+      {'W', u'0', "wr", u'0', u"あと 1 回練習して下さい。"_s, false},
       {'W', u'0', "wrr", u'0', right, true},
-      {'W', u'0', "1r", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
+      {'W', u'0', "1r", u'0', u"あと 1 回練習して下さい。"_s, false},
       {'W', u'0', "t", u'0', QString(), false},
-      {'W', u'0', "tr", u'0', QStringLiteral("あと 1 回練習して下さい。"), false},
-      {'W', u'0', "K", u'1', QStringLiteral("『うろ覚え』にしました。『 大きい 』"), true},
+      {'W', u'0', "tr", u'0', u"あと 1 回練習して下さい。"_s, false},
+      {'W', u'0', "K", u'1', u"『うろ覚え』にしました。『 大きい 』"_s, true},
       {'S', u'1', "r", u'2', complete, true},
       {'S', u'1', "v", u'2', completeVariant, true},
       {'S', u'1', "wr", u'1', keptUro, true},
@@ -71,7 +73,7 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
       {'S', u'1', "tw", u'0', fallen, false},
       {'S', u'1', "wwr", u'0', right, true},
       {'S', u'1', "1r", u'2', complete, true},
-      {'S', u'1', "K", u'1', QStringLiteral("『 I am big.』：記憶状態の変化なし。"), true},
+      {'S', u'1', "K", u'1', u"『 I am big.』：記憶状態の変化なし。"_s, true},
       {'W', u'1', "r", u'2', complete, true},
       {'W', u'1', "tr", u'1', keptUro, true},
       {'W', u'1', "tt", u'1', keptUro, true},
@@ -82,7 +84,7 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
       {'S', u'2', "wt", u'2', kept, true},
       {'S', u'2', "ww", u'0', fallen, false},
       {'W', u'2', "r", u'2', kept, true},
-      {'W', u'2', "K", u'2', QStringLiteral("『 大きい』：記憶状態の変化なし。"), true},
+      {'W', u'2', "K", u'2', u"『 大きい』：記憶状態の変化なし。"_s, true},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::Message() << row.kind << row.from.toLatin1() << " " << row.keys);
@@ -100,23 +102,20 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
 }
 
 TEST(AnswerFlowTest, ADamagedRecordIsToldToKeepItsMemory) {
-  const QString kept = QStringLiteral("この項目のデータに誤りがあるため、記憶状態は変更しません。");
-  const QString right = QStringLiteral("○　正解です。\n");
+  const QString kept = u"この項目のデータに誤りがあるため、記憶状態は変更しません。"_s;
+  const QString right = u"○　正解です。\n"_s;
   const struct {
     QChar from;
     const char* keys;
     QString message;
   } rows[] = {
-      {u'0', "r", right + kept},
-      {u'0', "K", kept},
-      {u'1', "r", right + kept},
-      {u'1', "ww", kept},
-      {u'0', "r4r", right},
-      {u'2', "r", QStringLiteral("○　正解です。　『完全記憶を維持』します。")},
+      {u'0', "r", right + kept}, {u'0', "K", kept},
+      {u'1', "r", right + kept}, {u'1', "ww", kept},
+      {u'0', "r4r", right},      {u'2', "r", u"○　正解です。　『完全記憶を維持』します。"_s},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::Message() << row.from.toLatin1() << " " << row.keys);
-    const QString record = QStringLiteral("||") + row.from + QStringLiteral("5大きい^000偉大な^|");
+    const QString record = u"||"_s + row.from + u"5大きい^000偉大な^|"_s;
     Drill drill({record});
     drill.conditions.firstRepeatWord = 1;
     drill.start();
@@ -127,9 +126,8 @@ TEST(AnswerFlowTest, ADamagedRecordIsToldToKeepItsMemory) {
 }
 
 TEST(AnswerFlowTest, AMiniTestLeavesTheRepeatsToTheNextLearntBlank) {
-  const QString blanks = QStringLiteral("問題|000009I am big.000001010105001^") +
-                         QStringLiteral("001009I am big.000001010105001^") +
-                         QStringLiteral("000004next00000000^|");
+  const QString blanks = u"問題|000009I am big.000001010105001^"_s +
+                         u"001009I am big.000001010105001^"_s + u"000004next00000000^|"_s;
   for (const auto& [keys, left] :
        {std::pair("wrKr", 2), std::pair("wrKwr", 2), std::pair("wrKv", 3)}) {
     Drill drill({blanks});
@@ -142,11 +140,10 @@ TEST(AnswerFlowTest, AMiniTestLeavesTheRepeatsToTheNextLearntBlank) {
 }
 
 TEST(AnswerFlowTest, DrawsTheMarksOfAMeaningInItsMessage) {
-  Drill drill({QStringLiteral("||000{大きな}箱^|")});
+  Drill drill({u"||000{大きな}箱^|"_s});
   drill.start();
   drill.press("r");
-  EXPECT_EQ(drill.screen.message,
-            QStringLiteral("○　正解です。『うろ覚え』にしました。『 大きな箱 』"));
+  EXPECT_EQ(drill.screen.message, u"○　正解です。『うろ覚え』にしました。『 大きな箱 』"_s);
 }
 
 TEST(AnswerFlowTest, TellsWhatWasWrong) {
@@ -181,7 +178,7 @@ TEST(AnswerFlowTest, TellsWhatWasWrong) {
     EXPECT_EQ(drill.screen.answer, QString::fromUtf16(c.left));
     EXPECT_EQ(drill.screen.lookedUp, QString::fromUtf16(c.lookedUp));
     drill.press("1");
-    EXPECT_TRUE(drill.screen.fullAnswer.startsWith(QStringLiteral("正解：")));
+    EXPECT_TRUE(drill.screen.fullAnswer.startsWith(u"正解："_s));
   }
 }
 
@@ -189,39 +186,38 @@ TEST(AnswerFlowTest, AnnouncesAMiniTestAndWithholdsTheAnswer) {
   Drill drill({sentenceWith(u'1'), wordWith(u'2')});
   drill.start();
   EXPECT_EQ(drill.screen.miniTest,
-            QStringLiteral("小問Ｎｏ.1\n記憶状態（現在『うろ』）を変化させます。\n\n"
-                           "１回目で正解すれば『完全』記憶に変更、\n２回目で正解すれば不変、\n"
-                           "２回以上間違えば『全然』に変更します。"));
+            u"小問Ｎｏ.1\n記憶状態（現在『うろ』）を変化させます。\n\n"
+            u"１回目で正解すれば『完全』記憶に変更、\n２回目で正解すれば不変、\n"
+            u"２回以上間違えば『全然』に変更します。"_s);
   EXPECT_TRUE(drill.screen.disabled.contains(FunctionKey::F1));
   drill.loop->showAnswer();
   EXPECT_EQ(drill.screen.fullAnswer, QString());
-  drill.enter(QStringLiteral("wrong"));
-  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("wrong は正解ではありません。　試行数 = 1"));
+  drill.enter(u"wrong"_s);
+  EXPECT_EQ(drill.screen.fullAnswer, u"wrong は正解ではありません。　試行数 = 1"_s);
   EXPECT_EQ(drill.screen.red, QString());
   EXPECT_EQ(drill.screen.miniTest, QString()) << "the notice goes with the entry";
-  drill.enter(QStringLiteral("wrong"));
+  drill.enter(u"wrong"_s);
   EXPECT_FALSE(drill.screen.disabled.contains(FunctionKey::F1)) << "back in the learning flow";
   drill.loop->markKnown(true);
   drill.loop->markKnown(true);
   drill.enter(QString());
   EXPECT_EQ(drill.screen.miniTest,
-            QStringLiteral("小問Ｎｏ.1\n記憶状態（現在『完全』）を変化させます。\n\n"
-                           "１、２回目で正解すれば『完全』を維持、\n"
-                           "２回以上間違えば『全然』に変更します。"));
+            u"小問Ｎｏ.1\n記憶状態（現在『完全』）を変化させます。\n\n"
+            u"１、２回目で正解すれば『完全』を維持、\n２回以上間違えば『全然』に変更します。"_s);
   drill.loop->markKnown(true);
-  EXPECT_EQ(drill.screen.message, QStringLiteral("「 大きい」：記憶状態の変化なし。"));
+  EXPECT_EQ(drill.screen.message, u"「 大きい」：記憶状態の変化なし。"_s);
 }
 
 TEST(AnswerFlowTest, AnEntryOfNothingNewCostsNothing) {
-  Drill drill({QStringLiteral("問|030009He is big00000000^|"), wordWith(u'1')});
+  Drill drill({u"問|030009He is big00000000^|"_s, wordWith(u'1')});
   drill.start();
-  EXPECT_EQ(drill.screen.answer, QStringLiteral("He "));
+  EXPECT_EQ(drill.screen.answer, u"He "_s);
   for (const char16_t* typed : {u"", u"He ", u"He", u"  "}) drill.enter(QString::fromUtf16(typed));
-  drill.enter(QStringLiteral("He is big"));
+  drill.enter(u"He is big"_s);
   EXPECT_EQ(drill.stored().記(1), memoryうろ覚え);
   drill.enter(QString());
-  drill.enter(QStringLiteral(" "));
-  drill.enter(QStringLiteral("big"));
+  drill.enter(u" "_s);
+  drill.enter(u"big"_s);
   EXPECT_EQ(drill.stored(2).記(1), memory完全);
 }
 
@@ -231,16 +227,16 @@ TEST(AnswerFlowTest, ComparesAsChosenAndRemembersIt) {
   drill.start();
   EXPECT_EQ(drill.screen.comparison, 0);
   drill.loop->nextComparison();
-  drill.enter(QStringLiteral("BIG"));
-  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("BIG は正解ではありません。"));
+  drill.enter(u"BIG"_s);
+  EXPECT_EQ(drill.screen.fullAnswer, u"BIG は正解ではありません。"_s);
   EXPECT_EQ(drill.conditions.compareMode, u'1');
 }
 
 TEST(AnswerFlowTest, GuardsACodeThatIsNoState) {
   Drill drill({wordWith(u'7'), wordWith(u'0')});
   drill.start();
-  drill.enter(QStringLiteral("big"));
-  EXPECT_EQ(drill.dialogs.shown, QStringList{QStringLiteral("MiniTest 記(POS1)１=7")});
+  drill.enter(u"big"_s);
+  EXPECT_EQ(drill.dialogs.shown, QStringList{u"MiniTest 記(POS1)１=7"_s});
   EXPECT_EQ(drill.stored().記(1), u'7');
 }
 

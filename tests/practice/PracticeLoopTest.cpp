@@ -5,6 +5,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -12,14 +14,12 @@ using test::Drill;
 
 /// A sentence with the answers "one" and "two", their memory codes as given.
 QString sentence(QChar first, QChar second) {
-  return QStringLiteral("問題|00") + first + QStringLiteral("003one00000000^00") + second +
-         QStringLiteral("003two00000000^|");
+  return u"問題|00"_s + first + u"003one00000000^00"_s + second + u"003two00000000^|"_s;
 }
 
 /// The word "big" with two meanings, their memory codes as given.
 QString word(QChar first, QChar second) {
-  return QStringLiteral("||") + first + QStringLiteral("00大きい^") + second +
-         QStringLiteral("00偉大な^|");
+  return u"||"_s + first + u"00大きい^"_s + second + u"00偉大な^|"_s;
 }
 
 TEST(PracticeLoopTest, WalksThroughItemsByTheKeys) {
@@ -89,7 +89,7 @@ TEST(PracticeLoopTest, ItemsWithNothingToAskAreOnlyShown) {
   drill.conditions.memorySelect = u'0';
   drill.start();
   EXPECT_TRUE(drill.loop->確認中());
-  EXPECT_EQ(drill.screen.fullAnswer, QStringLiteral("問題\none\ntwo"));
+  EXPECT_EQ(drill.screen.fullAnswer, u"問題\none\ntwo"_s);
   drill.press("er");
   EXPECT_TRUE(drill.loop->確認中()) << "the second meaning is not asked";
   EXPECT_EQ(drill.finished(), 1);
@@ -103,8 +103,8 @@ TEST(PracticeLoopTest, ItemsWithNothingToAskAreOnlyShown) {
 }
 
 TEST(PracticeLoopTest, TheEndOfTheListWrapsToTheStartOrEndsTheRun) {
-  const QString wrap = QStringLiteral("最後まで終了しました。最初から再開しますか。");
-  const QString end = QStringLiteral("終了しますか？");
+  const QString wrap = u"最後まで終了しました。最初から再開しますか。"_s;
+  const QString end = u"終了しますか？"_s;
   const struct {
     const char* name;
     const char* keys;
@@ -140,19 +140,18 @@ TEST(PracticeLoopTest, ChangesTheLessonWhenThatIsConfirmed) {
 }
 
 TEST(PracticeLoopTest, TellsDamageOncePerRecord) {
-  Drill drill({QStringLiteral("問題[|000003one00000000^000003two00000000^|"),
-               QStringLiteral("問||"), word(u'0', u'0')});
+  Drill drill({u"問題[|000003one00000000^000003two00000000^|"_s, u"問||"_s, word(u'0', u'0')});
   drill.start();
   drill.press("rre");
-  EXPECT_EQ(drill.dialogs.shown, (QStringList{QStringLiteral("下線高輝度エラー：dispComment"),
-                                              QStringLiteral("Stop31 ﾃﾞｰﾀｴﾗｰ:000020")}));
+  EXPECT_EQ(drill.dialogs.shown,
+            (QStringList{u"下線高輝度エラー：dispComment"_s, u"Stop31 ﾃﾞｰﾀｴﾗｰ:000020"_s}));
   drill.press("444");
   EXPECT_EQ(drill.dialogs.shown.size(), 2);
 
-  Drill back({word(u'0', u'0'), QStringLiteral("問||")});
+  Drill back({word(u'0', u'0'), u"問||"_s});
   back.start();
   back.press("4");
-  EXPECT_EQ(back.dialogs.shown, QStringList{QStringLiteral("Stop321 ﾃﾞｰﾀｴﾗｰ:000020")});
+  EXPECT_EQ(back.dialogs.shown, QStringList{u"Stop321 ﾃﾞｰﾀｴﾗｰ:000020"_s});
 }
 
 TEST(PracticeLoopTest, LogsAndCountsWhatIsFinished) {
@@ -163,10 +162,8 @@ TEST(PracticeLoopTest, LogsAndCountsWhatIsFinished) {
   drill.loop->toggleLog();
   drill.press("rrerr");
   EXPECT_EQ(drill.screen.log,
-            (QStringList{QStringLiteral("-------------- 0001 -------------"),
-                         QStringLiteral("問題"), QStringLiteral("one"), QStringLiteral("two"),
-                         QStringLiteral("-------------- 0002 -------------"), QStringLiteral("big"),
-                         QStringLiteral("大きい  偉大な  ")}));
+            (QStringList{u"-------------- 0001 -------------"_s, u"問題"_s, u"one"_s, u"two"_s,
+                         u"-------------- 0002 -------------"_s, u"big"_s, u"大きい  偉大な  "_s}));
   EXPECT_EQ(drill.screen.counts.run.sentences[0], 1);
   EXPECT_EQ(drill.screen.counts.run.words[1], 1);
   drill.loop->toggleLog();
@@ -186,15 +183,15 @@ TEST(PracticeLoopTest, NotesUpToThirtyItemsForPrinting) {
     drill.loop->requestPrint();
     drill.press("3");
   }
-  EXPECT_EQ(drill.dialogs.shown.last(), QStringLiteral("印刷数の上限 30 を超えました。"));
+  EXPECT_EQ(drill.dialogs.shown.last(), u"印刷数の上限 30 を超えました。"_s);
   const std::vector<PracticeItem>& noted = drill.loop->printRequests().items();
   ASSERT_EQ(noted.size(), 30);
-  EXPECT_EQ(noted.back().itemEnglish, QStringLiteral("000300"));
+  EXPECT_EQ(noted.back().itemEnglish, u"000300"_s);
   EXPECT_EQ(noted.front().itemRecord, records.front()) << "as it was when F9 was pressed";
 }
 
 TEST(PracticeLoopTest, KeepsTheAnswersTime) {
-  Drill drill({QStringLiteral("問題|000010ten letter00000000^|"), word(u'0', u'0')});
+  Drill drill({u"問題|000010ten letter00000000^|"_s, word(u'0', u'0')});
   drill.conditions.targetWordA = 1.5;
   drill.conditions.targetWordB = 7;
   drill.start();
@@ -207,7 +204,7 @@ TEST(PracticeLoopTest, KeepsTheAnswersTime) {
   drill.pass(1);
   EXPECT_DOUBLE_EQ(drill.screen.time.used, 1.0);
   drill.pass(30);
-  EXPECT_EQ(drill.speaker.said, QStringList{QStringLiteral("Time is up.")}) << "once";
+  EXPECT_EQ(drill.speaker.said, QStringList{u"Time is up."_s}) << "once";
   for (const int sound : {1, 0}) {
     drill.press("3");
     drill.loop->chooseTimeUpSound(sound);
@@ -223,17 +220,17 @@ TEST(PracticeLoopTest, KeepsTheAnswersTime) {
 TEST(PracticeLoopTest, TakesRestFromAMinuteOn) {
   Drill drill({word(u'0', u'0'), word(u'0', u'0')});
   drill.start();
-  EXPECT_EQ(drill.screen.panels.value(4), QStringLiteral("開始時刻　09:00"));
+  EXPECT_EQ(drill.screen.panels.value(4), u"開始時刻　09:00"_s);
   for (const auto& [gap, total] : {std::pair(59, 0), std::pair(60, 60), std::pair(125, 185)}) {
     drill.clock.time = drill.clock.time.addSecs(gap);
     drill.press("w");
     EXPECT_EQ(drill.times.休憩時間, total);
   }
-  EXPECT_EQ(drill.screen.panels.value(5), QStringLiteral("休憩時間  3分"));
-  EXPECT_EQ(drill.screen.panels.value(6), QStringLiteral("経過時間  4分"));
+  EXPECT_EQ(drill.screen.panels.value(5), u"休憩時間  3分"_s);
+  EXPECT_EQ(drill.screen.panels.value(6), u"経過時間  4分"_s);
   drill.clock.time = drill.clock.time.addSecs(26);
   drill.press("w");
-  EXPECT_EQ(drill.screen.panels.value(6), QStringLiteral("経過時間  5分")) << "rounded";
+  EXPECT_EQ(drill.screen.panels.value(6), u"経過時間  5分"_s) << "rounded";
 }
 
 TEST(PracticeLoopTest, AnHourInFrontOfABoxIsRestAndTheSecondsBeforeItAreWork) {
@@ -257,8 +254,8 @@ TEST(PracticeLoopTest, AnyKeyEmptiesTheMessageAndOneOfTheFirstStopsTheVoice) {
   Drill drill({word(u'0', u'0'), word(u'1', u'1')});
   drill.conditions.firstRepeatWord = 3;
   drill.start();
-  EXPECT_EQ(drill.screen.caption, QStringLiteral("単語熟語　順に"));
-  EXPECT_EQ(drill.screen.panels.value(1), QStringLiteral("復習なし"));
+  EXPECT_EQ(drill.screen.caption, u"単語熟語　順に"_s);
+  EXPECT_EQ(drill.screen.panels.value(1), u"復習なし"_s);
   for (const char* leave : {"3", "4"}) {
     drill.press("wr");
     EXPECT_FALSE(drill.screen.message.isEmpty());

@@ -10,6 +10,8 @@
 #include "tests/support/RecordingScreen.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -22,17 +24,13 @@ class PracticeRunTest : public testing::Test {
     conditions.selMethod = u'4';
     conditions.startMode = u'1';
     course.COURSE = course中学;
-    store.addSentence(QStringLiteral("000010"),
-                      sentenceRecord(QStringLiteral("[彼]は学生％(   ) a (   )"),
-                                     {QStringLiteral("He is"), QStringLiteral("student.")}));
-    store.addSentence(QStringLiteral("000020"),
-                      sentenceRecord(QStringLiteral("二問目"), {QStringLiteral("yes")}),
-                      memoryうろ覚え);
+    store.addSentence(u"000010"_s,
+                      sentenceRecord(u"[彼]は学生％(   ) a (   )"_s, {u"He is"_s, u"student."_s}));
+    store.addSentence(u"000020"_s, sentenceRecord(u"二問目"_s, {u"yes"_s}), memoryうろ覚え);
     for (const char16_t* word : {u"apple", u"book"})
-      store.addWord(tableJTDIC, QString::fromUtf16(word),
-                    wordRecord({QStringLiteral("意味一"), QStringLiteral("意味二")}));
+      store.addWord(tableJTDIC, QString::fromUtf16(word), wordRecord({u"意味一"_s, u"意味二"_s}));
     learner.dbFileWork = store.path();
-    learner.condFileWork = store.folder() + QStringLiteral("/TavoCond000");
+    learner.condFileWork = store.folder() + u"/TavoCond000"_s;
   }
 
   void open() {
@@ -75,51 +73,47 @@ class PracticeRunTest : public testing::Test {
 
 TEST_F(PracticeRunTest, AsksBlankAfterBlankAndKeepsWhatWasLearnt) {
   open();
-  EXPECT_EQ(screen.question, QStringLiteral("彼は学生\n(   ) a (   )"));
-  EXPECT_EQ(screen.panels.value(2), QStringLiteral("位置=1／2 000010"));
+  EXPECT_EQ(screen.question, u"彼は学生\n(   ) a (   )"_s);
+  EXPECT_EQ(screen.panels.value(2), u"位置=1／2 000010"_s);
   for (const char16_t* typed : {u"she is", u" he  IS ", u"student."}) enter(typed);
-  EXPECT_EQ(screen.fullAnswer, QStringLiteral("彼は学生\n(   ) a (   )\nHe is\nstudent."));
+  EXPECT_EQ(screen.fullAnswer, u"彼は学生\n(   ) a (   )\nHe is\nstudent."_s);
   enter(u"");
-  EXPECT_EQ(screen.question, QStringLiteral("二問目"));
+  EXPECT_EQ(screen.question, u"二問目"_s);
   finish();
-  const QString key = QStringLiteral("000010");
-  EXPECT_EQ(store.stored(tableBDIC, key, field記憶), QStringLiteral("0"));
-  EXPECT_EQ(store.stored(tableBDIC, key, field回数), QStringLiteral("01"));
-  EXPECT_EQ(
-      store.stored(tableBDIC, key, field問正コ),
-      QStringLiteral("[彼]は学生％(   ) a (   )|000005He is00000000^001008student.00000000^|"));
-  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000020"), field回数), QStringLiteral("00"))
-      << "shown, not finished";
-  EXPECT_EQ(store.stored(tableBDIC, rowCourse, field記憶), QStringLiteral("0"));
+  const QString key = u"000010"_s;
+  EXPECT_EQ(store.stored(tableBDIC, key, field記憶), u"0"_s);
+  EXPECT_EQ(store.stored(tableBDIC, key, field回数), u"01"_s);
+  EXPECT_EQ(store.stored(tableBDIC, key, field問正コ),
+            u"[彼]は学生％(   ) a (   )|000005He is00000000^001008student.00000000^|"_s);
+  EXPECT_EQ(store.stored(tableBDIC, u"000020"_s, field回数), u"00"_s) << "shown, not finished";
+  EXPECT_EQ(store.stored(tableBDIC, rowCourse, field記憶), u"0"_s);
   const PracticeConditions stored = decodeConditions(
       store.stored(tableJTDIC, rowConditions, field発同日コ).value_or(QString()), QString());
-  EXPECT_EQ(stored.firstEnglish, QStringLiteral("000010･"));
-  EXPECT_EQ(stored.lastEnglish, QStringLiteral("000020･"));
+  EXPECT_EQ(stored.firstEnglish, u"000010･"_s);
+  EXPECT_EQ(stored.lastEnglish, u"000020･"_s);
   EXPECT_TRUE(files.exists(learner.condFileWork));
 }
 
 TEST_F(PracticeRunTest, CountsEachMeaningOfAWord) {
   conditions.selMethod = u'2';
   open();
-  EXPECT_EQ(screen.source, QStringLiteral("問題　中学DB"));
+  EXPECT_EQ(screen.source, u"問題　中学DB"_s);
   enter(u"apple");
   enter(u"Apple");
   finish();
-  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("apple"), field発同日コ),
-            QStringLiteral("||101意味一^001意味二^|"));
-  EXPECT_EQ(store.stored(tableJTDIC, QStringLiteral("book"), field発同日コ),
-            QStringLiteral("||000意味一^000意味二^|"));
+  EXPECT_EQ(store.stored(tableJTDIC, u"apple"_s, field発同日コ), u"||101意味一^001意味二^|"_s);
+  EXPECT_EQ(store.stored(tableJTDIC, u"book"_s, field発同日コ), u"||000意味一^000意味二^|"_s);
 }
 
 TEST_F(PracticeRunTest, KeepsTheTimeUpSoundAndLooksWordsUp) {
   open();
   EXPECT_EQ(screen.timeUpSound, 2);
   ASSERT_EQ(run->dictionaries().size(), 2U);
-  EXPECT_EQ(run->dictionaries()[0].heading, QStringLiteral("中学DB"));
-  EXPECT_TRUE(run->dictionaries()[0].lookUp.find(QStringLiteral("app"))->text.startsWith(u"apple"));
+  EXPECT_EQ(run->dictionaries()[0].heading, u"中学DB"_s);
+  EXPECT_TRUE(run->dictionaries()[0].lookUp.find(u"app"_s)->text.startsWith(u"apple"));
   run->loop().chooseTimeUpSound(0);
   finish();
-  EXPECT_EQ(store.stored(tableBDIC, rowAutoPlay, field問正コ), QStringLiteral("00100050020000"));
+  EXPECT_EQ(store.stored(tableBDIC, rowAutoPlay, field問正コ), u"00100050020000"_s);
   open();
   EXPECT_EQ(screen.timeUpSound, 0);
 }
@@ -147,11 +141,11 @@ TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {
   EXPECT_TRUE(run->loop().確認中()) << "refused";
   run->loop().reshuffle();
   EXPECT_EQ(random.reseeded, 2);
-  EXPECT_EQ(screen.panels.value(8), QStringLiteral("順不同出題"));
+  EXPECT_EQ(screen.panels.value(8), u"順不同出題"_s);
   EXPECT_FALSE(screen.awaited);
   EXPECT_EQ(run->loop().POS(), 1);
   finish();
-  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field回数), QStringLiteral("01"))
+  EXPECT_EQ(store.stored(tableBDIC, u"000010"_s, field回数), u"01"_s)
       << "what was learnt moved along";
 }
 
@@ -163,18 +157,18 @@ TEST_F(PracticeRunTest, NeedsTwoItems) {
   ASSERT_TRUE(aborted.openTables());
   EXPECT_FALSE(aborted.open(screen, review, progress, startKeyFirst));
   EXPECT_EQ(dialogs.shown.last(),
-            QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));
+            u"条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"_s);
   EXPECT_FALSE(aborted.close());
 }
 
 TEST_F(PracticeRunTest, NeverRewritesADamagedRecord) {
-  const QString damaged = QStringLiteral("問|000099He is^|コ");
-  store.addSentence(QStringLiteral("000001"), damaged);
+  const QString damaged = u"問|000099He is^|コ"_s;
+  store.addSentence(u"000001"_s, damaged);
   open();
   enter(u"He is^");
   enter(u"He is");
   finish();
-  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000001"), field問正コ), damaged);
+  EXPECT_EQ(store.stored(tableBDIC, u"000001"_s, field問正コ), damaged);
 }
 
 TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
@@ -197,22 +191,20 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
   EXPECT_TRUE(paper.printed.pieces.empty()) << "printed is what was stored";
   run.reset();
   store.open();
-  EXPECT_EQ(store.stored(tableBDIC, QStringLiteral("000010"), field記憶), QStringLiteral("0"));
+  EXPECT_EQ(store.stored(tableBDIC, u"000010"_s, field記憶), u"0"_s);
 }
 
 TEST(QuestionTextTest, StartsTheAnswerBox) {
   const auto start = [](const QString& 問題文) {
-    return answerStart(ParseRecord(QStringLiteral("%1|030008He is an00000000^|").arg(問題文),
-                                   QString(), tableOfSentences),
-                       1);
+    return answerStart(
+        ParseRecord(u"%1|030008He is an00000000^|"_s.arg(問題文), QString(), tableOfSentences), 1);
   };
-  const QString ask = QStringLiteral("次の英文に誤りがあれば訂正しなさい");
-  EXPECT_EQ(start(QStringLiteral("彼は")), QStringLiteral("He "));
-  EXPECT_EQ(start(ask + QStringLiteral("。％注意％％He [are] a boy.")),
-            QStringLiteral("He are a boy."));
-  EXPECT_EQ(start(ask + QStringLiteral("。％{He} are.")), QStringLiteral("He are."));
-  EXPECT_EQ(start(ask), QStringLiteral("しなさい")) << "without a break, from position 14";
-  EXPECT_EQ(start(ask + QStringLiteral("％％")), QString());
+  const QString ask = u"次の英文に誤りがあれば訂正しなさい"_s;
+  EXPECT_EQ(start(u"彼は"_s), u"He "_s);
+  EXPECT_EQ(start(ask + u"。％注意％％He [are] a boy."_s), u"He are a boy."_s);
+  EXPECT_EQ(start(ask + u"。％{He} are."_s), u"He are."_s);
+  EXPECT_EQ(start(ask), u"しなさい"_s) << "without a break, from position 14";
+  EXPECT_EQ(start(ask + u"％％"_s), QString());
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -18,7 +20,7 @@ class PracticeSetLoaderTest : public testing::Test {
  protected:
   PracticeSetLoaderTest() {
     conditions.lessonFolder = store.folder();
-    conditions.lessonFile = QStringLiteral("lesson.tav");
+    conditions.lessonFile = u"lesson.tav"_s;
     conditions.memorySelect = u'5';
   }
 
@@ -59,33 +61,28 @@ class PracticeSetLoaderTest : public testing::Test {
 };
 
 TEST_F(PracticeSetLoaderTest, LooksWordsUpInTheCoursesOrderAndByTheirExactSpelling) {
-  store.addWord(tableSTDIC, QStringLiteral("polish"), wordRecord({QStringLiteral("磨く")}));
-  store.addWord(tableSTDIC, QStringLiteral("Polish"), wordRecord({QStringLiteral("ポーランドの")}));
-  store.addWord(tableSTDIC, QStringLiteral("MAY"), wordRecord({QStringLiteral("大文字")}));
-  store.addWord(tableJTDIC, QStringLiteral("may"), wordRecord({QStringLiteral("してもよい")}));
-  store.addWord(tableJTDIC, QStringLiteral("polish"), wordRecord({QStringLiteral("中学の磨く")}));
-  store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("asset"),
-                wordRecord({QStringLiteral("資産")}));
-  store.addSentence(QStringLiteral("000010"),
-                    test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  store.addWord(tableSTDIC, u"polish"_s, wordRecord({u"磨く"_s}));
+  store.addWord(tableSTDIC, u"Polish"_s, wordRecord({u"ポーランドの"_s}));
+  store.addWord(tableSTDIC, u"MAY"_s, wordRecord({u"大文字"_s}));
+  store.addWord(tableJTDIC, u"may"_s, wordRecord({u"してもよい"_s}));
+  store.addWord(tableJTDIC, u"polish"_s, wordRecord({u"中学の磨く"_s}));
+  store.addWord(u"BusinessTOEIC"_s, u"asset"_s, wordRecord({u"資産"_s}));
+  store.addSentence(u"000010"_s, test::sentenceRecord(u"問"_s, {u"is"_s}));
   writeLesson(
       "* comment\r\n! skipped\r\npolish\r\n  Polish \r\nmay\r\nasset\r\n\r\n000010\xA5 head\r\n"
       "000020\xA5\r\nzzzzz0\xA5\r\nzzzzzzzzzzzzzzzzzzzz1\r\n000010\r\n");
   conditions.selMethod = u'0';
-  EXPECT_EQ(keysOf(load()), (QStringList{QStringLiteral("1polish"), QStringLiteral("1Polish"),
-                                         QStringLiteral("2may"), QStringLiteral("B000010")}));
-  course = {course専門, QStringLiteral("BusinessTOEIC")};
-  EXPECT_EQ(keysOf(load()), (QStringList{QStringLiteral("2polish"), QStringLiteral("2Polish"),
-                                         QStringLiteral("3may"), QStringLiteral("1asset"),
-                                         QStringLiteral("B000010")}));
+  EXPECT_EQ(keysOf(load()), (QStringList{u"1polish"_s, u"1Polish"_s, u"2may"_s, u"B000010"_s}));
+  course = {course専門, u"BusinessTOEIC"_s};
+  EXPECT_EQ(keysOf(load()),
+            (QStringList{u"2polish"_s, u"2Polish"_s, u"3may"_s, u"1asset"_s, u"B000010"_s}));
 }
 
 TEST_F(PracticeSetLoaderTest, WhatALessonNamesTwiceIsOneItem) {
   for (const char16_t* key : {u"000010", u"000020"})
-    store.addSentence(QString::fromUtf16(key),
-                      test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
-  store.addWord(tableSTDIC, QStringLiteral("May"), wordRecord({QStringLiteral("五月")}));
-  store.addWord(tableSTDIC, QStringLiteral("may"), wordRecord({QStringLiteral("してもよい")}));
+    store.addSentence(QString::fromUtf16(key), test::sentenceRecord(u"問"_s, {u"is"_s}));
+  store.addWord(tableSTDIC, u"May"_s, wordRecord({u"五月"_s}));
+  store.addWord(tableSTDIC, u"may"_s, wordRecord({u"してもよい"_s}));
   writeLesson("May\n000010\xA5 a\nmay\n000020\xA5\n000010\xA5 b\nMay\n");
   conditions.selMethod = u'0';
   PracticeSet set = load();
@@ -102,10 +99,9 @@ TEST_F(PracticeSetLoaderTest, WhatALessonNamesTwiceIsOneItem) {
 
 TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
   for (const char16_t* word : {u"a1", u"a2", u"a3", u"a4"})
-    store.addWord(tableSTDIC, QString::fromUtf16(word), wordRecord({QStringLiteral("意味")}),
+    store.addWord(tableSTDIC, QString::fromUtf16(word), wordRecord({u"意味"_s}),
                   QString::fromUtf16(word) == u"a3" ? memory完全 : memory全然);
-  store.addSentence(QStringLiteral("000010"),
-                    test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
+  store.addSentence(u"000010"_s, test::sentenceRecord(u"問"_s, {u"is"_s}));
   writeLesson("*a2\na1\na2\na3\n000010\xA5\na4\n");
   conditions.selMethod = u'0';
   conditions.memorySelect = u'1';
@@ -128,23 +124,19 @@ TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
 
 TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
   for (int i = 0; i < 30; ++i)
-    store.addWord(tableSTDIC, QStringLiteral("w") + digits(i, 2),
-                  wordRecord({QStringLiteral("意味")}), i % 10 == 0 ? memory全然 : memory完全,
-                  i % 20);
-  store.addWord(tableSTDIC, QStringLiteral("～ or so"), wordRecord({QStringLiteral("～かそこら")}));
+    store.addWord(tableSTDIC, u"w"_s + digits(i, 2), wordRecord({u"意味"_s}),
+                  i % 10 == 0 ? memory全然 : memory完全, i % 20);
+  store.addWord(tableSTDIC, u"～ or so"_s, wordRecord({u"～かそこら"_s}));
   conditions.memorySelect = u'0';
   conditions.maxLoadWords = 22;
   const PracticeSet set = load();
-  EXPECT_EQ(keysOf(set), (QStringList{QStringLiteral("1～ or so"), QStringLiteral("1w00"),
-                                      QStringLiteral("1w10"), QStringLiteral("1w20")}));
-  EXPECT_EQ(dialogs.shown.last(),
-            QStringLiteral("最大読込数 22 のうち 4が練習条件を満足しました。"));
-  EXPECT_EQ(keysOf(load(QStringLiteral("w10"))),
-            (QStringList{QStringLiteral("1w10"), QStringLiteral("1w20")}));
-  conditions.levelFrom = QStringLiteral("10");
-  EXPECT_EQ(keysOf(load()), QStringList{QStringLiteral("1w10")});
+  EXPECT_EQ(keysOf(set), (QStringList{u"1～ or so"_s, u"1w00"_s, u"1w10"_s, u"1w20"_s}));
+  EXPECT_EQ(dialogs.shown.last(), u"最大読込数 22 のうち 4が練習条件を満足しました。"_s);
+  EXPECT_EQ(keysOf(load(u"w10"_s)), (QStringList{u"1w10"_s, u"1w20"_s}));
+  conditions.levelFrom = u"10"_s;
+  EXPECT_EQ(keysOf(load()), QStringList{u"1w10"_s});
   conditions.maxLoadWords = 5000;
-  conditions.levelFrom = QStringLiteral("00");
+  conditions.levelFrom = u"00"_s;
   EXPECT_EQ(load().itemCount(), 4) << "the walk ends at the reserved rows";
   EXPECT_EQ(progress.total, 5000);
   EXPECT_TRUE(progress.ended);
@@ -152,11 +144,10 @@ TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
 
 TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
   for (const char16_t* key : {u"000010", u"499990", u"500010", u"899990", u"900010", u"A00010"})
-    store.addSentence(QString::fromUtf16(key),
-                      test::sentenceRecord(QStringLiteral("問"), {QStringLiteral("is")}));
-  store.addSentence(rowPassword, QStringLiteral("secret"));
+    store.addSentence(QString::fromUtf16(key), test::sentenceRecord(u"問"_s, {u"is"_s}));
+  store.addSentence(rowPassword, u"secret"_s);
   conditions.selMethod = u'4';
-  conditions.levelTo = QStringLiteral("99");
+  conditions.levelTo = u"99"_s;
   const struct {
     QChar course;
     const char16_t* start;
@@ -167,7 +158,7 @@ TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
                {course高校, u"apple", u"B500010 B899990"},
                {course専門, u"000000", u"B900010 BA00010"}};
   for (const auto& c : cases) {
-    course = {c.course, QStringLiteral("BusinessTOEIC")};
+    course = {c.course, u"BusinessTOEIC"_s};
     EXPECT_EQ(keysOf(load(QString::fromUtf16(c.start))).join(u' '), QString::fromUtf16(c.expected));
   }
   EXPECT_TRUE(dialogs.shown.isEmpty());
@@ -176,7 +167,7 @@ TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
 TEST_F(PracticeSetLoaderTest, StopsWhenTheLearnerCancels) {
   QByteArray lesson;
   for (int i = 0; i < 30'000; ++i) lesson += "word\n";
-  store.addWord(tableSTDIC, QStringLiteral("word"), wordRecord({QStringLiteral("語")}));
+  store.addWord(tableSTDIC, u"word"_s, wordRecord({u"語"_s}));
   writeLesson(lesson);
   conditions.selMethod = u'0';
   progress.stopAt = 2001;

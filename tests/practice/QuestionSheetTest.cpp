@@ -7,6 +7,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -25,16 +27,15 @@ PracticeItem wordItem(const QString& key, const QString& record) {
 }
 
 PracticeItem numbered(int number, int commentLines = 0) {
-  return sentenceItem(
-      digits(number, 6),
-      test::sentenceRecord(QStringLiteral("問い%1番").arg(number), {QStringLiteral("yes")}) +
-          QString(QStringLiteral("行％")).repeated(commentLines));
+  return sentenceItem(digits(number, 6),
+                      test::sentenceRecord(u"問い%1番"_s.arg(number), {u"yes"_s}) +
+                          QString(u"行％"_s).repeated(commentLines));
 }
 
 class QuestionSheetTest : public testing::Test {
  protected:
   void draw(const std::vector<PracticeItem>& items) {
-    const QuestionSheet sheet(items, QStringLiteral("000"), clock.now());
+    const QuestionSheet sheet(items, u"000"_s, clock.now());
     unpaired = sheet.unpaired();
     sheet.draw(pages);
   }
@@ -43,9 +44,7 @@ class QuestionSheetTest : public testing::Test {
     QMap<double, QString> byHeight;
     for (const auto& piece : pages.pieces) {
       if (piece.page != page) continue;
-      const QString mark = piece.font.underline ? QStringLiteral("_")
-                           : piece.font.bold    ? QStringLiteral("*")
-                                                : QString();
+      const QString mark = piece.font.underline ? u"_"_s : piece.font.bold ? u"*"_s : QString();
       byHeight[piece.y] += mark + piece.text + mark;
       if (piece.x < 1000) byHeight[piece.y] += u'|';
     }
@@ -58,28 +57,23 @@ class QuestionSheetTest : public testing::Test {
 };
 
 TEST_F(QuestionSheetTest, PrintsSentencesAndWordsWithTheirLabels) {
-  draw(
-      {sentenceItem(QStringLiteral("000010"),
-                    QStringLiteral("[彼]は％大きい。|030012I am so big.06080000^001003two00000000^|"
-                                   "{強調}の説明")),
-       wordItem(QStringLiteral("big"), QStringLiteral("発bi′g|large^|103大きい^000偉大な^|"))});
-  EXPECT_EQ(
-      lines(1),
-      (QStringList{
-          QStringLiteral(" UID= 000 2026/04/01  09:00:00|ページ 1"), QStringLiteral("問題|_彼_は"),
-          QStringLiteral("大きい。"), QStringLiteral("正解|I am (so )big."), QStringLiteral("two"),
-          QStringLiteral("ｺﾒﾝﾄ|*強調*の説明"), QStringLiteral("問題|大きい　3回　うろ覚え"),
-          QStringLiteral("偉大な　0回　全然"), QStringLiteral("正解|big  *発音注意*［ b*i*g ］")}));
+  draw({sentenceItem(
+            u"000010"_s,
+            u"[彼]は％大きい。|030012I am so big.06080000^001003two00000000^|{強調}の説明"_s),
+        wordItem(u"big"_s, u"発bi′g|large^|103大きい^000偉大な^|"_s)});
+  EXPECT_EQ(lines(1), (QStringList{u" UID= 000 2026/04/01  09:00:00|ページ 1"_s, u"問題|_彼_は"_s,
+                                   u"大きい。"_s, u"正解|I am (so )big."_s, u"two"_s,
+                                   u"ｺﾒﾝﾄ|*強調*の説明"_s, u"問題|大きい　3回　うろ覚え"_s,
+                                   u"偉大な　0回　全然"_s, u"正解|big  *発音注意*［ b*i*g ］"_s}));
   EXPECT_EQ(pages.rules, 2) << "under the head and between the items";
   EXPECT_FALSE(unpaired);
-  draw({sentenceItem(QStringLiteral("000010"), QStringLiteral("問[題|000001a00000000^|"))});
+  draw({sentenceItem(u"000010"_s, u"問[題|000001a00000000^|"_s)});
   EXPECT_TRUE(unpaired);
 }
 
 TEST_F(QuestionSheetTest, BreaksLongLinesBesideTheLabelColumn) {
-  draw({sentenceItem(QStringLiteral("000010"),
-                     test::sentenceRecord(QStringLiteral("長い問題。").repeated(30),
-                                          {QStringLiteral("word ").repeated(60) + u'.'}))});
+  draw({sentenceItem(u"000010"_s, test::sentenceRecord(u"長い問題。"_s.repeated(30),
+                                                       {u"word "_s.repeated(60) + u'.'}))});
   for (const auto& piece : pages.pieces) {
     const QString seen = piece.text.trimmed();
     EXPECT_LE(piece.x + pages.textWidth(seen), 11906 - 850.5 + 1) << qPrintable(piece.text);
@@ -92,11 +86,11 @@ TEST_F(QuestionSheetTest, AnItemThatWouldPassThePageBeginsTheNextOneUnlessItIsLo
   draw({numbered(1, 30), numbered(2, 30), numbered(3, 200), numbered(4)});
   EXPECT_EQ(pages.pages, 6);
   for (int page = 1; page <= 6; ++page)
-    EXPECT_TRUE(lines(page).first().endsWith(QStringLiteral("ページ %1").arg(page)));
-  EXPECT_TRUE(lines(1).last().startsWith(QStringLiteral("####")));
-  EXPECT_FALSE(lines(1).join(u' ').contains(QStringLiteral("問い2番")));
-  EXPECT_EQ(lines(2)[1], QStringLiteral("問題|問い2番"));
-  EXPECT_TRUE(lines(6).contains(QStringLiteral("問題|問い4番")));
+    EXPECT_TRUE(lines(page).first().endsWith(u"ページ %1"_s.arg(page)));
+  EXPECT_TRUE(lines(1).last().startsWith(u"####"_s));
+  EXPECT_FALSE(lines(1).join(u' ').contains(u"問い2番"_s));
+  EXPECT_EQ(lines(2)[1], u"問題|問い2番"_s);
+  EXPECT_TRUE(lines(6).contains(u"問題|問い4番"_s));
   const auto last = std::ranges::max_element(
       pages.pieces, {}, [](const test::RecordingPages::Piece& piece) { return piece.y; });
   EXPECT_LE(last->y + 210, 850.5 + 15138.9);
@@ -104,8 +98,8 @@ TEST_F(QuestionSheetTest, AnItemThatWouldPassThePageBeginsTheNextOneUnlessItIsLo
 
 TEST_F(QuestionSheetTest, WhatNoPrinterTakesBecomesAFile) {
   LearnerFiles learner;
-  learner.userId = QStringLiteral("000");
-  learner.dbFileWork = QStringLiteral("/data/TavoDB000.mdb");
+  learner.userId = u"000"_s;
+  learner.dbFileWork = u"/data/TavoDB000.mdb"_s;
   const struct {
     const char* name;
     bool prints, writes;

@@ -5,15 +5,17 @@
 #include "tests/support/Drill.h"
 #include "tests/support/Print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
 /// A sentence whose first answer has "so " to leave out, the contraction "I'm " and the literal
 /// "huge" for "big"; a plain second blank follows.
 const QString sentence =
-    QStringLiteral("問[題]|000012I am so big.060801010105001091104huge^000003two00000000^|説明");
+    u"問[題]|000012I am so big.060801010105001091104huge^000003two00000000^|説明"_s;
 /// The word "big" with a synonym and two meanings.
-const QString word = QStringLiteral("|large^|000大きい^100偉大な^|");
+const QString word = u"|large^|000大きい^100偉大な^|"_s;
 
 class ReviewDrillTest : public testing::Test {
  protected:
@@ -36,8 +38,7 @@ class ReviewDrillTest : public testing::Test {
         review.nextReviewItem();
       else
         review.enter(test::typedBy(
-            *keys, record.sentence ? record.text(review.reviewPOS1()) : QStringLiteral("big"),
-            record.sentence));
+            *keys, record.sentence ? record.text(review.reviewPOS1()) : u"big"_s, record.sentence));
     }
   }
 
@@ -140,14 +141,14 @@ TEST_F(ReviewDrillTest, JudgesByTheTable) {
 
 TEST_F(ReviewDrillTest, ColoursWhatIsWrongAndLooksWordsUp) {
   start({word, sentence});
-  EXPECT_EQ(screen.question, QStringLiteral("大きい\n偉大な")) << "all meanings at once";
-  review.enter(QStringLiteral("bug"));
-  EXPECT_EQ(screen.red, QStringLiteral("u"));
-  EXPECT_EQ(screen.lookedUp, QStringLiteral("bug"));
+  EXPECT_EQ(screen.question, u"大きい\n偉大な"_s) << "all meanings at once";
+  review.enter(u"bug"_s);
+  EXPECT_EQ(screen.red, u"u"_s);
+  EXPECT_EQ(screen.lookedUp, u"bug"_s);
   press("req");
-  EXPECT_EQ(screen.question, QStringLiteral("問題"));
-  EXPECT_EQ(screen.red, QStringLiteral("?"));
-  EXPECT_EQ(screen.lookedUp, QStringLiteral("bug")) << "sentences are not looked up";
+  EXPECT_EQ(screen.question, u"問題"_s);
+  EXPECT_EQ(screen.red, u"?"_s);
+  EXPECT_EQ(screen.lookedUp, u"bug"_s) << "sentences are not looked up";
 }
 
 TEST_F(ReviewDrillTest, TheNextItemForgetsWhatTheLastOneOwed) {
@@ -168,33 +169,32 @@ TEST_F(ReviewDrillTest, TheNextItemForgetsWhatTheLastOneOwed) {
 }
 
 TEST_F(ReviewDrillTest, GivesAndKeepsTheStartOfAnAnswer) {
-  start({QStringLiteral("問|030009He is big00000000^|"),
-         QStringLiteral("次の英文に誤りがあれば訂正しなさい。％％He [am] big.|000010He is big."
-                        "00000000^|")});
-  EXPECT_EQ(screen.answer, QStringLiteral("He "));
+  start({u"問|030009He is big00000000^|"_s,
+         u"次の英文に誤りがあれば訂正しなさい。％％He [am] big.|000010He is big.00000000^|"_s});
+  EXPECT_EQ(screen.answer, u"He "_s);
   for (const char16_t* typed : {u"", u"He ", u"He", u"  "}) review.enter(QString::fromUtf16(typed));
   press("w");
-  EXPECT_EQ(screen.answer, QStringLiteral("He "));
+  EXPECT_EQ(screen.answer, u"He "_s);
   EXPECT_FALSE(review.nextDue()) << "entries of nothing new cost nothing";
   press("re");
   EXPECT_TRUE(review.correcting());
-  EXPECT_EQ(screen.answer, QStringLiteral("He am big."));
+  EXPECT_EQ(screen.answer, u"He am big."_s);
   press("w");
-  EXPECT_EQ(screen.answer, QStringLiteral("He am big."));
+  EXPECT_EQ(screen.answer, u"He am big."_s);
 }
 
 TEST_F(ReviewDrillTest, SpeaksTheAnswerAndIsSilencedByTheFirstKey) {
-  start({word, QStringLiteral("問|000019am not = am no more00000000^|")});
+  start({word, u"問|000019am not = am no more00000000^|"_s});
   press("1r");
-  EXPECT_EQ(speaker.said, QStringList(2, QStringLiteral("big")));
+  EXPECT_EQ(speaker.said, QStringList(2, u"big"_s));
   EXPECT_EQ(speaker.stopped, 1);
   press("re");
   review.keyPressed();
   review.keyPressed();
   EXPECT_EQ(speaker.stopped, 2) << "once for each item";
   press("1");
-  EXPECT_EQ(speaker.said.last(), QStringLiteral("am no more")) << "what stands behind the =";
-  EXPECT_EQ(screen.message, QStringLiteral("am not = am no more"));
+  EXPECT_EQ(speaker.said.last(), u"am no more"_s) << "what stands behind the =";
+  EXPECT_EQ(screen.message, u"am not = am no more"_s);
   review.keyPressed();
   EXPECT_EQ(screen.message, QString());
 }
@@ -207,8 +207,7 @@ TEST_F(ReviewDrillTest, TimesSentencesAsWords) {
     review.tick();
   };
   pass(16);
-  EXPECT_EQ(speaker.said, QStringList{QStringLiteral("Time is up.")})
-      << "12 characters, 16 seconds";
+  EXPECT_EQ(speaker.said, QStringList{u"Time is up."_s}) << "12 characters, 16 seconds";
   press("r");
   pass(60);
   press("r");

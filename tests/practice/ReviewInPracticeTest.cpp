@@ -4,6 +4,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -11,10 +13,9 @@ using test::Drill;
 
 /// The word "big" with one meaning, or every third time a sentence with one answer.
 QString item(int number, QChar code) {
-  const QString asked = QStringLiteral("意味%1").arg(number);
-  return number % 3 == 0
-             ? asked + QStringLiteral("|00") + code + QStringLiteral("003big00000000^|")
-             : QStringLiteral("||") + code + QStringLiteral("00") + asked + QStringLiteral("^|");
+  const QString asked = u"意味%1"_s.arg(number);
+  return number % 3 == 0 ? asked + u"|00"_s + code + u"003big00000000^|"_s
+                         : u"||"_s + code + u"00"_s + asked + u"^|"_s;
 }
 
 class ReviewInPracticeTest : public testing::Test {
@@ -36,7 +37,7 @@ class ReviewInPracticeTest : public testing::Test {
     ReviewDrill& review = drill->loop->review();
     while (review.復習中()) {
       items.push_back(review.reviewPOS());
-      review.enter(QStringLiteral("big"));
+      review.enter(u"big"_s);
       review.enter(QString());
     }
     return items;
@@ -53,12 +54,12 @@ TEST_F(ReviewInPracticeTest, ComesAfterTheItemThatEndsACycleAndHandsBack) {
   EXPECT_FALSE(drill->loop->復習中()) << "not before the full answer was seen";
   drill->press("e");
   EXPECT_TRUE(drill->review.shown);
-  EXPECT_EQ(drill->review.heading, QStringLiteral("高校"));
-  EXPECT_EQ(drill->review.question, QStringLiteral("意味1"));
+  EXPECT_EQ(drill->review.heading, u"高校"_s);
+  EXPECT_EQ(drill->review.question, u"意味1"_s);
   EXPECT_FALSE(drill->loop->clockRunning());
   EXPECT_EQ(reviewed(), (std::vector<int>{1, 2, 3}));
   EXPECT_FALSE(drill->review.shown);
-  EXPECT_EQ(drill->screen.question, QStringLiteral("意味7"));
+  EXPECT_EQ(drill->screen.question, u"意味7"_s);
   EXPECT_TRUE(drill->loop->clockRunning());
   drill->press("r");
   EXPECT_EQ(drill->stored(7).記(1), memoryうろ覚え) << "asked once, so the first try counts";

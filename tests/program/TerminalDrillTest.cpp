@@ -9,6 +9,8 @@
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 // Runs the program itself in the terminal, from login to the stored results.
 namespace tavoli {
 namespace {
@@ -24,24 +26,19 @@ class TerminalDrillTest : public testing::Test {
   TerminalDrillTest() {
     for (int i = 1; i <= 6; ++i)
       store.addSentence(digits(i * 10, 6),
-                        test::sentenceRecord(QStringLiteral("問題{%1}").arg(i),
-                                             {QStringLiteral("answer %1").arg(i)}));
+                        test::sentenceRecord(u"問題{%1}"_s.arg(i), {u"answer %1"_s.arg(i)}));
     store.close();
-    const QString data = folder.filePath(QStringLiteral("TavoliPersonalData"));
+    const QString data = folder.filePath(u"TavoliPersonalData"_s);
     QDir().mkpath(data);
     QFile::copy(store.path(), database());
   }
 
-  QString database() const {
-    return folder.filePath(QStringLiteral("TavoliPersonalData/TavoDB000.mdb"));
-  }
+  QString database() const { return folder.filePath(u"TavoliPersonalData/TavoDB000.mdb"_s); }
 
   Outcome run(const QStringList& arguments, const char* input) const {
     QProcess program;
-    program.start(
-        QStringLiteral(TAVOLI_PROGRAM),
-        QStringList{QStringLiteral("--terminal"), QStringLiteral("--app-folder"), folder.path()} +
-            arguments);
+    program.start(QStringLiteral(TAVOLI_PROGRAM),
+                  QStringList{u"--terminal"_s, u"--app-folder"_s, folder.path()} + arguments);
     program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished());
@@ -51,8 +48,8 @@ class TerminalDrillTest : public testing::Test {
 
   /// The arguments that set conditions, `NAME=VALUE` each with a blank between.
   static QStringList settings(const QString& values) {
-    QStringList arguments = {QStringLiteral("--user"), QStringLiteral("000")};
-    for (const QString& value : values.split(u' ')) arguments += {QStringLiteral("--set"), value};
+    QStringList arguments = {u"--user"_s, u"000"_s};
+    for (const QString& value : values.split(u' ')) arguments += {u"--set"_s, value};
     return arguments;
   }
 
@@ -78,7 +75,7 @@ class TerminalDrillTest : public testing::Test {
 
   QTemporaryDir folder;
   test::TestStore store;
-  const QStringList sentences = settings(QStringLiteral("COURSE=0 selMethod=4 startMode=1"));
+  const QStringList sentences = settings(u"COURSE=0 selMethod=4 startMode=1"_s);
 };
 
 TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
@@ -91,15 +88,15 @@ TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
                  u"[表示] ○　正解です。　『うろ覚え』にしました。",
                  u"[正解] {wrong again} は正解ではありません。", u"[状態2] 位置=6／6 000060",
                  u"[箱] 終了しますか？（:yes / :no）"});
-  for (const int i : {1, 3, 4}) EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("101"));
+  for (const int i : {1, 3, 4}) EXPECT_EQ(stored(digits(i * 10, 6)), u"101"_s);
   for (const int i : {2, 5})
-    EXPECT_EQ(stored(digits(i * 10, 6)), QStringLiteral("001")) << "not at the first try";
-  EXPECT_EQ(stored(QStringLiteral("000060")), QStringLiteral("000"));
+    EXPECT_EQ(stored(digits(i * 10, 6)), u"001"_s) << "not at the first try";
+  EXPECT_EQ(stored(u"000060"_s), u"000"_s);
 
   outcome = run(sentences, "");
   EXPECT_EQ(outcome.status, 0) << "the end of the input is a confirmed end";
   expectInOrder(outcome.output, {u"[状態7] 練習回数 = 1"});
-  EXPECT_FALSE(outcome.output.contains(QStringLiteral("[箱]")));
+  EXPECT_FALSE(outcome.output.contains(u"[箱]"_s));
 }
 
 TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
@@ -113,17 +110,16 @@ TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
                  u"[経過] -------------- 0001 -------------", u"[中学DB] apple：Not found.",
                  u"[条件] コース：中学", u"[前回] コース：中学", u"[状態3] 比較方法 ABCDE≠abcde",
                  u":F12 というキーはありません。", u"[箱] このレッスンファイルを終了して"});
-  EXPECT_EQ(stored(QStringLiteral("000010")), QStringLiteral("000")) << "left by F2";
-  EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("001")) << "the answer was shown";
+  EXPECT_EQ(stored(u"000010"_s), u"000"_s) << "left by F2";
+  EXPECT_EQ(stored(u"000020"_s), u"001"_s) << "the answer was shown";
 }
 
 TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
-  const Outcome outcome =
-      run(settings(QStringLiteral("COURSE=0 selMethod=4 startMode=1 reviewCycle=1")),
-          ":yes\nanswer 1\n\nanswer 2\n\n"
-          ":F1\nanswer 1\n\n"
-          "answer 3\n\nno\n:F2\nnever\n\n"
-          "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n");
+  const Outcome outcome = run(settings(u"COURSE=0 selMethod=4 startMode=1 reviewCycle=1"_s),
+                              ":yes\nanswer 1\n\nanswer 2\n\n"
+                              ":F1\nanswer 1\n\n"
+                              "answer 3\n\nno\n:F2\nnever\n\n"
+                              "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n");
   EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
   expectInOrder(outcome.output, {u"[復習] 中学\n[問題] 問題{1}", u"[表示] answer 1",
                                  u"[確認] 空の行で次に進みます。", u"[問題] 問題{3}",
@@ -131,8 +127,8 @@ TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
                                  u":F2 というキーはありません。", u"answer 2　が正解です。",
                                  u"[問題] 問題{4}", u"[問題] 問題{3}", u"[箱] 終了しますか？",
                                  u"[問題] 問題{5}", u"[問題] 問題{4}", u"[箱] 終了しますか？"});
-  EXPECT_EQ(stored(QStringLiteral("000020")), QStringLiteral("101")) << "a review changes nothing";
-  EXPECT_EQ(stored(QStringLiteral("000050")), QStringLiteral("101"));
+  EXPECT_EQ(stored(u"000020"_s), u"101"_s) << "a review changes nothing";
+  EXPECT_EQ(stored(u"000050"_s), u"101"_s);
 }
 
 TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
@@ -144,14 +140,14 @@ TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
                                  u"[箱] 既に印刷が要求されています。",
                                  u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
                                  u"[箱] プリンターで印刷できないので、"});
-  const QDir data(folder.filePath(QStringLiteral("TavoliPersonalData")));
-  const QStringList files = data.entryList({QStringLiteral("TavoPrint000-*.pdf")});
+  const QDir data(folder.filePath(u"TavoliPersonalData"_s));
+  const QStringList files = data.entryList({u"TavoPrint000-*.pdf"_s});
   ASSERT_EQ(files.size(), 1);
   EXPECT_TRUE(outcome.output.contains(data.filePath(files.first())));
   const QString text = test::textOfPdf(data.filePath(files.first())).remove(u' ');
-  EXPECT_EQ(text.count(QStringLiteral("answer1")), 1) << qPrintable(text);
-  EXPECT_EQ(text.count(QStringLiteral("answer2")), 1);
-  EXPECT_EQ(text.count(QStringLiteral("answer3")), 0);
+  EXPECT_EQ(text.count(u"answer1"_s), 1) << qPrintable(text);
+  EXPECT_EQ(text.count(u"answer2"_s), 1);
+  EXPECT_EQ(text.count(u"answer3"_s), 0);
 }
 
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
@@ -161,19 +157,19 @@ TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
 }
 
 TEST_F(TerminalDrillTest, TheStartIsCheckedAsOnTheScreen) {
-  const QString start = QStringLiteral("COURSE=0 selMethod=4 startMode=3 startEnglish=");
-  Outcome outcome = run(settings(start + QStringLiteral("000099")), ":yes\n:no\n");
+  const QString start = u"COURSE=0 selMethod=4 startMode=3 startEnglish="_s;
+  Outcome outcome = run(settings(start + u"000099"_s), ":yes\n:no\n");
   EXPECT_EQ(outcome.status, 1);
   expectInOrder(outcome.output, {u"[箱] 指定開始英語の 000099 はデータベース中にありません。"});
-  EXPECT_FALSE(outcome.output.contains(QStringLiteral("[問題]")));
-  outcome = run(settings(start + QStringLiteral("000040･問")), "");
+  EXPECT_FALSE(outcome.output.contains(u"[問題]"_s));
+  outcome = run(settings(start + u"000040･問"_s), "");
   EXPECT_EQ(outcome.status, 0);
   expectInOrder(outcome.output, {u"[問題] 問題{4}"});
 }
 
 TEST_F(TerminalDrillTest, ASpecialistDictionaryIsAskedFor) {
   const Outcome outcome =
-      run(settings(QStringLiteral("COURSE=2 specialTable=Gone")), ":yes\nNone\nBusinessTOEIC\n");
+      run(settings(u"COURSE=2 specialTable=Gone"_s), ":yes\nNone\nBusinessTOEIC\n");
   expectInOrder(outcome.output, {u"専門ＤＢを選択して下さい。", u"[箱] None はありません。",
                                  u"コース：専門 BusinessTOEIC"});
 }
@@ -182,17 +178,16 @@ TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
   const QString before = QDir::currentPath();
   QDir::setCurrent(folder.path());
   qputenv("TAVOLI_PASSWORD", "secret");
-  const QStringList here = {QStringLiteral("--app-folder"), QStringLiteral("deep/er/..")};
-  const Outcome outcome =
-      run(QStringList{QStringLiteral("--user"), QStringLiteral("000")} + here, ":yes\n");
+  const QStringList here = {u"--app-folder"_s, u"deep/er/.."_s};
+  const Outcome outcome = run(QStringList{u"--user"_s, u"000"_s} + here, ":yes\n");
   qunsetenv("TAVOLI_PASSWORD");
   QDir::setCurrent(before);
   EXPECT_EQ(outcome.status, 0);
   expectInOrder(outcome.output, {u"[箱] パスワードは「secret」です。"});
-  const QString app = folder.filePath(QStringLiteral("deep"));
-  QFile placement(app + QStringLiteral("/TavoAlloc.txt"));
+  const QString app = folder.filePath(u"deep"_s);
+  QFile placement(app + u"/TavoAlloc.txt"_s);
   ASSERT_TRUE(placement.open(QIODevice::ReadOnly));
-  EXPECT_EQ(placement.readAll(), (app + QStringLiteral("/TavoliPersonalData\n")).toUtf8());
+  EXPECT_EQ(placement.readAll(), (app + u"/TavoliPersonalData\n"_s).toUtf8());
   constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                           QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
   for (const char16_t* made :
@@ -211,7 +206,7 @@ TEST_F(TerminalDrillTest, WithoutADisplayTheWindowsSayWhatToDo) {
   ASSERT_TRUE(program.waitForFinished());
   EXPECT_EQ(program.exitCode(), 2);
   const QString errors = QString::fromUtf8(program.readAllStandardError());
-  EXPECT_TRUE(errors.contains(QStringLiteral("tavoli --terminal"))) << qPrintable(errors);
+  EXPECT_TRUE(errors.contains(u"tavoli --terminal"_s)) << qPrintable(errors);
 }
 
 TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
@@ -220,10 +215,9 @@ TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
     QStringList arguments;
     QString complaint;
   } cases[] = {
-      {"unknown option", {QStringLiteral("--help-all")}, QStringLiteral("--help-all: この")},
-      {"no value", settings(QStringLiteral("selMethod")), QStringLiteral("NAME=VALUE")},
-      {"unknown name", settings(QStringLiteral("COURSE=0 speed=9")),
-       QStringLiteral("speed という条件はありません")},
+      {"unknown option", {u"--help-all"_s}, u"--help-all: この"_s},
+      {"no value", settings(u"selMethod"_s), u"NAME=VALUE"_s},
+      {"unknown name", settings(u"COURSE=0 speed=9"_s), u"speed という条件はありません"_s},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);

@@ -8,6 +8,8 @@
 #include "tests/support/Seed.h"
 #include "tests/support/TestStore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 namespace {
 
@@ -34,10 +36,10 @@ TEST(ProgressRecordTest, ComesBackFromItsText) {
   times.終了時刻 = QDateTime(QDate(2027, 1, 1), QTime(0, 3));
   for (int round = 0; round < 200; ++round) {
     const ProgressCounters counters = randomCounters(engine, 99999, 999999999);
-    const QString record = buildProgressRecord(QStringLiteral("花子"), counters, times);
+    const QString record = buildProgressRecord(u"花子"_s, counters, times);
     ASSERT_EQ(record.size(), 345);
-    EXPECT_TRUE(record.startsWith(QStringLiteral("花子      2")));
-    EXPECT_TRUE(record.endsWith(QStringLiteral("2026/12/3123:582027/01/0100:03")));
+    EXPECT_TRUE(record.startsWith(u"花子      2"_s));
+    EXPECT_TRUE(record.endsWith(u"2026/12/3123:582027/01/0100:03"_s));
     const StoredProgress stored = parseProgressRecord(record);
     EXPECT_TRUE(stored.counters == counters);
     EXPECT_EQ(stored.previousStart, times.開始時刻);
@@ -51,12 +53,12 @@ TEST(ProgressRecordTest, HasFixedPlaces) {
   counters.時間[高校][1] = 1234567890;
   counters.回数[専門][2] = 123456;
   const QString record = buildProgressRecord(QString(), counters, RunClock());
-  EXPECT_EQ(record.mid(9, 5), QStringLiteral("00001"));
-  EXPECT_EQ(record.mid(111, 5), QStringLiteral("00002"));
-  EXPECT_EQ(record.mid(213, 5), QStringLiteral("00003"));
-  EXPECT_EQ(record.mid(9 + 25, 5), QStringLiteral("00006"));
-  EXPECT_EQ(record.mid(111 + 39, 9), QStringLiteral("999999999")) << "no room for more";
-  EXPECT_EQ(record.mid(213 + 97, 5), QStringLiteral("99999"));
+  EXPECT_EQ(record.mid(9, 5), u"00001"_s);
+  EXPECT_EQ(record.mid(111, 5), u"00002"_s);
+  EXPECT_EQ(record.mid(213, 5), u"00003"_s);
+  EXPECT_EQ(record.mid(9 + 25, 5), u"00006"_s);
+  EXPECT_EQ(record.mid(111 + 39, 9), u"999999999"_s) << "no room for more";
+  EXPECT_EQ(record.mid(213 + 97, 5), u"99999"_s);
 }
 
 TEST(ProgressRecordTest, ReadsZerosWhereThereIsNoNumber) {
@@ -64,9 +66,9 @@ TEST(ProgressRecordTest, ReadsZerosWhereThereIsNoNumber) {
   times.開始時刻 = times.終了時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0));
   std::mt19937 engine(1);
   const ProgressCounters full = randomCounters(engine, 99999, 99999);
-  QString record = buildProgressRecord(QStringLiteral("000"), full, times);
-  record.replace(9, 5, QStringLiteral("1x345"));
-  record.replace(14, 5, QStringLiteral(" -123"));
+  QString record = buildProgressRecord(u"000"_s, full, times);
+  record.replace(9, 5, u"1x345"_s);
+  record.replace(14, 5, u" -123"_s);
   const StoredProgress damaged = parseProgressRecord(record.first(300));
   EXPECT_EQ(damaged.counters.記憶単熟[中学][0], 0);
   EXPECT_EQ(damaged.counters.記憶単熟[高校][0], 0);
@@ -150,7 +152,7 @@ class ProgressStoreTest : public testing::Test {
   test::TestStore store;
   test::FakeClock clock;
   test::ScriptedDialogs dialogs;
-  QString userId = QStringLiteral("000");
+  QString userId = u"000"_s;
   QChar COURSE = u'1';
   RunClock times;
   ProgressCounters counters;
@@ -158,14 +160,14 @@ class ProgressStoreTest : public testing::Test {
 };
 
 TEST_F(ProgressStoreTest, CountsTheTablesForANewLearner) {
-  store.addWord(tableJTDIC, QStringLiteral("a"), QString(), memory全然);
-  store.addWord(tableJTDIC, QStringLiteral("b"), QString(), memory完全);
-  store.addWord(tableJTDIC, QStringLiteral("c"), QString(), u'7');
-  store.addWord(tableSTDIC, QStringLiteral("a"), QString(), memoryうろ覚え);
-  store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("a"), QString(), memory完全);
+  store.addWord(tableJTDIC, u"a"_s, QString(), memory全然);
+  store.addWord(tableJTDIC, u"b"_s, QString(), memory完全);
+  store.addWord(tableJTDIC, u"c"_s, QString(), u'7');
+  store.addWord(tableSTDIC, u"a"_s, QString(), memoryうろ覚え);
+  store.addWord(u"BusinessTOEIC"_s, u"a"_s, QString(), memory完全);
   for (const char16_t* 文番 : {u"000010", u"499999", u"500000", u"899999", u"900000", u"x00000"})
     store.addSentence(QString::fromUtf16(文番), QString(), memoryうろ覚え);
-  store.addSentence(QStringLiteral("zzz"), QString());
+  store.addSentence(u"zzz"_s, QString());
   store.addSentence(rowPassword, QString());
   ASSERT_TRUE(load());
   ProgressCounters expected;
@@ -178,7 +180,7 @@ TEST_F(ProgressStoreTest, CountsTheTablesForANewLearner) {
   EXPECT_TRUE(counters == expected) << "and no time yet";
   EXPECT_FALSE(backupDue);
   EXPECT_EQ(storedRecord()[8], u'2');
-  EXPECT_EQ(store.stored(tableBDIC, rowProgress, field回数), QStringLiteral("00"));
+  EXPECT_EQ(store.stored(tableBDIC, rowProgress, field回数), u"00"_s);
   ASSERT_TRUE(load());
   EXPECT_TRUE(counters == expected) << "found again";
 }
@@ -229,7 +231,7 @@ TEST_F(ProgressStoreTest, ARecordWithoutADateStaysInItsMonth) {
   ASSERT_TRUE(load());
   const auto rows = store.database().OpenRecordset(tableBDIC);
   QString record = storedRecord();
-  record.replace(315, 10, QStringLiteral("2026/99/99"));
+  record.replace(315, 10, u"2026/99/99"_s);
   ASSERT_TRUE(saveProgressRecord(*rows, record));
   clock.time = clock.time.addMonths(3);
   ASSERT_TRUE(load());
@@ -252,8 +254,8 @@ TEST_F(ProgressStoreTest, BooksTheTimeWithoutTheRest) {
   EXPECT_EQ(times.終了時刻, times.開始時刻);
   EXPECT_EQ(times.休憩時間, 0);
   ASSERT_EQ(dialogs.shown.size(), 1);
-  EXPECT_TRUE(dialogs.shown[0].startsWith(
-      QStringLiteral("DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0")));
+  EXPECT_TRUE(
+      dialogs.shown[0].startsWith(u"DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0"_s));
 }
 
 TEST(ProgressReportTest, NamesAndFormatsWhatItShows) {
@@ -266,22 +268,18 @@ TEST(ProgressReportTest, NamesAndFormatsWhatItShows) {
   counters.回数単熟[中学] = {1000, 0, 0};
   const ProgressReport report(counters);
 
-  EXPECT_EQ(report.charts(高校)[0].inWords(), QStringLiteral("完全 1,234,567、うろ 2、全然 3"));
+  EXPECT_EQ(report.charts(高校)[0].inWords(), u"完全 1,234,567、うろ 2、全然 3"_s);
   const BarChart time = report.charts(専門)[2];
   EXPECT_EQ(time.values, (std::vector<double>{1.5, 0.01})) << "hours; 先月まで has no bar";
-  EXPECT_EQ(time.inWords(), QStringLiteral("今月 1.50 時間、先月 0.01 時間"));
-  EXPECT_EQ(report.charts(専門)[5].name, QStringLiteral("MSChart18"));
+  EXPECT_EQ(time.inWords(), u"今月 1.50 時間、先月 0.01 時間"_s);
+  EXPECT_EQ(report.charts(専門)[5].name, u"MSChart18"_s);
 
   const std::vector<NumberTable> tables = report.tables();
-  EXPECT_EQ(tables[0].rows[3], QStringLiteral("文・中学DB"));
-  EXPECT_EQ(tables[0].cells[1][0], QStringLiteral("1,234,567"));
-  EXPECT_EQ(tables[1].cells[2],
-            (QStringList{QStringLiteral("1.50 時間"), QStringLiteral("0.01 時間"),
-                         QStringLiteral("1,111.11 時間")}));
-  EXPECT_EQ(tables[2].cells[3],
-            (QStringList{QStringLiteral("11"), QStringLiteral("22"), QStringLiteral("33")}));
-  EXPECT_EQ(tables[3].cells[6],
-            (QStringList{QStringLiteral("1,007"), QStringLiteral("8"), QStringLiteral("9")}));
+  EXPECT_EQ(tables[0].rows[3], u"文・中学DB"_s);
+  EXPECT_EQ(tables[0].cells[1][0], u"1,234,567"_s);
+  EXPECT_EQ(tables[1].cells[2], (QStringList{u"1.50 時間"_s, u"0.01 時間"_s, u"1,111.11 時間"_s}));
+  EXPECT_EQ(tables[2].cells[3], (QStringList{u"11"_s, u"22"_s, u"33"_s}));
+  EXPECT_EQ(tables[3].cells[6], (QStringList{u"1,007"_s, u"8"_s, u"9"_s}));
 }
 
 }  // namespace

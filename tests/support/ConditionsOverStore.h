@@ -11,6 +11,8 @@
 
 namespace tavoli::test {
 
+using namespace Qt::StringLiterals;
+
 /// The screen over a store whose last runs are told by records, entered with 高校 unless another
 /// course is set.
 class ConditionsOverStore : public testing::Test {
@@ -18,16 +20,16 @@ class ConditionsOverStore : public testing::Test {
   ConditionsOverStore() {
     for (const char16_t* word : {u"apple", u"bank", u"go abroad"})
       store.addWord(tableSTDIC, QString::fromUtf16(word), QString());
-    store.addWord(tableJTDIC, QStringLiteral("cat"), QString());
-    store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("merger"), QString());
+    store.addWord(tableJTDIC, u"cat"_s, QString());
+    store.addWord(u"BusinessTOEIC"_s, u"merger"_s, QString());
     for (const char16_t* key : {u"000120", u"500010"})
-      store.addSentence(QString::fromUtf16(key), QStringLiteral("彼は学生です。|"));
+      store.addSentence(QString::fromUtf16(key), u"彼は学生です。|"_s);
     writeLesson(u"動詞.tav", "*動詞\ngo abroad\r\n000120･彼は\n  bank \n");
     writeLesson(u"名詞.tav", "apple\n");
     last.lessonFolder = store.folder();
-    last.lessonFile = QStringLiteral("動詞.tav");
-    last.firstEnglish = QStringLiteral("bank");
-    last.lastEnglish = QStringLiteral("go abroad");
+    last.lessonFile = u"動詞.tav"_s;
+    last.firstEnglish = u"bank"_s;
+    last.lastEnglish = u"go abroad"_s;
   }
 
   void writeLesson(const char16_t* name, const QByteArray& content) {
@@ -47,15 +49,8 @@ class ConditionsOverStore : public testing::Test {
   SystemFiles files;
   ScriptedDialogs dialogs;
   RecordingConditions screen;
-  LearnerFiles learner{QStringLiteral("taro"),
-                       {},
-                       store.path(),
-                       {},
-                       store.folder() + QStringLiteral("/TavoCond"),
-                       {},
-                       {},
-                       {},
-                       false};
+  LearnerFiles learner{u"taro"_s, {}, store.path(), {},   store.folder() + u"/TavoCond"_s,
+                       {},        {}, {},           false};
   CourseChoice course;
   PracticeConditions conditions;
   PracticeConditions last;

@@ -9,6 +9,8 @@
 
 namespace tavoli::test {
 
+using namespace Qt::StringLiterals;
+
 /// The packed records as a list of items: one that begins with its synonyms is the word "big", any
 /// other a sentence.
 inline PracticeSet setOf(const QStringList& records) {
@@ -16,7 +18,7 @@ inline PracticeSet setOf(const QStringList& records) {
   for (const QString& record : records) {
     PracticeItem item;
     const bool isSentence = !record.startsWith(u'|');
-    item.itemEnglish = isSentence ? digits(10 * (set.itemCount() + 1), 6) : QStringLiteral("big");
+    item.itemEnglish = isSentence ? digits(10 * (set.itemCount() + 1), 6) : u"big"_s;
     item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
     item.itemRecord = record;
     set.append(item);
@@ -31,18 +33,17 @@ inline QString typedBy(char key, QString right, bool isSentence) {
     case 'r':
       return right;
     case 'v':
-      return right.replace(QStringLiteral("I am "), QStringLiteral("I'm "));
+      return right.replace(u"I am "_s, u"I'm "_s);
     case 'o':
-      return right.remove(QStringLiteral("so "));
+      return right.remove(u"so "_s);
     case 't':
-      return isSentence ? right.replace(QStringLiteral("big"), QStringLiteral("huge"))
-                        : QStringLiteral("large");
+      return isSentence ? right.replace(u"big"_s, u"huge"_s) : u"large"_s;
     case 'm':
       return right.left(right.size() - 1);
     case 'q':
       return right.left(right.size() - 1) + u'?';
     case 'w':
-      return QStringLiteral("nonsense");
+      return u"nonsense"_s;
     default:
       return {};
   }

@@ -11,14 +11,15 @@
 
 namespace tavoli::test {
 
+using namespace Qt::StringLiterals;
+
 /// A personal database in a folder of its own, with BDIC, JTDIC, STDIC and BusinessTOEIC.
 class TestStore {
  public:
-  TestStore() : TestStore(QStringLiteral("TavoDB000.mdb")) {}
+  TestStore() : TestStore(u"TavoDB000.mdb"_s) {}
   explicit TestStore(const QString& fileName) : m_path(m_folder.filePath(fileName)) {
     m_database = createDatabase(m_path);
-    for (const QString& table :
-         {tableBDIC, tableJTDIC, tableSTDIC, QStringLiteral("BusinessTOEIC")}) {
+    for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC, u"BusinessTOEIC"_s}) {
       m_database->createTable(table);
       if (table != tableBDIC) addWord(table, rowContentEnd, QString());
     }
@@ -40,7 +41,7 @@ class TestStore {
     rows->setValue(field英語, 英語);
     rows->setValue(fieldレベル, digits(level, 2));
     rows->setValue(field記憶, QString(memory));
-    rows->setValue(field回数, QStringLiteral("00"));
+    rows->setValue(field回数, u"00"_s);
     rows->setValue(field発同日コ, record);
     rows->Update();
   }
@@ -50,7 +51,7 @@ class TestStore {
     rows->AddNew();
     rows->setValue(field文番, 文番);
     rows->setValue(field記憶, QString(memory));
-    rows->setValue(field回数, QStringLiteral("00"));
+    rows->setValue(field回数, u"00"_s);
     rows->setValue(field問正コ, record);
     rows->Update();
   }
@@ -84,7 +85,7 @@ inline QString wordRecord(const QStringList& meanings, const QStringList& synony
 
 /// The packed record of a sentence: each answer without alternatives, or with the packed ones.
 inline QString sentenceRecord(const QString& 問題文, const QStringList& answers,
-                              const QString& alternatives = QStringLiteral("00000000"),
+                              const QString& alternatives = u"00000000"_s,
                               QChar code = memory全然) {
   CurrentRecord record;
   record.sentence = true;
