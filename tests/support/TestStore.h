@@ -36,24 +36,18 @@ class TestStore {
 
   void addWord(const QString& table, const QString& 英語, const QString& record,
                QChar memory = memory全然, int level = 0) {
-    auto rows = m_database->OpenRecordset(table);
-    rows->AddNew();
-    rows->setValue(field英語, 英語);
-    rows->setValue(fieldレベル, digits(level, 2));
-    rows->setValue(field記憶, QString(memory));
-    rows->setValue(field回数, u"00"_s);
-    rows->setValue(field発同日コ, record);
-    rows->Update();
+    add(table, {{field英語, 英語},
+                {fieldレベル, digits(level, 2)},
+                {field記憶, QString(memory)},
+                {field回数, u"00"_s},
+                {field発同日コ, record}});
   }
 
   void addSentence(const QString& 文番, const QString& record, QChar memory = memory全然) {
-    auto rows = m_database->OpenRecordset(tableBDIC);
-    rows->AddNew();
-    rows->setValue(field文番, 文番);
-    rows->setValue(field記憶, QString(memory));
-    rows->setValue(field回数, u"00"_s);
-    rows->setValue(field問正コ, record);
-    rows->Update();
+    add(tableBDIC, {{field文番, 文番},
+                    {field記憶, QString(memory)},
+                    {field回数, u"00"_s},
+                    {field問正コ, record}});
   }
 
   /// A field of the row with that key, read through a cursor of its own.
@@ -64,6 +58,13 @@ class TestStore {
   }
 
  private:
+  void add(const QString& table, const QList<std::pair<QString, QString>>& values) {
+    const auto rows = m_database->OpenRecordset(table);
+    rows->AddNew();
+    for (const auto& [field, value] : values) rows->setValue(field, value);
+    rows->Update();
+  }
+
   QTemporaryDir m_folder;
   QString m_path;
   std::optional<Database> m_database;
@@ -72,32 +73,22 @@ class TestStore {
 /// The packed record of a word: meanings at 全然 with count 00 unless `code` says otherwise.
 inline QString wordRecord(const QStringList& meanings, const QStringList& synonyms = {},
                           QChar code = memory全然) {
-  CurrentRecord record;
-  record.同 = synonyms;
-  for (const QString& meaning : meanings) {
-    SubQuestion s;
-    s.記 = code;
-    s.日本語 = meaning;
-    record.小問.push_back(s);
-  }
-  return packRecord(record);
+  QString record(u'|');
+  for (const QString& synonym : synonyms) record += synonym + u'^';
+  record += u'|';
+  for (const QString& meaning : meanings) record += code + u"00"_s + meaning + u'^';
+  return record + u'|';
 }
 
 /// The packed record of a sentence: each answer without alternatives, or with the packed ones.
 inline QString sentenceRecord(const QString& 問題文, const QStringList& answers,
                               const QString& alternatives = u"00000000"_s,
                               QChar code = memory全然) {
-  CurrentRecord record;
-  record.sentence = true;
-  record.問題文 = 問題文;
-  for (const QString& answer : answers) {
-    SubQuestion s;
-    s.記 = code;
-    s.正 = answer;
-    s.同 = alternatives;
-    record.小問.push_back(s);
-  }
-  return packRecord(record);
+  QString record = 問題文 + u'|';
+  for (const QString& answer : answers)
+    record +=
+        u"00"_s + code + digits(static_cast<int>(answer.size()), 3) + answer + alternatives + u'^';
+  return record + u'|';
 }
 
 }  // namespace tavoli::test
