@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "practice/ReviewRing.h"
 #include "tests/support/Drill.h"
 #include "tests/support/Print.h"
 #include "tests/support/Seed.h"
@@ -107,18 +108,13 @@ TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
     while (loop.POS() < 28) {
       const char key = "rrrowwmqe1K"[random() % 11];
       if (!loop.復習中()) {
-        if (key != 'K') drill->press(std::string(1, key).c_str());
+        if (key != 'K') drill->press(key);
         continue;
       }
       const int POS = loop.POS();
       const int asked = review.reviewPOS();
       const PracticeItem before = drill->set.item(asked);
-      if (key == '1')
-        review.showAnswer();
-      else if (key == 'K')
-        review.nextReviewItem();
-      else
-        review.enter(test::typedBy(key, review.record().text(1), review.record().sentence));
+      drill->press(key);
       ASSERT_EQ(drill->set.item(asked).itemRecord, before.itemRecord);
       ASSERT_EQ(drill->set.item(asked).itemTimes, before.itemTimes);
       ASSERT_EQ(loop.POS(), POS);
@@ -135,6 +131,33 @@ TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
     }
   }
   EXPECT_GT(reviews, 20);
+}
+
+/// The history itself is the model: at the end of a cycle, the cycle before it.
+std::vector<int> dueByHistory(const std::vector<int>& history, int cycle) {
+  const auto count = static_cast<int>(history.size());
+  if (cycle == 0 || count % cycle != 0 || count < 2 * cycle) return {};
+  const auto from = history.begin() + (count - 2 * cycle);
+  return {from, from + cycle};
+}
+
+TEST(ReviewRingTest, LagsOneCycleBehindTheLearner) {
+  for (int cycle = 0; cycle <= 20; ++cycle) {
+    for (const int forgetAt : {1, 7, 50}) {
+      SCOPED_TRACE(testing::Message() << "cycle " << cycle << ", forgets at " << forgetAt);
+      ReviewRing ring(cycle);
+      std::vector<int> history;
+      for (int i = 1; i <= 200; ++i) {
+        if (i == forgetAt) {
+          ring.clear();
+          history.clear();
+        }
+        // Items of a list that wraps round come again.
+        history.push_back(i % 37 + 1);
+        ASSERT_EQ(ring.reviewCheck(history.back()), dueByHistory(history, cycle)) << i;
+      }
+    }
+  }
 }
 
 }  // namespace
