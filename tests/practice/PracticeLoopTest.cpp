@@ -36,35 +36,24 @@ TEST(PracticeLoopTest, WalksThroughItemsByTheKeys) {
     bool clock;
   } cases[] = {
       {"start", {S, W}, "", 1, 1, false, 0, "00", true},
-      {"first blank right", {S, W}, "r", 1, 2, false, 0, "10", true},
       {"both blanks right", {S, W}, "rr", 1, 3, true, 1, "11", false},
-      {"on to the word", {S, W}, "rre", 2, 1, false, 1, "11", true},
       {"click leaves the full answer too", {S, W}, "rrc", 2, 1, false, 1, "11", true},
       {"refused exit at the full answer goes on", {S, W}, "rrx", 2, 1, false, 1, "11", true},
       {"refused exit while asking stays", {S, W}, "x", 1, 1, false, 0, "00", true},
       {"wrong stops the clock", {S, W}, "w", 1, 1, false, 0, "00", false},
       {"wrong first, right next", {S, W}, "wr", 1, 2, false, 0, "00", true},
-      {"time over earns nothing", {S, W}, "Tr", 1, 2, false, 0, "00", true},
       {"the next blank has its own time", {S, W}, "Trr", 1, 3, true, 1, "01", false},
-      {"the answer was shown", {S, W}, "1r", 1, 2, false, 0, "00", true},
-      {"F2 on the first blank", {S, W}, "2", 1, 2, false, 0, "00", true},
+      {"the answer was shown, of one blank", {S, W}, "1rr", 1, 3, true, 1, "01", false},
       {"F2 on the last: straight on, not counted", {S, W}, "22", 2, 1, false, 0, "00", true},
-      {"F2 first, then answered: counted", {S, W}, "2r", 1, 3, true, 1, "01", false},
-      {"answered first, then F2: not counted", {S, W}, "r2", 2, 1, false, 0, "10", true},
-      {"F3 leaves the item", {S, W}, "r3", 2, 1, false, 0, "10", true},
       {"F3 at the full answer is refused", {S, W}, "rr3", 1, 3, true, 1, "11", false},
       {"F4 at item 1 goes to the last", {S, W, S}, "4", 3, 1, false, 0, "00", true},
       {"F4 from the full answer", {W, S, S}, "3rr4", 1, 1, false, 1, "00", true},
-      {"F3 and F4 bring back", {S, W}, "343", 2, 1, false, 0, "00", true},
-      {"reached by F4, really answered: counted", {S, W}, "34rr", 1, 3, true, 1, "11", false},
       {"F11 twice: done and counted", {S, W}, "KK", 1, 3, true, 1, "11", false},
-      {"F11 after a wrong entry", {W, S}, "wK", 1, 2, false, 0, "10", true},
       {"F11 at the full answer is refused", {S, W}, "KKK", 1, 3, true, 1, "11", false},
       {"a word: one promotion a visit", {W, S}, "rr", 1, 3, true, 1, "10", false},
       {"a mini test has no clock", {sentence(u'1', u'0'), W}, "", 1, 1, false, 0, "10", false},
       {"nor has a click into it", {sentence(u'1', u'0'), W}, "c", 1, 1, false, 0, "10", false},
       {"a mini test by F3", {S, word(u'2', u'2')}, "3rr", 2, 3, true, 1, "00", false},
-      {"fallen to 全然", {sentence(u'2', u'0'), W}, "ww", 1, 1, false, 0, "00", false},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -112,7 +101,6 @@ TEST(PracticeLoopTest, TheEndOfTheListWrapsToTheStartOrEndsTheRun) {
     QStringList asked;
     bool ended;
   } cases[] = {{"by F3", "33", {true}, {wrap}, false},
-               {"by F2", "322", {true}, {wrap}, false},
                {"no, but not the end either", "33", {false, false}, {wrap, end}, false},
                {"the end", "33", {false, true}, {wrap, end}, true}};
   for (const auto& c : cases) {
@@ -254,8 +242,6 @@ TEST(PracticeLoopTest, AnyKeyEmptiesTheMessageAndOneOfTheFirstStopsTheVoice) {
   Drill drill({word(u'0', u'0'), word(u'1', u'1')});
   drill.conditions.firstRepeatWord = 3;
   drill.start();
-  EXPECT_EQ(drill.screen.caption, u"単語熟語　順に"_s);
-  EXPECT_EQ(drill.screen.panels.value(1), u"復習なし"_s);
   for (const char* leave : {"3", "4"}) {
     drill.press("wr");
     EXPECT_FALSE(drill.screen.message.isEmpty());
@@ -263,21 +249,19 @@ TEST(PracticeLoopTest, AnyKeyEmptiesTheMessageAndOneOfTheFirstStopsTheVoice) {
     EXPECT_TRUE(drill.screen.message.isEmpty());
     drill.press("4");
   }
-  const auto keysUntilStop = [&] {
-    const int before = drill.speaker.stopped;
-    int keys = 0;
-    while (drill.speaker.stopped == before && keys < 9) {
+  const auto stops = [&] {
+    std::vector<int> keys;
+    for (int key = 1; key <= 4; ++key) {
+      const int before = drill.speaker.stopped;
       drill.loop->keyPressed();
-      ++keys;
+      if (drill.speaker.stopped > before) keys.push_back(key);
     }
-    for (int more = 0; more < 3; ++more) drill.loop->keyPressed();
-    EXPECT_EQ(drill.speaker.stopped, before + 1) << "once";
     return keys;
   };
   drill.press("34");
-  EXPECT_EQ(keysUntilStop(), 2) << "the first key of an answer is typed while it speaks";
+  EXPECT_EQ(stops(), std::vector{2}) << "the first key of an answer is typed while it speaks";
   drill.press("3");
-  EXPECT_EQ(keysUntilStop(), 1) << "in a mini test";
+  EXPECT_EQ(stops(), std::vector{1}) << "in a mini test";
 }
 
 /// Anything may be pressed at any time.
@@ -305,7 +289,7 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       const int POS = loop.POS();
       const int POS1 = loop.POS1();
       const QChar before = loop.state().record.記(POS1);
-      drill.press(std::string(1, key).c_str());
+      drill.press(key);
       ASSERT_EQ(drill.dialogs.shown, QStringList());
       ASSERT_FALSE(loop.exitConfirmed());
       const QChar after = drill.stored(POS).記(POS1);
