@@ -43,11 +43,13 @@ class PracticeSetLoaderTest : public testing::Test {
     return set;
   }
 
-  static QStringList keysOf(const PracticeSet& set) {
+  /// What each item stands for, its table's place in front.
+  QString loaded(const QString& startKey = startKeyFirst) {
+    const PracticeSet set = load(startKey);
     QStringList keys;
     for (int i = 1; i <= set.itemCount(); ++i)
       keys.append(set.item(i).itemTable + set.item(i).itemEnglish);
-    return keys;
+    return keys.join(u'|');
   }
 
   test::TestStore store;
@@ -72,10 +74,9 @@ TEST_F(PracticeSetLoaderTest, LooksWordsUpInTheCoursesOrderAndByTheirExactSpelli
       "* comment\r\n! skipped\r\npolish\r\n  Polish \r\nmay\r\nasset\r\n\r\n000010\xA5 head\r\n"
       "000020\xA5\r\nzzzzz0\xA5\r\nzzzzzzzzzzzzzzzzzzzz1\r\n000010\r\n");
   conditions.selMethod = u'0';
-  EXPECT_EQ(keysOf(load()), (QStringList{u"1polish"_s, u"1Polish"_s, u"2may"_s, u"B000010"_s}));
+  EXPECT_EQ(loaded(), u"1polish|1Polish|2may|B000010"_s);
   course = {course専門, u"BusinessTOEIC"_s};
-  EXPECT_EQ(keysOf(load()),
-            (QStringList{u"2polish"_s, u"2Polish"_s, u"3may"_s, u"1asset"_s, u"B000010"_s}));
+  EXPECT_EQ(loaded(), u"2polish|2Polish|3may|1asset|B000010"_s);
 }
 
 TEST_F(PracticeSetLoaderTest, WhatALessonNamesTwiceIsOneItem) {
@@ -129,14 +130,16 @@ TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
   store.addWord(tableSTDIC, u"～ or so"_s, wordRecord({u"～かそこら"_s}));
   conditions.memorySelect = u'0';
   conditions.maxLoadWords = 22;
-  const PracticeSet set = load();
-  EXPECT_EQ(keysOf(set), (QStringList{u"1～ or so"_s, u"1w00"_s, u"1w10"_s, u"1w20"_s}));
+  EXPECT_EQ(loaded(), u"1～ or so|1w00|1w10|1w20"_s);
   EXPECT_EQ(dialogs.shown.last(), u"最大読込数 22 のうち 4が練習条件を満足しました。"_s);
-  EXPECT_EQ(keysOf(load(u"w10"_s)), (QStringList{u"1w10"_s, u"1w20"_s}));
+  EXPECT_EQ(loaded(u"w10"_s), u"1w10|1w20"_s);
   conditions.levelFrom = u"10"_s;
-  EXPECT_EQ(keysOf(load()), QStringList{u"1w10"_s});
-  conditions.maxLoadWords = 5000;
+  EXPECT_EQ(loaded(), u"1w10"_s);
   conditions.levelFrom = u"00"_s;
+  conditions.levelTo = u"09"_s;
+  EXPECT_EQ(load().itemCount(), 3);
+  conditions.levelTo = u"10"_s;
+  conditions.maxLoadWords = 5000;
   EXPECT_EQ(load().itemCount(), 4) << "the walk ends at the reserved rows";
   EXPECT_EQ(progress.total, 5000);
   EXPECT_TRUE(progress.ended);
@@ -152,14 +155,14 @@ TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
     QChar course;
     const char16_t* start;
     const char16_t* expected;
-  } cases[] = {{course中学, u"000000", u"B000010 B499990"},
+  } cases[] = {{course中学, u"000000", u"B000010|B499990"},
                {course中学, u"000011･彼は", u"B499990"},
-               {course高校, u"000000", u"B500010 B899990"},
-               {course高校, u"apple", u"B500010 B899990"},
-               {course専門, u"000000", u"B900010 BA00010"}};
+               {course高校, u"000000", u"B500010|B899990"},
+               {course高校, u"apple", u"B500010|B899990"},
+               {course専門, u"000000", u"B900010|BA00010"}};
   for (const auto& c : cases) {
     course = {c.course, u"BusinessTOEIC"_s};
-    EXPECT_EQ(keysOf(load(QString::fromUtf16(c.start))).join(u' '), QString::fromUtf16(c.expected));
+    EXPECT_EQ(loaded(QString::fromUtf16(c.start)), QString::fromUtf16(c.expected));
   }
   EXPECT_TRUE(dialogs.shown.isEmpty());
 }
