@@ -15,12 +15,6 @@ using namespace Qt::StringLiterals;
 namespace tavoli {
 namespace {
 
-struct Outcome {
-  int status = -1;
-  QString output;
-  QString errors;
-};
-
 class TerminalDrillTest : public testing::Test {
  protected:
   TerminalDrillTest() {
@@ -35,15 +29,18 @@ class TerminalDrillTest : public testing::Test {
 
   QString database() const { return folder.filePath(u"TavoliPersonalData/TavoDB000.mdb"_s); }
 
-  Outcome run(const QStringList& arguments, const char* input) const {
+  /// What the program prints, its complaints last.
+  QString run(const QStringList& arguments, const char* input, int status = 0) const {
     QProcess program;
     program.start(QStringLiteral(TAVOLI_PROGRAM),
                   QStringList{u"--terminal"_s, u"--app-folder"_s, folder.path()} + arguments);
     program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished());
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
+    QString output =
+        QString::fromUtf8(program.readAllStandardOutput() + program.readAllStandardError());
+    EXPECT_EQ(program.exitCode(), status) << qPrintable(output);
+    return output;
   }
 
   /// The arguments that set conditions, `NAME=VALUE` each with a blank between.
@@ -79,32 +76,29 @@ class TerminalDrillTest : public testing::Test {
 };
 
 TEST_F(TerminalDrillTest, FiveRightAndTwoWrongAnswersAreFoundAgain) {
-  Outcome outcome = run(sentences,
-                        ":yes\nanswer 1\n\nwrong\nanswer 2\n\nanswer 3\n\nanswer 4\n\n"
-                        "wrong again\nANSWER 5\n\n:F6\n:no\n:F6\n:yes\n");
-  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  expectInOrder(outcome.output,
-                {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
-                 u"[表示] ○　正解です。　『うろ覚え』にしました。",
-                 u"[正解] {wrong again} は正解ではありません。", u"[状態2] 位置=6／6 000060",
-                 u"[箱] 終了しますか？（:yes / :no）"});
+  QString output = run(sentences,
+                       ":yes\nanswer 1\n\nwrong\nanswer 2\n\nanswer 3\n\nanswer 4\n\n"
+                       "wrong again\nANSWER 5\n\n:F6\n:no\n:F6\n:yes\n");
+  expectInOrder(output, {u"[箱] パスワードは「」です。（:yes / :no）", u"[問題] 問題{1}",
+                         u"[表示] ○　正解です。　『うろ覚え』にしました。",
+                         u"    answer 1\n[確認] 空の行で次に進みます。",
+                         u"[正解] {wrong again} は正解ではありません。",
+                         u"[状態2] 位置=6／6 000060", u"[箱] 終了しますか？（:yes / :no）"});
   for (const int i : {1, 3, 4}) EXPECT_EQ(stored(digits(i * 10, 6)), u"101"_s);
   for (const int i : {2, 5})
     EXPECT_EQ(stored(digits(i * 10, 6)), u"001"_s) << "not at the first try";
   EXPECT_EQ(stored(u"000060"_s), u"000"_s);
 
-  outcome = run(sentences, "");
-  EXPECT_EQ(outcome.status, 0) << "the end of the input is a confirmed end";
-  expectInOrder(outcome.output, {u"[状態7] 練習回数 = 1"});
-  EXPECT_FALSE(outcome.output.contains(u"[箱]"_s));
+  output = run(sentences, "");  // the end of the input is a confirmed end
+  expectInOrder(output, {u"[状態7] 練習回数 = 1"});
+  EXPECT_FALSE(output.contains(u"[箱]"_s));
 }
 
 TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
-  const Outcome outcome = run(sentences,
-                              ":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
-                              ":conditions\n:menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n");
-  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  expectInOrder(outcome.output,
+  const QString output = run(sentences,
+                             ":yes\n:F3\n:F4\n:F2\n:F1\nanswer 2\n:menu3\n:look apple\n"
+                             ":conditions\n:menu42\n:F11\n:F12\n\nAnswer 4\n:F7\n:yes\n");
+  expectInOrder(output,
                 {u"[状態2] 位置=1／6 000010", u"[状態2] 位置=2／6 000020",
                  u"[状態2] 位置=1／6 000010", u"[状態2] 位置=2／6 000020", u"[正解] 正解：answer 2",
                  u"[経過] -------------- 0001 -------------", u"[中学DB] apple：Not found.",
@@ -115,35 +109,33 @@ TEST_F(TerminalDrillTest, KnowsTheKeysOfThePractice) {
 }
 
 TEST_F(TerminalDrillTest, ReviewsAndGoesOn) {
-  const Outcome outcome = run(settings(u"COURSE=0 selMethod=4 startMode=1 reviewCycle=1"_s),
-                              ":yes\nanswer 1\n\nanswer 2\n\n"
-                              ":F1\nanswer 1\n\n"
-                              "answer 3\n\nno\n:F2\nnever\n\n"
-                              "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n");
-  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  expectInOrder(outcome.output, {u"[復習] 中学\n[問題] 問題{1}", u"[表示] answer 1",
-                                 u"[確認] 空の行で次に進みます。", u"[問題] 問題{3}",
-                                 u"[復習] 中学\n[問題] 問題{2}", u"[正解] {no} は正解",
-                                 u":F2 というキーはありません。", u"answer 2　が正解です。",
-                                 u"[問題] 問題{4}", u"[問題] 問題{3}", u"[箱] 終了しますか？",
-                                 u"[問題] 問題{5}", u"[問題] 問題{4}", u"[箱] 終了しますか？"});
+  const QString output = run(settings(u"COURSE=0 selMethod=4 startMode=1 reviewCycle=1"_s),
+                             ":yes\nanswer 1\n\nanswer 2\n\n"
+                             ":F1\nanswer 1\n\n"
+                             "answer 3\n\nno\n:F2\nnever\n\n"
+                             "answer 4\n\n:F6\n:no\n:F11\nanswer 5\n\n:F6\n:yes\n");
+  expectInOrder(
+      output, {u"[復習] 中学\n[問題] 問題{1}", u"[表示] answer 1", u"[確認] 空の行で次に進みます。",
+               u"[問題] 問題{3}", u"[復習] 中学\n[問題] 問題{2}", u"[正解] {no} は正解",
+               u":F2 というキーはありません。", u"answer 2　が正解です。", u"[問題] 問題{4}",
+               u"[問題] 問題{3}", u"[箱] 終了しますか？", u"[問題] 問題{5}", u"[問題] 問題{4}",
+               u"[箱] 終了しますか？"});
   EXPECT_EQ(stored(u"000020"_s), u"101"_s) << "a review changes nothing";
   EXPECT_EQ(stored(u"000050"_s), u"101"_s);
 }
 
 TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
-  const Outcome outcome = run(sentences,
-                              ":yes\n:F9\n\nanswer 1\n:F9\n\n\n"
-                              ":F9\n\n:F6\n:yes\n");
-  EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
-  expectInOrder(outcome.output, {u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
-                                 u"[箱] 既に印刷が要求されています。",
-                                 u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
-                                 u"[箱] プリンターで印刷できないので、"});
+  const QString output = run(sentences,
+                             ":yes\n:F9\n\nanswer 1\n:F9\n\n\n"
+                             ":F9\n\n:F6\n:yes\n");
+  expectInOrder(output, {u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
+                         u"[箱] 既に印刷が要求されています。",
+                         u"[箱] 終了時に、この問題と正解、コメントを印刷します。",
+                         u"[箱] プリンターで印刷できないので、"});
   const QDir data(folder.filePath(u"TavoliPersonalData"_s));
   const QStringList files = data.entryList({u"TavoPrint000-*.pdf"_s});
   ASSERT_EQ(files.size(), 1);
-  EXPECT_TRUE(outcome.output.contains(data.filePath(files.first())));
+  EXPECT_TRUE(output.contains(data.filePath(files.first())));
   const QString text = test::textOfPdf(data.filePath(files.first())).remove(u' ');
   EXPECT_EQ(text.count(u"answer1"_s), 1) << qPrintable(text);
   EXPECT_EQ(text.count(u"answer2"_s), 1);
@@ -151,27 +143,23 @@ TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
 }
 
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
-  const Outcome outcome = run(sentences.sliced(2), "\n\n\n:yes\n");
-  EXPECT_EQ(outcome.status, 0);
-  expectInOrder(outcome.output, {u"[問題] 問題{1}"});
+  expectInOrder(run(sentences.sliced(2), "\n\n\n:yes\n"), {u"[問題] 問題{1}"});
 }
 
 TEST_F(TerminalDrillTest, TheStartIsCheckedAsOnTheScreen) {
   const QString start = u"COURSE=0 selMethod=4 startMode=3 startEnglish="_s;
-  Outcome outcome = run(settings(start + u"000099"_s), ":yes\n:no\n");
-  EXPECT_EQ(outcome.status, 1);
-  expectInOrder(outcome.output, {u"[箱] 指定開始英語の 000099 はデータベース中にありません。"});
-  EXPECT_FALSE(outcome.output.contains(u"[問題]"_s));
-  outcome = run(settings(start + u"000040･問"_s), "");
-  EXPECT_EQ(outcome.status, 0);
-  expectInOrder(outcome.output, {u"[問題] 問題{4}"});
+  QString output = run(settings(start + u"000099"_s), ":yes\n:no\n", 1);
+  expectInOrder(output, {u"[箱] 指定開始英語の 000099 はデータベース中にありません。"});
+  EXPECT_FALSE(output.contains(u"[問題]"_s));
+  output = run(settings(start + u"000040･問"_s), "");
+  expectInOrder(output, {u"[問題] 問題{4}"});
 }
 
 TEST_F(TerminalDrillTest, ASpecialistDictionaryIsAskedFor) {
-  const Outcome outcome =
-      run(settings(u"COURSE=2 specialTable=Gone"_s), ":yes\nNone\nBusinessTOEIC\n");
-  expectInOrder(outcome.output, {u"専門ＤＢを選択して下さい。", u"[箱] None はありません。",
-                                 u"コース：専門 BusinessTOEIC"});
+  const QString output =
+      run(settings(u"COURSE=2 specialTable=Gone"_s), ":yes\nNone\nBusinessTOEIC\n", 1);
+  expectInOrder(output, {u"専門ＤＢを選択して下さい。", u"[箱] None はありません。",
+                         u"コース：専門 BusinessTOEIC"});
 }
 
 TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
@@ -179,11 +167,10 @@ TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
   QDir::setCurrent(folder.path());
   qputenv("TAVOLI_PASSWORD", "secret");
   const QStringList here = {u"--app-folder"_s, u"deep/er/.."_s};
-  const Outcome outcome = run(QStringList{u"--user"_s, u"000"_s} + here, ":yes\n");
+  const QString output = run(QStringList{u"--user"_s, u"000"_s} + here, ":yes\n");
   qunsetenv("TAVOLI_PASSWORD");
   QDir::setCurrent(before);
-  EXPECT_EQ(outcome.status, 0);
-  expectInOrder(outcome.output, {u"[箱] パスワードは「secret」です。"});
+  expectInOrder(output, {u"[箱] パスワードは「secret」です。"});
   const QString app = folder.filePath(u"deep"_s);
   QFile placement(app + u"/TavoAlloc.txt"_s);
   ASSERT_TRUE(placement.open(QIODevice::ReadOnly));
@@ -221,9 +208,8 @@ TEST_F(TerminalDrillTest, BadArgumentsAreTold) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const Outcome outcome = run(c.arguments, ":yes\n");
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_TRUE(outcome.errors.contains(c.complaint)) << qPrintable(outcome.errors);
+    const QString output = run(c.arguments, ":yes\n", 2);
+    EXPECT_TRUE(output.contains(c.complaint)) << qPrintable(output);
   }
 }
 
