@@ -110,6 +110,13 @@ TEST(AnswerFlowTest, ADamagedRecordIsToldToKeepItsMemory) {
     EXPECT_EQ(drill.screen.message, row.message);
     EXPECT_EQ(drill.set.item(1).itemRecord, record);
   }
+  // A row that could not be read whole packs back all the same.
+  Drill unreadable({wordWith(u'0')});
+  unreadable.set.item(1).damaged = true;
+  unreadable.start();
+  unreadable.press("r");
+  EXPECT_EQ(unreadable.screen.message, right + kept);
+  EXPECT_EQ(unreadable.set.item(1).itemRecord, wordWith(u'0'));
 }
 
 TEST(AnswerFlowTest, AMiniTestLeavesTheRepeatsToTheNextLearntBlank) {
