@@ -93,18 +93,14 @@ void TableCursor::step() {
     }
     m_rowId = m_walk->getColumn(0).getInt64();
     m_row.resize(static_cast<size_t>(m_fields.size()));
-    m_damaged.assign(m_row.size(), false);
     for (int i = 0; i < m_fields.size(); ++i) {
       const SQLite::Column column = m_walk->getColumn(i + 1);
       Field& field = m_row[static_cast<size_t>(i)];
       const char* text = column.getText(nullptr);
-      if (text) {
-        const QUtf8StringView bytes(text, column.getBytes());
-        field = bytes.toString();
-        m_damaged[static_cast<size_t>(i)] = !bytes.isValidUtf8();
-      } else {
+      if (text)
+        field = QString::fromUtf8(text, column.getBytes());
+      else
         field.reset();
-      }
     }
     m_place = Place::OnRow;
   } catch (const SQLite::Exception&) {
@@ -194,8 +190,21 @@ const Field& TableCursor::value(const QString& field) const {
 }
 
 bool TableCursor::isDamaged(const QString& field) const {
-  const qsizetype index = m_fields.indexOf(field);
-  return hasRow() && index >= 0 && m_damaged[static_cast<size_t>(index)];
+  // Bytes that are no UTF-8 were read as the replacement character. It may be stored itself, though
+  // hardly ever: so the bytes are looked at only then, and walking costs nothing more.
+  const Field& read = value(field);
+  if (!read || !read->contains(QChar(QChar::ReplacementCharacter))) return false;
+  try {
+    SQLite::Statement stored(m_database, QStringLiteral("SELECT %1 FROM %2 WHERE rowid=?")
+                                             .arg(quoted(field), quoted(m_table))
+                                             .toStdString());
+    stored.bind(1, static_cast<int64_t>(m_rowId));
+    if (!stored.executeStep()) return true;
+    const SQLite::Column column = stored.getColumn(0);
+    return !QUtf8StringView(column.getText(), column.getBytes()).isValidUtf8();
+  } catch (const SQLite::Exception&) {
+    return true;  // never to be written over what cannot be read
+  }
 }
 
 void TableCursor::AddNew() {

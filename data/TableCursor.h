@@ -106,7 +106,6 @@ class TableCursor {
   bool m_failed = false;
   qint64 m_rowId = 0;
   std::vector<Field> m_row;
-  std::vector<bool> m_damaged;  ///< by field
 
   Pending m_pending = Pending::None;
   QStringList m_changedFields;

@@ -1,3 +1,4 @@
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include "system/Files.h"
@@ -138,6 +139,18 @@ TEST(OpenDatabaseTest, ListsTheSpecialistDictionariesOnly) {
     ASSERT_TRUE(store.database().createTable(QString::fromUtf16(table)));
   EXPECT_EQ(specialTables(store.database()),
             QStringList({u"BusinessTOEIC"_s, u"医学MSys"_s, u"Anatomy"_s}));
+}
+
+TEST_F(TableCursorTest, TellsBytesThatAreNoUtf8FromAStoredReplacementCharacter) {
+  SQLite::Database raw(store.path().toStdString(), SQLite::OPEN_READWRITE);
+  raw.exec("UPDATE JTDIC SET 発同日コ=CAST(x'41FF42' AS TEXT) WHERE 英語='apple'");
+  raw.exec("UPDATE JTDIC SET 発同日コ=CAST(x'41EFBFBD42' AS TEXT) WHERE 英語='Zoo'");
+  auto rows = store.database().OpenRecordset(tableJTDIC);
+  for (const auto& [key, damaged] :
+       {std::pair(u"apple"_s, true), std::pair(u"Zoo"_s, false), std::pair(u"may"_s, false)}) {
+    rows->Seek(SeekOp::Equal, key);
+    EXPECT_EQ(rows->isDamaged(field発同日コ), damaged) << qPrintable(key);
+  }
 }
 
 }  // namespace
