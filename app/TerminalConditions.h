@@ -16,12 +16,12 @@ class TerminalConditions final : public ConditionsScreen {
   /// Shows them with last time's.
   void showAll(const CourseChoice& course, const PracticeConditions& conditions);
 
-  void showCourse(QChar, const QString&) override {}
-  void showMethod(QChar) override {}
-  void showStartMode(QChar) override {}
+  void showCourse(Course, const QString&) override {}
+  void showMethod(SelMethod) override {}
+  void showStartMode(StartMode) override {}
   void listStarts(const QStringList&) override {}
   void showStart(const QString&) override {}
-  void showMemory(QChar) override {}
+  void showMemory(MemorySelect) override {}
   void showNumber(NumberField, const QString&) override {}
   void showFolder(const QString&) override {}
   void showLessonName(const QString&) override {}

@@ -19,10 +19,10 @@ CurrentRecord largestSentence() {
     tail += digits(1 + 15 * i, 2) + digits(5 + 15 * i, 2) + QStringLiteral("03xyz");
   return ParseRecord(
       QStringLiteral("問|000") + digits(120, 3) + answer + tail + QStringLiteral("^|"), QString(),
-      tableOfSentences);
+      TableCode::sentences);
 }
 
-const ComparisonSettings settings = comparisonSettings(u'0', true);
+const ComparisonSettings settings = comparisonSettings(CompareMode::caseIgnored, true);
 
 void judge(benchmark::State& state, const QString& typed) {
   const CurrentRecord record = largestSentence();

@@ -30,7 +30,7 @@ test::TestStore& wideStore() {
       rows->AddNew();
       rows->setValue(field英語, keyOf(i));
       rows->setValue(fieldレベル, QStringLiteral("01"));
-      rows->setValue(field記憶, QString(memory全然));
+      rows->setValue(field記憶, QString(stored(MemoryState::全然)));
       rows->setValue(field回数, QStringLiteral("00"));
       rows->setValue(field発同日コ, record);
       if (!rows->Update()) return false;

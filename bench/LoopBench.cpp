@@ -19,7 +19,7 @@ PracticeSet bigSet() {
   for (int i = 0; i < itemCount; ++i) {
     PracticeItem item;
     item.itemEnglish = QStringLiteral("word");
-    item.itemTable = u'1';
+    item.itemTable = TableCode::first;
     item.itemRecord =
         test::wordRecord({QStringLiteral("[意味]を答えなさい")}, {QStringLiteral("synonym")});
     set.append(item);
@@ -33,7 +33,7 @@ void keyToNextQuestion(benchmark::State& state) {
   PracticeSet set = bigSet();
   const CourseChoice course;
   PracticeConditions conditions;
-  conditions.memorySelect = u'5';
+  conditions.memorySelect = MemorySelect::すべて;
   conditions.firstRepeatWord = 1;
   conditions.reviewCycle = 0;
   test::ScriptedDialogs dialogs;

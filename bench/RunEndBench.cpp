@@ -62,7 +62,7 @@ void closeRun(benchmark::State& state) {
   const CourseChoice course;
   PracticeConditions conditions;
   conditions.maxLoadWords = itemCount;
-  conditions.memorySelect = u'5';
+  conditions.memorySelect = MemorySelect::すべて;
   AutoPlaySettings settings;
   RunClock times;
   times.開始時刻 = clock.time;

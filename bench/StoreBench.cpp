@@ -108,7 +108,7 @@ BENCHMARK(rewriteBare)->Name("parseAndPack/bare");
 
 void rewrite(benchmark::State& state) {
   for (auto _ : state)
-    benchmark::DoNotOptimize(packRecord(ParseRecord(record, QString(), tableOfSentences)));
+    benchmark::DoNotOptimize(packRecord(ParseRecord(record, QString(), TableCode::sentences)));
 }
 BENCHMARK(rewrite)->Name("parseAndPack");
 

@@ -16,14 +16,16 @@ struct Target {
 
 /// Takes a value over, or says what it should have been.
 using Setter = std::function<QString(const Target& target, const QString& value)>;
-using Choose = void (*)(ConditionsRules& rules, QChar code);
 
 /// One of a set of options; choosing the one that is marked already does nothing.
-Setter option(const QString& allowed, QChar (*marked)(const PracticeConditions&), Choose choose) {
+template <StoredCode Code>
+Setter option(const QString& allowed, Code PracticeConditions::*marked,
+              void (ConditionsRules::*choose)(Code)) {
   return [=](const Target& target, const QString& value) {
     if (value.size() != 1 || !allowed.contains(value))
       return QStringLiteral("%1 のどれか１文字にしてください。").arg(allowed);
-    if (value[0] != marked(target.conditions)) choose(target.rules, value[0]);
+    const auto code = codeOf<Code>(value);
+    if (code != target.conditions.*marked) (target.rules.*choose)(code);
     return QString();
   };
 }
@@ -59,16 +61,16 @@ QString setLessonFile(const Target& target, const QString& value) {
 }
 
 QString setStartEnglish(const Target& target, const QString& value) {
-  if (target.conditions.startMode != u'3')
+  if (target.conditions.startMode != StartMode::named)
     return QStringLiteral("startMode=3（指定する）と一緒に使ってください。");
   target.rules.typeStart(value);
   return {};
 }
 
-Setter flag(void (*set)(PracticeConditions&, QChar)) {
+Setter flag(void (*set)(PracticeConditions&, bool)) {
   return [=](const Target& target, const QString& value) {
     if (value != u"0" && value != u"1") return QStringLiteral("0 か 1 にしてください。");
-    set(target.conditions, value[0]);
+    set(target.conditions, value == u"1");
     return QString();
   };
 }
@@ -80,18 +82,12 @@ const QList<std::pair<QString, Setter>>& setters() {
       {QStringLiteral("lessonFolder"), setLessonFolder},
       {QStringLiteral("lessonFile"), setLessonFile},
       {QStringLiteral("selMethod"),
-       option(
-           QStringLiteral("012345"), [](const C& c) { return c.selMethod; },
-           [](ConditionsRules& rules, QChar code) { rules.chooseMethod(code); })},
+       option(QStringLiteral("012345"), &C::selMethod, &ConditionsRules::chooseMethod)},
       {QStringLiteral("startMode"),
-       option(
-           QStringLiteral("0123"), [](const C& c) { return c.startMode; },
-           [](ConditionsRules& rules, QChar code) { rules.chooseStartMode(code); })},
+       option(QStringLiteral("0123"), &C::startMode, &ConditionsRules::chooseStartMode)},
       {QStringLiteral("startEnglish"), setStartEnglish},
       {QStringLiteral("memorySelect"),
-       option(
-           QStringLiteral("012345"), [](const C& c) { return c.memorySelect; },
-           [](ConditionsRules& rules, QChar code) { rules.chooseMemory(code); })},
+       option(QStringLiteral("012345"), &C::memorySelect, &ConditionsRules::chooseMemory)},
       {QStringLiteral("levelFrom"), number(NumberField::LevelFrom)},
       {QStringLiteral("levelTo"), number(NumberField::LevelTo)},
       {QStringLiteral("maxLoadWords"), number(NumberField::MaxLoadWords)},
@@ -109,8 +105,10 @@ const QList<std::pair<QString, Setter>>& setters() {
        repeats([](C& c) -> int& { return c.requiredRepeatWord; }, 5)},
       {QStringLiteral("requiredRepeatSent"),
        repeats([](C& c) -> int& { return c.requiredRepeatSent; }, 3)},
-      {QStringLiteral("compareMode"), flag([](C& c, QChar code) { c.compareMode = code; })},
-      {QStringLiteral("compareFlag"), flag([](C& c, QChar code) { c.compareFlag = code == u'1'; })},
+      {QStringLiteral("compareMode"), flag([](C& c, bool on) {
+         c.compareMode = on ? CompareMode::caseMatters : CompareMode::caseIgnored;
+       })},
+      {QStringLiteral("compareFlag"), flag([](C& c, bool on) { c.compareFlag = on; })},
   };
   return all;
 }
@@ -126,7 +124,7 @@ QString setCourseByName(CourseChoice& course, const NamedValues& values) {
     if (name != nameCourse) continue;
     if (value != u"0" && value != u"1" && value != u"2")
       return QStringLiteral("COURSE: 0（中学）、1（高校）、2（専門）のどれかにしてください。");
-    course.COURSE = value[0];
+    course.COURSE = codeOf<Course>(value);
   }
   return {};
 }

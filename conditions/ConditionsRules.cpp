@@ -15,11 +15,6 @@ namespace {
 
 const QString lastRunCaption = QStringLiteral("前回（中学／高校／専門別）");
 
-/// Lesson files, words, sentences.
-int groupOf(QChar selMethod) {
-  return (selMethod.unicode() - u'0') / 2;
-}
-
 /// Shows the wait cursor as long as it lives.
 class Busy {
  public:
@@ -49,7 +44,7 @@ bool ConditionsRules::enter() {
   m_screen.listPastRuns(listPastConditions(m_pastConditions));
   m_screen.showFolder(m_services.standardFolder);
   Loaded shown = changeCourse(m_course.COURSE);
-  if (shown == Loaded::NoTable) shown = changeCourse(course高校);
+  if (shown == Loaded::NoTable) shown = changeCourse(Course::高校);
   if (shown == Loaded::Yes) m_screen.focusNext();
   return shown == Loaded::Yes;
 }
@@ -62,23 +57,23 @@ std::optional<Database> ConditionsRules::openStore() {
   return database;
 }
 
-void ConditionsRules::chooseCourse(QChar COURSE) {
+void ConditionsRules::chooseCourse(Course COURSE) {
   changeCourse(COURSE);
 }
 
-ConditionsRules::Loaded ConditionsRules::changeCourse(QChar COURSE) {
+ConditionsRules::Loaded ConditionsRules::changeCourse(Course COURSE) {
   const Loaded loaded = switchCourse(COURSE);
   return loaded == Loaded::NoTable ? offerSpecialTables() : loaded;
 }
 
-ConditionsRules::Loaded ConditionsRules::switchCourse(QChar COURSE) {
-  const QChar before = m_course.COURSE;
+ConditionsRules::Loaded ConditionsRules::switchCourse(Course COURSE) {
+  const Course before = m_course.COURSE;
   const QString tableBefore = m_shownTable;
   m_course.COURSE = COURSE;
   m_shownTable.clear();
   const Loaded loaded = loadRecord();
   if (loaded == Loaded::Yes) {
-    if (COURSE == course専門) m_shownTable = m_course.specialTable;
+    if (COURSE == Course::専門) m_shownTable = m_course.specialTable;
     showRecord();
     return loaded;
   }
@@ -94,7 +89,7 @@ ConditionsRules::Loaded ConditionsRules::loadRecord() {
   std::optional<Database> database = openStore();
   if (!database) return Loaded::Failed;
   const QString table = prWhichTable(m_course).first();
-  if (m_course.COURSE == course専門 && !specialTables(*database).contains(table))
+  if (m_course.COURSE == Course::専門 && !specialTables(*database).contains(table))
     return Loaded::NoTable;
   const auto rsTDIC = database->OpenRecordset(table);
   if (!rsTDIC) {
@@ -106,7 +101,7 @@ ConditionsRules::Loaded ConditionsRules::loadRecord() {
 }
 
 void ConditionsRules::chooseSpecialTable() {
-  if (m_course.COURSE == course専門 || switchCourse(course専門) != Loaded::Failed)
+  if (m_course.COURSE == Course::専門 || switchCourse(Course::専門) != Loaded::Failed)
     offerSpecialTables();
 }
 
@@ -117,7 +112,7 @@ ConditionsRules::Loaded ConditionsRules::offerSpecialTables() {
   database.reset();
   const std::optional<QString> chosen = m_screen.chooseSpecialTable(tables, m_shownTable);
   if (chosen) return useSpecialTable(*chosen);
-  return m_shownTable.isEmpty() ? changeCourse(course高校) : Loaded::Yes;
+  return m_shownTable.isEmpty() ? changeCourse(Course::高校) : Loaded::Yes;
 }
 
 ConditionsRules::Loaded ConditionsRules::useSpecialTable(const QString& table) {
@@ -154,7 +149,7 @@ void ConditionsRules::showRecord() {
   m_screen.showStartMode(m_conditions.startMode);
   m_screen.showMemory(m_conditions.memorySelect);
   showNumbers();
-  if (m_conditions.startMode == u'3') {
+  if (m_conditions.startMode == StartMode::named) {
     fillStarts();
     restoreSpecifiedStart();
   } else {
@@ -167,22 +162,22 @@ void ConditionsRules::showNumbers() {
   for (int i = 0; i < numberFieldCount; ++i) leaveNumber(static_cast<NumberField>(i));
 }
 
-void ConditionsRules::chooseMethod(QChar selMethod) {
+void ConditionsRules::chooseMethod(SelMethod selMethod) {
   m_conditions.selMethod = selMethod;
   m_screen.showMethod(selMethod);
   if (m_conditions.usesLesson()) {
-    if (m_conditions.isRandom() && m_conditions.startMode != u'1') {
+    if (m_conditions.isRandom() && m_conditions.startMode != StartMode::first) {
       m_services.dialogs.show(QStringLiteral("開始英語の指定を「最初から」に設定します。"));
-      chooseStartMode(u'1');
+      chooseStartMode(StartMode::first);
     }
     m_screen.focusLessonName();
     readLesson();
     m_lesson.dropMissing();
   }
   if (!sameMethodAsLastRun()) {
-    chooseStartMode(u'1');
+    chooseStartMode(StartMode::first);
     setStart(QString());
-  } else if (m_conditions.startMode == u'3') {
+  } else if (m_conditions.startMode == StartMode::named) {
     fillStarts();
   } else {
     m_startBroken = m_startBroken && !goesOnFromLastRun();
@@ -190,7 +185,7 @@ void ConditionsRules::chooseMethod(QChar selMethod) {
 }
 
 bool ConditionsRules::sameMethodAsLastRun() const {
-  return groupOf(m_conditions.selMethod) == groupOf(m_prevSelMethod);
+  return materialOf(m_conditions.selMethod) == materialOf(m_prevSelMethod);
 }
 
 bool ConditionsRules::goesOnFromLastRun() const {
@@ -199,14 +194,14 @@ bool ConditionsRules::goesOnFromLastRun() const {
           trimBlanks(m_snapshot.lessonFile) == trimBlanks(m_conditions.lessonFile));
 }
 
-void ConditionsRules::chooseStartMode(QChar startMode) {
+void ConditionsRules::chooseStartMode(StartMode startMode) {
   m_conditions.startMode = startMode;
   m_startBroken = false;
   m_screen.showStartMode(startMode);
-  if (startMode == u'1') return;
-  if (startMode == u'3') {
+  if (startMode == StartMode::first) return;
+  if (startMode == StartMode::named) {
     fillStarts();
-    if (m_snapshot.startMode == u'3') restoreSpecifiedStart();
+    if (m_snapshot.startMode == StartMode::named) restoreSpecifiedStart();
     return;
   }
   if (!goesOnFromLastRun()) tellBrokenStart();
@@ -224,7 +219,7 @@ void ConditionsRules::tellBrokenStart() {
   m_services.dialogs.show(lines.join(u'\n'));
 }
 
-void ConditionsRules::chooseMemory(QChar memorySelect) {
+void ConditionsRules::chooseMemory(MemorySelect memorySelect) {
   m_conditions.memorySelect = memorySelect;
   m_screen.showMemory(memorySelect);
 }
@@ -248,9 +243,9 @@ void ConditionsRules::fillStarts() {
     }
     m_screen.listStarts(starts);
   }
-  if (tableMissing && m_course.COURSE == course専門) {
+  if (tableMissing && m_course.COURSE == Course::専門) {
     m_services.dialogs.show(missingTable(m_course.specialTable));
-    changeCourse(course高校);
+    changeCourse(Course::高校);
     return;
   }
   setStart(starts.value(0));
@@ -262,8 +257,8 @@ void ConditionsRules::setStart(const QString& text) {
 }
 
 void ConditionsRules::restoreSpecifiedStart() {
-  if (m_conditions.startMode == u'3' &&
-      groupOf(m_conditions.selMethod) == groupOf(m_snapshot.selMethod) &&
+  if (m_conditions.startMode == StartMode::named &&
+      materialOf(m_conditions.selMethod) == materialOf(m_snapshot.selMethod) &&
       m_snapshot.lessonFile == m_lesson.text())
     setStart(m_snapshot.startEnglish);
 }
@@ -293,10 +288,10 @@ void ConditionsRules::pickLesson(const QString& folder, const QString& name) {
 void ConditionsRules::typeLessonName(const QString& text, const QString& folder) {
   const QString before = m_conditions.lessonFile;
   m_lesson.setText(text, folder);
-  if (m_conditions.selMethod != u'0') chooseMethod(u'0');
+  if (m_conditions.selMethod != SelMethod::lessonInOrder) chooseMethod(SelMethod::lessonInOrder);
   readLesson();
   // A new file starts from the top.
-  if (m_lesson.exists() && m_conditions.lessonFile != before) chooseStartMode(u'1');
+  if (m_lesson.exists() && m_conditions.lessonFile != before) chooseStartMode(StartMode::first);
 }
 
 void ConditionsRules::typeNumber(NumberField field, const QString& text) {
@@ -333,7 +328,7 @@ void ConditionsRules::choosePastRun(int index) {
 }
 
 std::optional<QString> ConditionsRules::next() {
-  if (m_course.COURSE == course専門 && trimBlanks(m_course.specialTable).isEmpty()) {
+  if (m_course.COURSE == Course::専門 && trimBlanks(m_course.specialTable).isEmpty()) {
     m_services.dialogs.show(QStringLiteral("専門辞書の指定ができていません。"));
     return std::nullopt;
   }
@@ -347,12 +342,12 @@ std::optional<QString> ConditionsRules::next() {
     }
   }
   QString startKey = startKeyFirst;
-  if (m_conditions.startMode == u'3') {
+  if (m_conditions.startMode == StartMode::named) {
     const std::optional<QString> specified = specifiedStart();
     if (!specified) return std::nullopt;
     m_conditions.startEnglish = *specified;
     startKey = startKeyOf(m_conditions);
-  } else if (m_conditions.startMode == u'1') {
+  } else if (m_conditions.startMode == StartMode::first) {
     m_conditions.startEnglish.clear();
   } else if (!m_startBroken) {
     startKey = startKeyOf(m_conditions);

@@ -39,12 +39,12 @@ class ConditionsRules {
   /// ones. False when the database cannot be read; the learner has then been told.
   bool enter();
 
-  void chooseCourse(QChar COURSE);
+  void chooseCourse(Course COURSE);
   /// The learner wants another specialist dictionary.
   void chooseSpecialTable();
-  void chooseMethod(QChar selMethod);
-  void chooseStartMode(QChar startMode);
-  void chooseMemory(QChar memorySelect);
+  void chooseMethod(SelMethod selMethod);
+  void chooseStartMode(StartMode startMode);
+  void chooseMemory(MemorySelect memorySelect);
 
   /// What the box of the specified start holds.
   void typeStart(const QString& text);
@@ -75,9 +75,9 @@ class ConditionsRules {
   std::optional<Database> openStore();
   Loaded loadRecord();
   /// Goes to a course and shows its record; without its dictionary nothing is shown.
-  Loaded switchCourse(QChar COURSE);
+  Loaded switchCourse(Course COURSE);
   /// The same, asking for a dictionary where the course has none.
-  Loaded changeCourse(QChar COURSE);
+  Loaded changeCourse(Course COURSE);
   Loaded offerSpecialTables();
   Loaded useSpecialTable(const QString& table);
   void showRecord();
@@ -101,7 +101,7 @@ class ConditionsRules {
 
   /// The record as it was loaded: the choices of the last run with this course.
   PracticeConditions m_snapshot;
-  QChar m_prevSelMethod;
+  SelMethod m_prevSelMethod{};
   /// A start at a place of the last run was refused.
   bool m_startBroken = false;
   QString m_shownTable;  ///< the specialist dictionary on show

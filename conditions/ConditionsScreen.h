@@ -18,14 +18,14 @@ class ConditionsScreen {
   virtual ~ConditionsScreen() = default;
 
   /// `specialTable` is empty while no specialist dictionary is in use.
-  virtual void showCourse(QChar COURSE, const QString& specialTable) = 0;
+  virtual void showCourse(Course COURSE, const QString& specialTable) = 0;
   /// Only a lesson shows its preview and lets its name be typed.
-  virtual void showMethod(QChar selMethod) = 0;
+  virtual void showMethod(SelMethod selMethod) = 0;
   /// Only a specified start ("3") lets one be chosen.
-  virtual void showStartMode(QChar startMode) = 0;
+  virtual void showStartMode(StartMode startMode) = 0;
   virtual void listStarts(const QStringList& entries) = 0;
   virtual void showStart(const QString& text) = 0;
-  virtual void showMemory(QChar memorySelect) = 0;
+  virtual void showMemory(MemorySelect memorySelect) = 0;
   virtual void showNumber(NumberField field, const QString& text) = 0;
 
   /// Opens a folder in the picker; one that is not there leaves the picker where it is.

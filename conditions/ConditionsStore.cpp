@@ -14,22 +14,23 @@ CourseChoice readCourse(Database& database, const CourseChoice& before) {
     course = CourseChoice();
     rsBDIC->AddNew();
     rsBDIC->setValue(field文番, rowCourse);
-    rsBDIC->setValue(field記憶, QString(course.COURSE));
+    rsBDIC->setValue(field記憶, QString(stored(course.COURSE)));
     rsBDIC->setValue(field回数, QStringLiteral("00"));
     rsBDIC->setValue(field問正コ, QString());
     rsBDIC->Update();
     return course;
   }
   const QString code = rsBDIC->text(field記憶);
-  course.COURSE = code == QString(course中学) || code == QString(course専門) ? code[0] : course高校;
+  course.COURSE =
+      code.size() == 1 && isCourse(codeOf<Course>(code)) ? codeOf<Course>(code) : Course::高校;
   course.specialTable = trimBlanks(rsBDIC->value(field問正コ).value_or(before.specialTable));
   return course;
 }
 
 bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course) {
   if (!rsBDIC.EditOrAddNew(rowCourse, {{field回数, QStringLiteral("00")}})) return false;
-  rsBDIC.setValue(field記憶, QString(course.COURSE));
-  if (course.COURSE == course専門) rsBDIC.setValue(field問正コ, trimBlanks(course.specialTable));
+  rsBDIC.setValue(field記憶, QString(stored(course.COURSE)));
+  if (course.COURSE == Course::専門) rsBDIC.setValue(field問正コ, trimBlanks(course.specialTable));
   return rsBDIC.Update();
 }
 
@@ -44,7 +45,7 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
     rsTDIC.setValue(field英語, rowConditions);
     rsTDIC.setValue(field発同日コ, encodeConditions(conditions));
     rsTDIC.setValue(fieldレベル, QStringLiteral("00"));
-    rsTDIC.setValue(field記憶, QStringLiteral("0"));
+    rsTDIC.setValue(field記憶, QString(stored(MemoryState::全然)));
     rsTDIC.setValue(field回数, QStringLiteral("00"));
     rsTDIC.Update();
     return conditions;

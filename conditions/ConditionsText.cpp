@@ -6,13 +6,14 @@ namespace tavoli {
 
 namespace {
 
-QString nameOf(QChar code, const QStringList& names) {
-  const int index = code.unicode() - u'0';
+template <StoredCode Code>
+QString nameOf(Code code, const QStringList& names) {
+  const int index = indexOf(code);
   return index >= 0 && index < names.size() ? names[index] : QString();
 }
 
-QString courseText(QChar COURSE, const QString& specialTable) {
-  return COURSE == course専門 ? courseName(COURSE) + u' ' + specialTable : courseName(COURSE);
+QString courseText(Course COURSE, const QString& specialTable) {
+  return COURSE == Course::専門 ? courseName(COURSE) + u' ' + specialTable : courseName(COURSE);
 }
 
 QString levelText(const QString& from, const QString& to) {
@@ -22,16 +23,18 @@ QString levelText(const QString& from, const QString& to) {
 /// The fields that the present and a past run have in common.
 struct Common {
   QString course;
-  QChar selMethod, startMode, memorySelect;
+  SelMethod selMethod;
+  StartMode startMode;
+  MemorySelect memorySelect;
   QString startEnglish, firstEnglish, lastEnglish, levels, lessonFile;
 };
 
 ConditionLines linesOf(const Common& c) {
   ConditionLines lines = {{QStringLiteral("コース"), c.course},
                           {QStringLiteral("練習対象"), methodName(c.selMethod)}};
-  if (c.selMethod == u'0' || c.selMethod == u'1')
+  if (materialOf(c.selMethod) == Material::lesson)
     lines.append({QStringLiteral("レッスンファイル"), c.lessonFile});
-  lines.append({QStringLiteral("開始英語"), c.startMode == u'3'
+  lines.append({QStringLiteral("開始英語"), c.startMode == StartMode::named
                                                 ? startModeName(c.startMode) + u' ' + c.startEnglish
                                                 : startModeName(c.startMode)});
   lines.append({QStringLiteral("前回の最初と最後"),
@@ -43,11 +46,7 @@ ConditionLines linesOf(const Common& c) {
 
 }  // namespace
 
-QString courseName(QChar COURSE) {
-  return nameOf(COURSE, {QStringLiteral("中学"), QStringLiteral("高校"), QStringLiteral("専門")});
-}
-
-QString methodName(QChar selMethod) {
+QString methodName(SelMethod selMethod) {
   return nameOf(
       selMethod,
       {QStringLiteral("レッスンファイル　順に"), QStringLiteral("レッスンファイル　ランダムに"),
@@ -55,12 +54,12 @@ QString methodName(QChar selMethod) {
        QStringLiteral("例文　順に"), QStringLiteral("例文　ランダムに")});
 }
 
-QString startModeName(QChar startMode) {
+QString startModeName(StartMode startMode) {
   return nameOf(startMode, {QStringLiteral("前回と同じ英語から"), QStringLiteral("最初から"),
                             QStringLiteral("前回の最後に続けて"), QStringLiteral("指定する")});
 }
 
-QString memorySelectName(QChar memorySelect) {
+QString memorySelectName(MemorySelect memorySelect) {
   return nameOf(memorySelect, {QStringLiteral("「全然」"), QStringLiteral("「全然」と「うろ覚え」"),
                                QStringLiteral("「うろ覚え」"), QStringLiteral("「完全」"),
                                QStringLiteral("「完全」と「うろ覚え」"),

@@ -11,10 +11,9 @@
 // The conditions as people read them. An unknown code gives an empty text.
 namespace tavoli {
 
-QString courseName(QChar COURSE);
-QString methodName(QChar selMethod);
-QString startModeName(QChar startMode);
-QString memorySelectName(QChar memorySelect);
+QString methodName(SelMethod selMethod);
+QString startModeName(StartMode startMode);
+QString memorySelectName(MemorySelect memorySelect);
 
 /// Captions and values, in the order in which they are shown.
 using ConditionLines = QList<std::pair<QString, QString>>;

@@ -18,8 +18,9 @@ QChar characterAt(const QString& line, qsizetype position) {
 QString pastConditionsLine(QDate date, const CourseChoice& course, const PracticeConditions& c) {
   // From here on the line is the record of the tables with other things before and behind.
   const QString record = encodeConditions(c);
-  return date.toString(QStringLiteral("yyyy/MM/dd")) + course.COURSE + cut(record, 10, 174) +
-         fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark + c.lessonFile;
+  return date.toString(QStringLiteral("yyyy/MM/dd")) + stored(course.COURSE) +
+         cut(record, 10, 174) + fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark +
+         c.lessonFile;
 }
 
 PastRun lastRun(const CourseChoice& course, const PracticeConditions& c) {
@@ -34,13 +35,13 @@ PastRun readConditions(const QString& line) {
   };
   PastRun run;
   run.date = text(1, 10);
-  run.COURSE = characterAt(line, 11);
-  run.selMethod = characterAt(line, 13);
-  run.startMode = characterAt(line, 26);
+  run.COURSE = codeOf<Course>(characterAt(line, 11));
+  run.selMethod = codeOf<SelMethod>(characterAt(line, 13));
+  run.startMode = codeOf<StartMode>(characterAt(line, 26));
   run.startEnglish = text(27, 50);
   run.firstEnglish = text(77, 50);
   run.lastEnglish = text(127, 50);
-  run.memorySelect = characterAt(line, 177);
+  run.memorySelect = codeOf<MemorySelect>(characterAt(line, 177));
   run.levelFrom = text(178, 2);
   run.levelTo = text(180, 2);
   run.specialTable = text(186, 25);
@@ -58,10 +59,8 @@ QStringList listPastConditions(const QStringList& lines) {
   QStringList entries;
   QString letter;
   for (int n = 0; n < lines.size(); ++n) {
-    const QChar course = characterAt(lines[n], 11);
-    if (course == course中学) letter = QStringLiteral("中");
-    if (course == course高校) letter = QStringLiteral("高");
-    if (course == course専門) letter = QStringLiteral("専");
+    const auto course = codeOf<Course>(characterAt(lines[n], 11));
+    if (isCourse(course)) letter = factsOf(course).letter;
     entries.append(digits(n + 1, 3) + QStringLiteral("　") + cut(lines[n], 1, 10) + letter);
   }
   return entries;

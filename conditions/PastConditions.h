@@ -16,13 +16,13 @@ class Files;
 /// What is told of an earlier run.
 struct PastRun {
   QString date;  ///< yyyy/mm/dd
-  QChar COURSE;
-  QChar selMethod;
-  QChar startMode;
+  Course COURSE{};
+  SelMethod selMethod{};
+  StartMode startMode{};
   QString startEnglish;
   QString firstEnglish;
   QString lastEnglish;
-  QChar memorySelect;
+  MemorySelect memorySelect{};
   QString levelFrom;
   QString levelTo;
   QString specialTable;

@@ -15,6 +15,19 @@ QChar orBlank(QChar c) {
   return c.isNull() ? QChar(u' ') : c;
 }
 
+template <StoredCode Code>
+QChar orBlank(Code code) {
+  return orBlank(stored(code));
+}
+
+/// How answers are compared, in one character.
+enum class ComparisonCode : char16_t {
+  caseIgnored = u'0',
+  caseMatters,
+  caseAndBlanksIgnored,
+  blanksIgnored
+};
+
 QString oneDigit(int value) {
   return QString::number(std::clamp(value, 0, 9));
 }
@@ -27,9 +40,11 @@ QString secondsPerCharacter(double value) {
   return QString::number(std::clamp(value, 0.0, 9.99), 'f', 2);
 }
 
-QChar comparisonCode(const PracticeConditions& c) {
-  if (!c.compareFlag) return c.compareMode;
-  return c.compareMode == u'0' ? u'2' : u'3';
+ComparisonCode comparisonCode(const PracticeConditions& c) {
+  const bool caseIgnored = c.compareMode == CompareMode::caseIgnored;
+  if (!c.compareFlag)
+    return caseIgnored ? ComparisonCode::caseIgnored : ComparisonCode::caseMatters;
+  return caseIgnored ? ComparisonCode::caseAndBlanksIgnored : ComparisonCode::blanksIgnored;
 }
 
 /// Takes fields off a fixed-position text one after the other.
@@ -58,12 +73,6 @@ class FieldReader {
 
 }  // namespace
 
-QStringList prWhichTable(const CourseChoice& course) {
-  if (course.COURSE == course中学) return {tableJTDIC, tableSTDIC};
-  if (course.COURSE == course高校) return {tableSTDIC, tableJTDIC};
-  return {course.specialTable, tableSTDIC, tableJTDIC};
-}
-
 QString encodeConditions(const PracticeConditions& c) {
   return fixedWidth(c.userId, 8) + orBlank(c.condMark) + orBlank(c.condSpare) +
          orBlank(c.selMethod) + fixedWidth(QString::number(c.maxLoadWords), 5) +
@@ -75,23 +84,23 @@ QString encodeConditions(const PracticeConditions& c) {
          secondsPerCharacter(c.targetSentA) + seconds(c.targetSentB) +
          secondsPerCharacter(c.targetWordA) + seconds(c.targetWordB) + oneDigit(c.reviewCycle) +
          oneDigit(c.firstRepeatWord) + oneDigit(c.firstRepeatSent) +
-         oneDigit(c.requiredRepeatWord) + oneDigit(c.requiredRepeatSent) + comparisonCode(c) +
-         c.lessonFolder + fieldMark + c.lessonFile;
+         oneDigit(c.requiredRepeatWord) + oneDigit(c.requiredRepeatSent) +
+         stored(comparisonCode(c)) + c.lessonFolder + fieldMark + c.lessonFile;
 }
 
 PracticeConditions decodeConditions(const QString& record, const QString& defaultLessonFolder) {
   PracticeConditions c;
   FieldReader fields(record, 10);
   c.condSpare = fields.character();
-  c.selMethod = fields.character();
+  c.selMethod = codeOf<SelMethod>(fields.character());
   c.maxLoadWords = fields.number(5);
   c.maxLoadSent = fields.number(5);
   c.lessonDrive = fields.text(2);
-  c.startMode = fields.character();
+  c.startMode = codeOf<StartMode>(fields.character());
   c.startEnglish = fields.text(startWidth);
   c.firstEnglish = fields.text(startWidth);
   c.lastEnglish = fields.text(startWidth);
-  c.memorySelect = fields.character();
+  c.memorySelect = codeOf<MemorySelect>(fields.character());
   c.levelFrom = fields.text(2);
   c.levelTo = fields.text(2);
   c.levelSpareFrom = fields.text(2);
@@ -105,9 +114,11 @@ PracticeConditions decodeConditions(const QString& record, const QString& defaul
   c.firstRepeatSent = fields.number(1);
   c.requiredRepeatWord = fields.number(1);
   c.requiredRepeatSent = fields.number(1);
-  const QChar code = fields.character();
-  c.compareFlag = code != u'0' && code != u'1';
-  c.compareMode = code == u'0' || code == u'2' ? u'0' : u'1';
+  const auto code = codeOf<ComparisonCode>(fields.character());
+  c.compareFlag = code != ComparisonCode::caseIgnored && code != ComparisonCode::caseMatters;
+  const bool caseIgnored =
+      code == ComparisonCode::caseIgnored || code == ComparisonCode::caseAndBlanksIgnored;
+  c.compareMode = caseIgnored ? CompareMode::caseIgnored : CompareMode::caseMatters;
   const QString tail = fields.rest();
   const qsizetype mark = tail.indexOf(fieldMark);
   c.lessonFolder = mark >= 1 ? tail.left(mark) : defaultLessonFolder;
@@ -115,29 +126,33 @@ PracticeConditions decodeConditions(const QString& record, const QString& defaul
   return c;
 }
 
-bool memoryAdmitted(QChar memorySelect, QChar code) {
-  switch (memorySelect.unicode()) {
-    case u'0':
-      return code == u'0';
-    case u'1':
-      return code == u'0' || code == u'1';
-    case u'2':
-      return code == u'1';
-    case u'3':
-      return code == u'2';
-    case u'4':
-      return code == u'1' || code == u'2';
-    default:
-      return memorySelect == u'5';
+bool memoryAdmitted(MemorySelect memorySelect, MemoryState state) {
+  const bool 全然 = state == MemoryState::全然;
+  const bool うろ覚え = state == MemoryState::うろ覚え;
+  const bool 完全 = state == MemoryState::完全;
+  switch (memorySelect) {
+    case MemorySelect::全然:
+      return 全然;
+    case MemorySelect::全然とうろ覚え:
+      return 全然 || うろ覚え;
+    case MemorySelect::うろ覚え:
+      return うろ覚え;
+    case MemorySelect::完全:
+      return 完全;
+    case MemorySelect::完全とうろ覚え:
+      return 完全 || うろ覚え;
+    case MemorySelect::すべて:
+      return true;
   }
+  return false;
 }
 
 QString startKeyOf(const PracticeConditions& c) {
   const PracticeConditions never;
   QString key = startKeyFirst;
-  if (c.startMode == u'0') key = trimBlanks(c.firstEnglish);
-  if (c.startMode == u'2') key = trimBlanks(c.lastEnglish);
-  if (c.startMode == u'3') key = trimBlanks(c.startEnglish);
+  if (c.startMode == StartMode::whereBegun) key = trimBlanks(c.firstEnglish);
+  if (c.startMode == StartMode::whereEnded) key = trimBlanks(c.lastEnglish);
+  if (c.startMode == StartMode::named) key = trimBlanks(c.startEnglish);
   const bool nothingYet = key.isEmpty() || key == never.firstEnglish || key == never.lastEnglish;
   return nothingYet ? startKeyFirst : key;
 }

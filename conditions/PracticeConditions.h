@@ -3,12 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-#include "data/Course.h"
+#include "data/Courses.h"
 
 namespace tavoli {
-
-/// The dictionaries of a course in look-up order, two or three of them.
-QStringList prWhichTable(const CourseChoice& course);
 
 /// The path of a file in a folder, which may be the root.
 inline QString pathIn(const QString& folder, const QString& file) {
@@ -21,19 +18,15 @@ struct PracticeConditions {
   QString userId;  ///< at most 8 characters
   QChar condMark = u'2';
   QChar condSpare = u'0';
-  /// 0, 1 lesson file; 2, 3 words; 4, 5 sentences; odd ones at random.
-  QChar selMethod = u'2';
+  SelMethod selMethod = SelMethod::wordsInOrder;
   int maxLoadWords = 200;  ///< rows read, up to 24990
   int maxLoadSent = 100;
   QString lessonDrive = QStringLiteral("c:");
-  /// 0 where last time began, 1 the first item, 2 where last time ended, 3 at startEnglish.
-  QChar startMode = u'0';
+  StartMode startMode = StartMode::whereBegun;
   QString startEnglish;  ///< these three at most 50 characters
   QString firstEnglish = QStringLiteral("- start -");
   QString lastEnglish = QStringLiteral("-  end  -");
-  /// Which memory states are asked: 0 全然, 1 全然 and うろ覚え, 2 うろ覚え, 3 完全,
-  /// 4 完全 and うろ覚え, 5 all.
-  QChar memorySelect = u'1';
+  MemorySelect memorySelect = MemorySelect::全然とうろ覚え;
   QString levelFrom = QStringLiteral("00");  ///< two digits, like the next three
   QString levelTo = QStringLiteral("10");
   QString levelSpareFrom = QStringLiteral("00");
@@ -48,14 +41,14 @@ struct PracticeConditions {
   int firstRepeatSent = 1;
   int requiredRepeatWord = 2;
   int requiredRepeatSent = 1;
-  QChar compareMode = u'0';  ///< 0 upper and lower case are the same, 1 they differ
-  bool compareFlag = true;   ///< blanks and hyphens are ignored
+  CompareMode compareMode = CompareMode::caseIgnored;
+  bool compareFlag = true;  ///< blanks and hyphens are ignored
   QString lessonFolder;
   QString lessonFile = QStringLiteral(" ｼﾃｲﾅｼ ");
 
-  bool usesLesson() const { return selMethod == u'0' || selMethod == u'1'; }
-  bool usesWords() const { return selMethod == u'2' || selMethod == u'3'; }
-  bool isRandom() const { return selMethod == u'1' || selMethod == u'3' || selMethod == u'5'; }
+  bool usesLesson() const { return materialOf(selMethod) == Material::lesson; }
+  bool usesWords() const { return materialOf(selMethod) == Material::words; }
+  bool isRandom() const { return tavoli::isRandom(selMethod); }
   QString lessonPath() const { return pathIn(lessonFolder, lessonFile); }
 };
 
@@ -67,8 +60,8 @@ QString encodeConditions(const PracticeConditions& conditions);
 /// 0; a tail without "|" gives `defaultLessonFolder` and no file.
 PracticeConditions decodeConditions(const QString& record, const QString& defaultLessonFolder);
 
-/// Whether a 小問 or an item with memory code `code` is asked under `memorySelect`.
-bool memoryAdmitted(QChar memorySelect, QChar code);
+/// Whether a 小問 or an item with this memory state is asked under `memorySelect`.
+bool memoryAdmitted(MemorySelect memorySelect, MemoryState state);
 
 /// The key at which a run starts; "000000" for the first item.
 QString startKeyOf(const PracticeConditions& conditions);

@@ -55,7 +55,7 @@ StartCheck checkTableStart(const QString& named, const PracticeConditions& condi
   const QString table = words ? prWhichTable(course).first() : tableBDIC;
   const auto rows = database->OpenRecordset(table);
   if (!rows) {
-    check.trouble = course.COURSE == course専門 && words
+    check.trouble = course.COURSE == Course::専門 && words
                         ? missingTable(table)
                         : openTrouble(path, openError::notADatabase);
     return check;

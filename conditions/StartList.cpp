@@ -29,13 +29,13 @@ std::optional<QStringList> wordStarts(Database& database, const QString& table) 
   return starts;
 }
 
-QStringList sentenceStarts(Database& database, QChar COURSE) {
+QStringList sentenceStarts(Database& database, Course COURSE) {
   constexpr int headWidth = 10;
   QStringList starts;
   const auto rows = database.OpenRecordset(tableBDIC, {field問正コ});
   if (!rows) return starts;
-  if (COURSE == course中学) rows->Seek(SeekOp::AtOrAfter, QStringLiteral("00000"));
-  if (COURSE == course高校) rows->Seek(SeekOp::AtOrAfter, QStringLiteral("50000"));
+  const QString& from = factsOf(COURSE).firstStart;
+  if (!from.isEmpty()) rows->Seek(SeekOp::AtOrAfter, from);
   for (; rows->hasRow() && !isReservedKey(rows->key()); rows->MoveNext()) {
     const QString text = rows->text(field問正コ);
     starts.append(sentencePlaces(rows->key()) + sentenceMark +

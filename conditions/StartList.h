@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "data/Courses.h"
 #include "data/Database.h"
 
 // What a run may start at, as it is offered in a list.
@@ -18,6 +19,6 @@ std::optional<QStringList> wordStarts(Database& database, const QString& table);
 
 /// The sentences from the course's first one on to the last of all, each with the head of its
 /// text. Course 専門 begins at the very first sentence.
-QStringList sentenceStarts(Database& database, QChar COURSE);
+QStringList sentenceStarts(Database& database, Course COURSE);
 
 }  // namespace tavoli

@@ -35,7 +35,7 @@ class WordingCheck {
       : m_problems(problems), m_warnings(warnings) {}
 
   void checkSentence(const ContentRow& row) {
-    const CurrentRecord record = ParseRecord(row.record, row.key, tableOfSentences);
+    const CurrentRecord record = ParseRecord(row.record, row.key, TableCode::sentences);
     complain(row, sentenceProblems(row, record));
     const ContentRow*& first = m_questions[parseMarks(record.問題文).text];
     if (first)
@@ -47,7 +47,7 @@ class WordingCheck {
   }
 
   void checkWord(const QString& table, const ContentRow& row) {
-    const CurrentRecord record = ParseRecord(row.record, row.key, QChar());
+    const CurrentRecord record = ParseRecord(row.record, row.key, TableCode::first);
     complain(row, wordProblems(row, record));
     warn(wordWarnings(table, row, record));
     QStringList meanings;

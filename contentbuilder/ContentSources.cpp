@@ -28,11 +28,11 @@ QString groupOf(const QString& file, const QString& kind, const QString& ending)
   return steps.size() == 3 && steps[0] == kind && file.endsWith(ending) ? steps[1] : QString();
 }
 
-const SentenceCourse* courseOf(const QString& file) {
+const CourseFacts* courseOf(const QString& file) {
   const QString name = groupOf(file, sentencesFolder, sentencesEnd);
-  const auto course = std::find_if(sentenceCourses.begin(), sentenceCourses.end(),
-                                   [&](auto& c) { return c.name == name; });
-  return course == sentenceCourses.end() ? nullptr : &*course;
+  const auto course =
+      std::find_if(courses().begin(), courses().end(), [&](auto& c) { return c.name == name; });
+  return course == courses().end() ? nullptr : &*course;
 }
 
 bool startsLike(const QString& table, const QString& start) {
@@ -61,7 +61,7 @@ class ContentReader {
 
   void read(const SourceFile& file) {
     if (companions.contains(file.name)) return;
-    if (const SentenceCourse* course = courseOf(file.name)) {
+    if (const CourseFacts* course = courseOf(file.name)) {
       if (const std::optional<SourceText> source = readSource(file, m_problems))
         append(m_tables.front(), *source,
                parseSentences(*source, *course, m_places[0], m_problems));

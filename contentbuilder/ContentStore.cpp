@@ -17,7 +17,7 @@ namespace {
 bool addRow(TableCursor& rows, const QString& table, const ContentRow& row) {
   rows.AddNew();
   rows.setValue(keyField(table), row.key);
-  rows.setValue(field記憶, QString(memory全然));
+  rows.setValue(field記憶, QString(stored(MemoryState::全然)));
   rows.setValue(field回数, QStringLiteral("00"));
   rows.setValue(recordField(table), row.record);
   rows.setValue(field読上, row.読上.isEmpty() ? Field() : row.読上);
@@ -70,7 +70,7 @@ class TableDump {
     for (const SourceLayout& layout : layouts)
       if (tableOfSource(layout.file) == m_table) arrange(layout);
     if (m_table == tableBDIC) {
-      for (const SentenceCourse& course : sentenceCourses)
+      for (const CourseFacts& course : courses())
         arrangeRest(sentencesFileName(course.name),
                     [&](const QString& key) { return course.holds(key); });
     } else {
@@ -121,10 +121,10 @@ class TableDump {
   bool add(const TableCursor& rows) {
     const bool sentence = m_table == tableBDIC;
     CurrentRecord record = ParseRecord(rows.text(recordField(m_table)), rows.key(),
-                                       sentence ? tableOfSentences : QChar());
+                                       sentence ? TableCode::sentences : TableCode::first);
     if (!record.complete) return false;
     for (SubQuestion& s : record.小問) {
-      s.記 = memory全然;
+      s.記 = MemoryState::全然;
       s.小問回数 = 0;
     }
     ContentRow row{rows.key(), QString(), packRecord(record), rows.text(field読上)};
@@ -132,7 +132,7 @@ class TableDump {
   }
 
   bool addSentence(const ContentRow& row, const CurrentRecord& record) {
-    for (const SentenceCourse& course : sentenceCourses) {
+    for (const CourseFacts& course : courses()) {
       if (!course.holds(row.key)) continue;
       const QByteArray block = sentenceSource(row, record).toUtf8();
       Problems problems;

@@ -29,7 +29,7 @@ CurrentRecord withStates(CurrentRecord record, CurrentRecord learnt) {
         std::find_if(learnt.小問.begin(), learnt.小問.end(), [&](const SubQuestion& l) {
           return textOf(l) == textOf(s) && !memoryName(l.記).isEmpty();
         });
-    s.記 = memory全然;
+    s.記 = MemoryState::全然;
     s.小問回数 = 0;
     if (same == learnt.小問.end()) continue;
     s.記 = same->記;
@@ -63,7 +63,7 @@ class TableMerge {
   bool mergeRow(const TableCursor& content) {
     const QString key = content.key();
     const QString field = recordField(m_table);
-    const QChar kind = m_table == tableBDIC ? tableOfSentences : QChar();
+    const TableCode kind = m_table == tableBDIC ? TableCode::sentences : TableCode::first;
     const CurrentRecord offered = ParseRecord(content.text(field), key, kind);
     if (key == rowContentEnd) return seek(key) || add(content, content.text(field));
     if (!offered.complete || content.isDamaged(field)) return false;
@@ -79,7 +79,7 @@ class TableMerge {
     const CurrentRecord record = withStates(offered, ParseRecord(m_rows->text(field), key, kind));
     return change({{keyField(m_table), key},
                    {fieldレベル, content.value(fieldレベル)},
-                   {field記憶, QString(itemState(record, key).state)},
+                   {field記憶, QString(stored(itemState(record, key).state))},
                    {field, packRecord(record)},
                    {field読上, content.value(field読上)}});
   }
@@ -96,7 +96,7 @@ class TableMerge {
   bool add(const TableCursor& content, const QString& record) {
     m_rows->AddNew();
     m_rows->setValue(keyField(m_table), content.key());
-    m_rows->setValue(field記憶, QString(memory全然));
+    m_rows->setValue(field記憶, QString(stored(MemoryState::全然)));
     m_rows->setValue(field回数, QStringLiteral("00"));
     m_rows->setValue(recordField(m_table), record);
     m_rows->setValue(field読上, content.value(field読上));

@@ -10,12 +10,6 @@
 
 namespace tavoli {
 
-const std::vector<SentenceCourse> sentenceCourses = {
-    {QStringLiteral("中学"), QStringLiteral("000000"), QStringLiteral("499999")},
-    {QStringLiteral("高校"), QStringLiteral("500000"), QStringLiteral("899999")},
-    {QStringLiteral("専門"), QStringLiteral("900000"), QStringLiteral("999999")},
-};
-
 namespace {
 
 constexpr int numberLength = 6;
@@ -38,8 +32,7 @@ class SentenceReader {
   SentenceReader(const SourceText& source, Problems& problems)
       : m_source(source), m_problems(problems) {}
 
-  ContentRow read(std::span<const SourceLine> lines, const SentenceCourse& course,
-                  KeyPlaces& places) {
+  ContentRow read(std::span<const SourceLine> lines, const CourseFacts& course, KeyPlaces& places) {
     const SourceLine& first = lines.front();
     m_row.place = {m_source.name, first.number};
     m_row.lastLine = lines.back().number;
@@ -72,7 +65,7 @@ class SentenceReader {
     for (const QString& message : messages) complain(line, message);
   }
 
-  void readNumber(const SourceLine& line, const SentenceCourse& course, KeyPlaces& places) {
+  void readNumber(const SourceLine& line, const CourseFacts& course, KeyPlaces& places) {
     m_row.key = trimBlanks(line.text);
     const bool plain = std::all_of(m_row.key.begin(), m_row.key.end(),
                                    [](QChar c) { return c >= u'0' && c <= u'9'; });
@@ -86,7 +79,7 @@ class SentenceReader {
       complain(line.number,
                QStringLiteral("文番%1は%2の範囲（%3から%4まで）にありません。番号を変えるか、"
                               "ほかのファイルに移してください。")
-                   .arg(m_row.key, course.name, course.first, course.last));
+                   .arg(m_row.key, course.name, course.firstSentence, course.lastSentence));
     }
     if (places.contains(m_row.key)) {
       complain(line.number, QStringLiteral("文番%1は%2でも使われています。番号を変えてください。")
@@ -187,7 +180,7 @@ class SentenceReader {
 
 }  // namespace
 
-std::vector<ContentRow> parseSentences(const SourceText& source, const SentenceCourse& course,
+std::vector<ContentRow> parseSentences(const SourceText& source, const CourseFacts& course,
                                        KeyPlaces& places, Problems& problems) {
   const auto isEmpty = [](const SourceLine& line) { return trimBlanks(line.text).isEmpty(); };
   std::vector<ContentRow> rows;

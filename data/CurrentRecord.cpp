@@ -23,7 +23,7 @@ QList<QStringView> elementsOf(QStringView list) {
 
 SubQuestion parseMeaning(QStringView element) {
   SubQuestion meaning;
-  meaning.記 = element.isEmpty() ? QChar() : element[0];
+  meaning.記 = codeOf<MemoryState>(element.isEmpty() ? QChar() : element[0]);
   meaning.小問回数 = numberOf(cut(element, 2, 2));
   meaning.日本語 = cutFrom(element, 4);
   return meaning;
@@ -32,7 +32,7 @@ SubQuestion parseMeaning(QStringView element) {
 SubQuestion parseAnswer(QStringView element) {
   SubQuestion answer;
   answer.先頭文字数 = numberOf(cut(element, 1, 2));
-  answer.記 = element.size() < 3 ? QChar() : element[2];
+  answer.記 = codeOf<MemoryState>(element.size() < 3 ? QChar() : element[2]);
   const int length = numberOf(cut(element, 4, 3));
   answer.正 = cut(element, 7, length);
   answer.同 = cutFrom(element, 7 + length);
@@ -43,7 +43,7 @@ SubQuestion parseAnswer(QStringView element) {
 
 void packAnswer(const SubQuestion& answer, QString& list) {
   list += digits(answer.先頭文字数, 2);
-  list += answer.記;
+  list += stored(answer.記);
   list += digits(static_cast<int>(answer.正.size()), 3);
   list += answer.正;
   list += answer.同;
@@ -51,7 +51,7 @@ void packAnswer(const SubQuestion& answer, QString& list) {
 }
 
 void packMeaning(const SubQuestion& meaning, QString& list) {
-  list += meaning.記;
+  list += stored(meaning.記);
   list += digits(meaning.小問回数, 2);
   list += meaning.日本語;
   list += elementMark;
@@ -64,9 +64,9 @@ QString CurrentRecord::text(int k) const {
   return sentence ? at(k).正 : at(k).日本語;
 }
 
-CurrentRecord ParseRecord(const QString& recordText, const QString& key, QChar tableCode) {
+CurrentRecord ParseRecord(const QString& recordText, const QString& key, TableCode tableCode) {
   CurrentRecord record;
-  record.sentence = tableCode == tableOfSentences;
+  record.sentence = tableCode == TableCode::sentences;
   QStringView rest = recordText;
   if (record.sentence) {
     record.問題文 = takeField(rest);

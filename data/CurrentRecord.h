@@ -6,13 +6,13 @@
 
 #include <vector>
 
-#include "data/MemoryState.h"
+#include "data/Codes.h"
 
 namespace tavoli {
 
 /// One thing to type: a blank of a sentence, or a meaning of a word.
 struct SubQuestion {
-  QChar 記 = memory全然;
+  MemoryState 記 = MemoryState::全然;
   int 小問回数 = 0;    ///< words only: how often it was practised, 0 to 99
   QString 日本語;      ///< words only: the meaning
   QString 正;          ///< sentences only: the answer
@@ -42,17 +42,15 @@ struct CurrentRecord {
   const SubQuestion& at(int k) const { return 小問[static_cast<size_t>(k - 1)]; }
   /// 正 of a sentence, 日本語 of a word; empty where there is no k-th 小問.
   QString text(int k) const;
-  /// 記 of the k-th 小問; a null character where there is none.
-  QChar 記(int k) const { return has(k) ? at(k).記 : QChar(); }
+  /// 記 of the k-th 小問; none where there is none.
+  MemoryState 記(int k) const { return has(k) ? at(k).記 : MemoryState::none; }
 };
 
-inline constexpr QChar tableOfSentences = u'B';
 inline constexpr int maxSubQuestions = 19;
 
-/// Takes a packed record apart. `tableCode` "B" means a sentence (fields 問|正|コ), any other a
-/// word (fields 発音|同|日|コ); `key` is the row's key. Never fails: what is damaged stays empty or
-/// 0, and `complete` tells.
-CurrentRecord ParseRecord(const QString& recordText, const QString& key, QChar tableCode);
+/// Takes a packed record apart. Sentences have the fields 問|正|コ, words 発音|同|日|コ; `key` is
+/// the row's key. Never fails: what is damaged stays empty or 0, and `complete` tells.
+CurrentRecord ParseRecord(const QString& recordText, const QString& key, TableCode tableCode);
 
 /// The packed text of a record: the inverse of ParseRecord.
 QString packRecord(const CurrentRecord& record);

@@ -7,11 +7,11 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
   bool anyうろ覚え = false;
   bool any完全 = false;
   ItemState result;
-  for (int k = 1; k <= record.小問数 && !record.記(k).isNull(); ++k) {
-    const QChar code = record.記(k);
-    any全然 = any全然 || code == memory全然;
-    anyうろ覚え = anyうろ覚え || code == memoryうろ覚え;
-    any完全 = any完全 || code == memory完全;
+  for (int k = 1; k <= record.小問数 && record.記(k) != MemoryState::none; ++k) {
+    const MemoryState code = record.記(k);
+    any全然 = any全然 || code == MemoryState::全然;
+    anyうろ覚え = anyうろ覚え || code == MemoryState::うろ覚え;
+    any完全 = any完全 || code == MemoryState::完全;
     if (memoryName(code).isEmpty()) {
       result.complaints.append(
           (record.sentence ? QStringLiteral("Stop34") : QStringLiteral("Stop38")) + u' ' + key);
@@ -19,7 +19,7 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
   }
   if (!any全然 && !anyうろ覚え) {
     if (any完全) {
-      result.state = memory完全;
+      result.state = MemoryState::完全;
     } else {
       result.complaints.append(
           (record.sentence ? QStringLiteral("Stop36") : QStringLiteral("Stop39")) + u' ' + key);
@@ -27,7 +27,7 @@ ItemState itemState(const CurrentRecord& record, const QString& key) {
   }
   // One blank of a sentence that is not known makes the sentence unknown; a word is known a little
   // as soon as one of its meanings is.
-  if (any全然 && (record.sentence || (!anyうろ覚え && !any完全))) result.state = memory全然;
+  if (any全然 && (record.sentence || (!anyうろ覚え && !any完全))) result.state = MemoryState::全然;
   if (!record.sentence && !any全然 && !anyうろ覚え && !any完全)
     result.complaints.append(QStringLiteral("Stop3A ") + key);
   return result;

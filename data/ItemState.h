@@ -8,7 +8,7 @@ namespace tavoli {
 
 /// The memory state of a whole item, summed up from its 小問.
 struct ItemState {
-  QChar state = memoryうろ覚え;
+  MemoryState state = MemoryState::うろ覚え;
   /// Codes that are no memory state, each with the guard text that names it; empty on sound data.
   QStringList complaints;
 };

@@ -1,6 +1,5 @@
 #include "itemtext/QuestionText.h"
 
-#include "data/Course.h"
 #include "data/Text.h"
 
 namespace tavoli {
@@ -78,22 +77,16 @@ QString fullAnswerText(const CurrentRecord& record) {
   return lines.join(lineMark);
 }
 
-QString sourceLabel(const CurrentRecord& record, const QString& key, QChar itemTable,
-                    QChar COURSE) {
+QString sourceLabel(const CurrentRecord& record, const QString& key, TableCode itemTable,
+                    Course COURSE) {
   if (record.sentence) {
-    const QChar first = key.isEmpty() ? QChar() : key[0];
-    if (first >= u'0' && first <= u'4') return QStringLiteral("問題　中学");
-    if (first >= u'5' && first <= u'8') return QStringLiteral("問題　高校");
-    return QStringLiteral("問題　専門");
+    const std::optional<Course> course = courseOfSentence(key.isEmpty() ? QChar() : key[0]);
+    return QStringLiteral("問題　") + courseName(course.value_or(Course::専門));
   }
-  const int place = itemTable.unicode() - u'1';
-  const QStringList names =
-      COURSE == course中学 ? QStringList{QStringLiteral("中学"), QStringLiteral("高校")}
-      : COURSE == course高校
-          ? QStringList{QStringLiteral("高校"), QStringLiteral("中学")}
-          : QStringList{QStringLiteral("専門"), QStringLiteral("高校"), QStringLiteral("中学")};
-  if (place < 0 || place >= names.size()) return {};
-  return QStringLiteral("問題　%1DB").arg(names[place]);
+  const auto& dictionaries = factsOf(COURSE).dictionaries;
+  const int place = placeOf(itemTable);
+  if (place < 1 || place > static_cast<int>(dictionaries.size())) return {};
+  return QStringLiteral("問題　%1DB").arg(courseName(dictionaryAt(COURSE, itemTable)));
 }
 
 }  // namespace tavoli

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "data/Courses.h"
 #include "data/CurrentRecord.h"
 
 // The texts that a question is shown with. Those with display marks are told.
@@ -29,6 +30,7 @@ QString fullAnswerText(const CurrentRecord& record);
 
 /// Where the item comes from: "問題　中学" for a sentence, "問題　高校DB" for a word; empty for a
 /// code that the course does not have.
-QString sourceLabel(const CurrentRecord& record, const QString& key, QChar itemTable, QChar COURSE);
+QString sourceLabel(const CurrentRecord& record, const QString& key, TableCode itemTable,
+                    Course COURSE);
 
 }  // namespace tavoli

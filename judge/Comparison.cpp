@@ -35,7 +35,7 @@ bool isMark(QChar c) {
 }
 
 QString cased(const QString& text, const ComparisonSettings& settings) {
-  return settings.compareMode == u'0' ? text.toLower() : text;
+  return settings.compareMode == CompareMode::caseIgnored ? text.toLower() : text;
 }
 
 /// A text as it is compared: in lower case and normalised where the settings say so.
@@ -139,22 +139,22 @@ void judgeSentence(Comparison& result, const SubQuestion& s, const ComparisonSet
 
 }  // namespace
 
-ComparisonSettings comparisonSettings(QChar compareMode, bool compareFlag) {
+ComparisonSettings comparisonSettings(CompareMode compareMode, bool compareFlag) {
   return {compareMode, compareFlag, compareFlag};
 }
 
 const std::vector<ComparisonChoice>& comparisonChoices() {
   static const std::vector<ComparisonChoice> choices = {
-      {{u'0', false, false},
+      {{CompareMode::caseIgnored, false, false},
        QStringLiteral("大文字＝小文字"),
        QStringLiteral("比較方法 ABCDE＝abcde")},
-      {{u'1', false, false},
+      {{CompareMode::caseMatters, false, false},
        QStringLiteral("大文字≠小文字"),
        QStringLiteral("比較方法 ABCDE≠abcde")},
-      {{u'0', true, true},
+      {{CompareMode::caseIgnored, true, true},
        QStringLiteral("スペースと「-」を無視し、大文字＝小文字"),
        QStringLiteral("比較方法 A-BCDE＝ab  c  de")},
-      {{u'1', true, true},
+      {{CompareMode::caseMatters, true, true},
        QStringLiteral("スペースと「-」を無視し、大文字≠小文字"),
        QStringLiteral("比較方法 A-BCDE＝AB  C  DE")},
   };
@@ -162,7 +162,8 @@ const std::vector<ComparisonChoice>& comparisonChoices() {
 }
 
 int comparisonChoiceOf(const ComparisonSettings& settings) {
-  return (settings.compareFlag ? 2 : 0) + (settings.compareMode == u'1' ? 1 : 0);
+  return (settings.compareFlag ? 2 : 0) +
+         (settings.compareMode == CompareMode::caseMatters ? 1 : 0);
 }
 
 QString NormaliseAnswer(const QString& text, const ComparisonSettings& settings) {

@@ -9,14 +9,14 @@ namespace tavoli {
 
 /// How typed answers are compared.
 struct ComparisonSettings {
-  QChar compareMode = u'0';   ///< 0 upper and lower case are the same, 1 they differ
+  CompareMode compareMode = CompareMode::caseIgnored;
   bool compareFlag = true;    ///< blanks are ignored
   bool compareHyphen = true;  ///< hyphens are ignored
   bool operator==(const ComparisonSettings&) const = default;
 };
 
 /// The settings that stored conditions stand for.
-ComparisonSettings comparisonSettings(QChar compareMode, bool compareFlag);
+ComparisonSettings comparisonSettings(CompareMode compareMode, bool compareFlag);
 
 /// The four settings that can be chosen, in the order of their menu entries, with the entry's
 /// caption and the text of the status panel.

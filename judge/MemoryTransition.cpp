@@ -25,14 +25,14 @@ MemoryTransition learn(const JudgedEntry& e) {
       e.meaning.isEmpty()
           ? QStringLiteral("○　正解です。　『うろ覚え』にしました。")
           : QStringLiteral("○　正解です。『うろ覚え』にしました。『 %1 』").arg(e.meaning);
-  return {memoryうろ覚え, promoted, NextStep::NextSubQuestion};
+  return {MemoryState::うろ覚え, promoted, NextStep::NextSubQuestion};
 }
 
 /// The message of a mini test that leaves the state as it is; none for a code that is no state.
-QString keptMessage(QChar state, const QString& circle) {
-  if (state == memory完全)
+QString keptMessage(MemoryState state, const QString& circle) {
+  if (state == MemoryState::完全)
     return circle + QStringLiteral("　正解です。　『完全記憶を維持』します。");
-  if (state == memoryうろ覚え)
+  if (state == MemoryState::うろ覚え)
     return circle + QStringLiteral("　正解です。　『うろ覚えを維持』します。");
   return {};
 }
@@ -41,15 +41,15 @@ MemoryTransition miniTest(const JudgedEntry& e) {
   const bool second = e.tryCount >= 2;
   if (second && (isRight(e) || e.ANScomp == Verdict::Variant))
     return {e.state, keptMessage(e.state, QStringLiteral("○")), NextStep::NextSubQuestion};
-  if (isRight(e) && e.state == memoryうろ覚え) {
-    return {memory完全,
+  if (isRight(e) && e.state == MemoryState::うろ覚え) {
+    return {MemoryState::完全,
             circle(e.ANScomp) + QStringLiteral("　正解です。　『完全記憶』にしました。"),
             NextStep::NextSubQuestion};
   }
   if (isRight(e))
     return {e.state, keptMessage(e.state, circle(e.ANScomp)), NextStep::NextSubQuestion};
   if (second && e.ANScomp == Verdict::Wrong) {
-    return {memory全然, QStringLiteral("『全然』に記憶状態を戻しました。"),
+    return {MemoryState::全然, QStringLiteral("『全然』に記憶状態を戻しました。"),
             NextStep::SameSubQuestion};
   }
   return {e.state, QString(), NextStep::SameSubQuestion};
@@ -62,11 +62,11 @@ QString praise(Verdict verdict) {
 }
 
 MemoryTransition memoryTransition(const JudgedEntry& entry) {
-  return entry.state == memory全然 ? learn(entry) : miniTest(entry);
+  return entry.state == MemoryState::全然 ? learn(entry) : miniTest(entry);
 }
 
-QChar knownTransition(QChar state) {
-  return state == memory全然 ? memoryうろ覚え : state;
+MemoryState knownTransition(MemoryState state) {
+  return state == MemoryState::全然 ? MemoryState::うろ覚え : state;
 }
 
 }  // namespace tavoli

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "data/MemoryState.h"
+#include "data/Codes.h"
 #include "judge/Comparison.h"
 
 // How a 小問 moves among 全然, うろ覚え and 完全. Both flows of the answer key go by this one
@@ -11,8 +11,8 @@ namespace tavoli {
 
 /// A judged entry, and what counts for the memory state.
 struct JudgedEntry {
-  QChar state;  ///< the 小問's memory code before the entry: 全然 is learnt, the others are mini
-                ///< tests
+  MemoryState state{};  ///< the 小問's memory state before the entry: 全然 is learnt, the others
+                        ///< are mini tests
   Verdict ANScomp = Verdict::Wrong;
   bool accepted = false;     ///< of a Variant: it counts as right
   int tryCount = 1;          ///< which entry on this 小問 it is, from 1
@@ -33,7 +33,7 @@ enum class NextStep {
 };
 
 struct MemoryTransition {
-  QChar state;  ///< the memory code after the entry
+  MemoryState state{};  ///< the memory state after the entry
   /// What the message area tells; empty where the verdict has a text of its own.
   QString message;
   NextStep next = NextStep::SameSubQuestion;
@@ -42,6 +42,6 @@ struct MemoryTransition {
 MemoryTransition memoryTransition(const JudgedEntry& entry);
 
 /// F11, the learner says that the 小問 is known: 全然 becomes うろ覚え, the others stay.
-QChar knownTransition(QChar state);
+MemoryState knownTransition(MemoryState state);
 
 }  // namespace tavoli

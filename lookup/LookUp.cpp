@@ -3,16 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "data/Codes.h"
 #include "data/CurrentRecord.h"
-#include "data/MemoryState.h"
 #include "data/Schema.h"
 #include "data/Text.h"
 
 namespace tavoli {
 
 namespace {
-
-constexpr QChar tableOfWords = u'1';
 
 bool isLatin(QChar c) {
   return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
@@ -105,11 +103,10 @@ std::optional<MarkedText> LookUp::shown() {
 
 MarkedText LookUp::showEntry() const {
   const CurrentRecord record =
-      ParseRecord(m_dictionary.text(field発同日コ), m_dictionary.key(), tableOfWords);
+      ParseRecord(m_dictionary.text(field発同日コ), m_dictionary.key(), TableCode::first);
   const QString code = m_dictionary.text(field記憶);
-  QString text = record.英語 + QStringLiteral("　（ ") +
-                 memoryName(code.isEmpty() ? QChar() : code[0]) + u'　' +
-                 m_dictionary.text(field回数) + QStringLiteral("　ﾚﾍﾞﾙ ") +
+  QString text = record.英語 + QStringLiteral("　（ ") + memoryName(codeOf<MemoryState>(code)) +
+                 u'　' + m_dictionary.text(field回数) + QStringLiteral("　ﾚﾍﾞﾙ ") +
                  digits(numberOf(m_dictionary.text(fieldレベル)), 2) + QStringLiteral(" ）\n");
   if (!record.同.isEmpty())
     text +=

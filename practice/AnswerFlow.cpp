@@ -64,17 +64,17 @@ MemoryTransition AnswerFlow::judged(const Comparison& comparison) {
   return memoryTransition(entry);
 }
 
-void AnswerFlow::remember(QChar code, const QString& message, const QString& otherwise) {
-  const bool changes = std::exchange(m_state.小問().記, code) != code;
-  const bool stored = m_state.RewriteRecord();
-  const QString told = stored || !changes ? message : otherwise + m_damage.memoryUnchanged();
+void AnswerFlow::remember(MemoryState state, const QString& message, const QString& otherwise) {
+  const bool changes = std::exchange(m_state.小問().記, state) != state;
+  const bool kept = m_state.RewriteRecord();
+  const QString told = kept || !changes ? message : otherwise + m_damage.memoryUnchanged();
   // A meaning may hold display marks; an answer is plain text.
   m_screen.showMessage(m_state.record.sentence ? plainText(told) : parseMarks(told));
 }
 
 AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition, Verdict verdict) {
   SubQuestion& s = m_state.小問();
-  const bool learnt = s.記 == memory全然;
+  const bool learnt = s.記 == MemoryState::全然;
   if (!m_state.record.sentence) {
     s.小問回数 = std::min(maxTimes, s.小問回数 + 1);
     if (learnt) m_state.repeatsLeft = 1;
@@ -131,19 +131,19 @@ void AnswerFlow::askAgain() {
 }
 
 void AnswerFlow::guardMemoryCode() const {
-  const QChar code = m_state.record.記(m_state.POS1);
-  if (code == memoryうろ覚え || code == memory完全) return;
+  const MemoryState code = m_state.record.記(m_state.POS1);
+  if (code == MemoryState::うろ覚え || code == MemoryState::完全) return;
   const bool first = m_state.tryCount <= 1;
   const QString place = !first                    ? QStringLiteral("２=")
                         : m_state.record.sentence ? QStringLiteral("=")
                                                   : QStringLiteral("１=");
-  m_dialogs.show(QStringLiteral("MiniTest 記(POS1)") + place + code);
+  m_dialogs.show(QStringLiteral("MiniTest 記(POS1)") + place + stored(code));
 }
 
 AnswerFlow::After AnswerFlow::KnownKey(bool byButton) {
   const QString text = m_state.record.text(m_state.POS1);
-  const QChar before = m_state.小問().記;
-  const QChar known = knownTransition(before);
+  const MemoryState before = m_state.小問().記;
+  const MemoryState known = knownTransition(before);
   const QString kept = (byButton ? u"「 "_s + text + u"」"_s : u"『 "_s + text + u"』"_s) +
                        u"：記憶状態の変化なし。"_s;
   const QString changed = u"『うろ覚え』にしました。"_s +
@@ -162,11 +162,11 @@ void AnswerFlow::showAnswer() {
 }
 
 void AnswerFlow::ShowMiniTestNotice() {
-  const QChar code = m_state.小問().記;
-  const bool うろ覚え = code == memoryうろ覚え;
-  if (!うろ覚え && code != memory完全) {
+  const MemoryState code = m_state.小問().記;
+  const bool うろ覚え = code == MemoryState::うろ覚え;
+  if (!うろ覚え && code != MemoryState::完全) {
     m_screen.showMiniTest(MarkedText());
-    m_screen.enableKey(FunctionKey::F1, code == memory全然);
+    m_screen.enableKey(FunctionKey::F1, code == MemoryState::全然);
     return;
   }
   const QString rules =

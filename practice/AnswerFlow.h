@@ -35,7 +35,7 @@ class AnswerFlow {
  private:
   /// Gives the present 小問 a memory code, stores the record, and tells the learner so; what is
   /// told of a damaged record instead is `otherwise` and that its memory stays.
-  void remember(QChar code, const QString& message, const QString& otherwise);
+  void remember(MemoryState state, const QString& message, const QString& otherwise);
   MemoryTransition judged(const Comparison& comparison);
   After moveOn(const MemoryTransition& transition, Verdict verdict);
   After repeat(const MemoryTransition& transition, Verdict verdict);

@@ -13,7 +13,7 @@ const QString kindStored = QStringLiteral("stored");
 
 bool DamageGuard::isNews(const QString& kind) {
   const PracticeItem& item = m_state.set.item(m_state.POS);
-  const QString key = kind + item.itemTable + item.itemEnglish;
+  const QString key = kind + stored(item.itemTable) + item.itemEnglish;
   if (m_told.contains(key)) return false;
   m_told.insert(key);
   return true;

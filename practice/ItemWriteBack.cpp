@@ -18,7 +18,7 @@ bool ItemWriteBack::WriteBackItem(PracticeItem& item) {
   item.itemMemory = summed.state;
   TableCursor* rows = item.isSentence()
                           ? m_rsBDIC.get()
-                          : m_rsTDIC[static_cast<size_t>(item.itemTable.unicode() - u'1')].get();
+                          : m_rsTDIC[static_cast<size_t>(placeOf(item.itemTable) - 1)].get();
   if (!rows) return false;
   return item.isSentence() ? updateSentenceRow(*rows, item) : updateDictionaryRow(*rows, item);
 }
@@ -26,7 +26,7 @@ bool ItemWriteBack::WriteBackItem(PracticeItem& item) {
 void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item) {
   // The row's own state, not the one that was loaded: so the counts stay those of a survey.
   const QString code = rows.text(field記憶);
-  const QChar old = code.size() == 1 ? code[0] : QChar();
+  const auto old = code.size() == 1 ? codeOf<MemoryState>(code) : MemoryState::none;
   if (!memoryPlace(old)) {
     m_complaints.append(
         (item.isSentence() ? QStringLiteral("Stop37 ") : QStringLiteral("Stop3B ")) +
@@ -40,7 +40,7 @@ bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& ite
   if (rows.NoMatch()) return !rows.failed();
   follow(rows, item);
   rows.Edit();
-  rows.setValue(field記憶, QString(item.itemMemory));
+  rows.setValue(field記憶, QString(stored(item.itemMemory)));
   rows.setValue(field回数, digits(item.itemTimes, 2));
   if (!item.damaged) rows.setValue(field問正コ, item.itemRecord);
   return rows.Update();
@@ -61,7 +61,7 @@ bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& i
   follow(rows, item);
   rows.Edit();
   rows.setValue(fieldレベル, item.itemLevel);
-  rows.setValue(field記憶, QString(item.itemMemory));
+  rows.setValue(field記憶, QString(stored(item.itemMemory)));
   rows.setValue(field回数, digits(item.itemTimes, 2));
   if (!item.damaged) rows.setValue(field発同日コ, item.itemRecord);
   return rows.Update();

@@ -33,7 +33,7 @@ class ItemWriteBack {
   /// The row of `item` is about to get the item's state in the place of its own.
   void follow(const TableCursor& rows, const PracticeItem& item);
 
-  QChar m_COURSE;
+  Course m_COURSE;
   std::unique_ptr<TableCursor> m_rsBDIC;
   std::vector<std::unique_ptr<TableCursor>> m_rsTDIC;  ///< by place, from "1"
   MemoryGrowth m_growth;

@@ -15,16 +15,16 @@ inline constexpr int maxItems = 25000;
 /// One question of the run: a copy of a table's row.
 struct PracticeItem {
   QString itemEnglish;  ///< 英語 of a word, 文番 of a sentence
-  QChar itemTable;      ///< "B" for BDIC, "1" to "3" for the place in the course's look-up order
-  QString itemLevel;    ///< two digits; of a sentence "0" and the first character of its 文番
-  QChar itemMemory;     ///< 記憶 of the row
-  int itemTimes = 0;    ///< 回数 of the row, 0 to 99
-  QString itemRecord;   ///< the packed record
-  QString itemReading;  ///< 読上
+  TableCode itemTable{};
+  QString itemLevel;  ///< two digits; of a sentence "0" and the first character of its 文番
+  MemoryState itemMemory{};  ///< 記憶 of the row
+  int itemTimes = 0;         ///< 回数 of the row, 0 to 99
+  QString itemRecord;        ///< the packed record
+  QString itemReading;       ///< 読上
   bool itemDirty = false;
   bool damaged = false;  ///< the row's record is no proper text: it cannot be written again
 
-  bool isSentence() const { return itemTable == tableOfSentences; }
+  bool isSentence() const { return itemTable == TableCode::sentences; }
 };
 
 /// The run's items, counted from 1, in the order in which they are asked. It carries all changes

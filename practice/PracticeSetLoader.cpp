@@ -16,23 +16,12 @@ namespace {
 constexpr int progressFrom = 1000;
 constexpr int pumpEvery = 500;
 
-QString firstSentence(QChar course) {
-  if (course == course中学) return QStringLiteral("000000");
-  return course == course高校 ? QStringLiteral("500000") : QStringLiteral("900000");
-}
-
-/// The first key behind the sentences of a course.
-QString sentencesEnd(QChar course) {
-  if (course == course中学) return QStringLiteral("500000");
-  return course == course高校 ? QStringLiteral("900000") : QStringLiteral("Z00000");
-}
-
 /// What a row of any table gives to its item.
 PracticeItem itemOf(const TableCursor& row, const QString& recordField) {
   PracticeItem item;
   item.itemEnglish = row.key();
   const QString memory = row.text(field記憶);
-  item.itemMemory = memory.isEmpty() ? QChar() : memory[0];
+  item.itemMemory = codeOf<MemoryState>(memory);
   item.itemTimes = numberOf(row.text(field回数));
   item.itemRecord = row.text(recordField);
   item.damaged = row.isDamaged(recordField);
@@ -103,7 +92,7 @@ void PracticeSetLoader::loadLesson(const QString& startKey) {
     const QString& line = lines[n - 1];
     if (isSentenceEntry(line)) {
       m_tables.rsBDIC().Seek(SeekOp::Equal, cut(line, 1, 6));
-      if (!m_tables.rsBDIC().NoMatch()) appendNamed(tableOfSentences, m_tables.rsBDIC().key());
+      if (!m_tables.rsBDIC().NoMatch()) appendNamed(TableCode::sentences, m_tables.rsBDIC().key());
     } else {
       appendLessonWord(trimBlanks(line));
     }
@@ -118,20 +107,20 @@ void PracticeSetLoader::appendLessonWord(const QString& line) {
     for (rows.Seek(SeekOp::Equal, line);
          rows.hasRow() && rows.key().compare(line, Qt::CaseInsensitive) == 0; rows.MoveNext()) {
       if (rows.key() != line) continue;
-      appendNamed(QChar(u'0' + place), line);
+      appendNamed(tableAt(place), line);
       return;
     }
   }
 }
 
-void PracticeSetLoader::appendNamed(QChar itemTable, const QString& key) {
+void PracticeSetLoader::appendNamed(TableCode itemTable, const QString& key) {
   const std::pair row(itemTable, key);
   if (const auto named = m_named.constFind(row); named != m_named.constEnd()) {
     m_set.appendCopy(*named);
     return;
   }
   const bool kept =
-      itemTable == tableOfSentences ? appendSentence() : appendWord(itemTable.unicode() - u'0');
+      itemTable == TableCode::sentences ? appendSentence() : appendWord(placeOf(itemTable));
   if (kept) m_named.insert(row, m_set.itemCount());
 }
 
@@ -158,8 +147,8 @@ void PracticeSetLoader::LoadSentences(const QString& startKey) {
   TableCursor& rows = m_tables.rsBDIC();
   QString from = cut(startKey, 1, 6);
   if (startKey == startKeyFirst || !isDigit(from.isEmpty() ? QChar() : from[0]))
-    from = firstSentence(m_course.COURSE);
-  const QString end = sentencesEnd(m_course.COURSE);
+    from = factsOf(m_course.COURSE).firstSentence;
+  const QString end = factsOf(m_course.COURSE).sentencesEnd;
   rows.Seek(SeekOp::AtOrAfter, from);
   const int wanted = std::min(m_conditions.maxLoadSent, maxItems);
   beginProgress(wanted);
@@ -185,7 +174,7 @@ bool PracticeSetLoader::goesOn(int number) {
 
 bool PracticeSetLoader::appendSentence() {
   PracticeItem item = itemOf(m_tables.rsBDIC(), field問正コ);
-  item.itemTable = tableOfSentences;
+  item.itemTable = TableCode::sentences;
   item.itemLevel = u'0' + item.itemEnglish.left(1);
   return appendIfKept(std::move(item));
 }
@@ -193,7 +182,7 @@ bool PracticeSetLoader::appendSentence() {
 bool PracticeSetLoader::appendWord(int place) {
   const TableCursor& row = m_tables.rsTDIC(place);
   PracticeItem item = itemOf(row, field発同日コ);
-  item.itemTable = QChar(u'0' + place);
+  item.itemTable = tableAt(place);
   item.itemLevel = digits(numberOf(row.text(fieldレベル)), 2);
   return appendIfKept(std::move(item));
 }

@@ -46,7 +46,7 @@ class PracticeSetLoader {
   bool appendWord(int place);
   bool appendIfKept(PracticeItem item);
   /// The same for a row that a lesson names: one that was named before comes once more.
-  void appendNamed(QChar itemTable, const QString& key);
+  void appendNamed(TableCode itemTable, const QString& key);
   void appendLessonWord(const QString& line);
   bool KeepIfConditionsMet(const PracticeItem& item) const;
 
@@ -59,7 +59,7 @@ class PracticeSetLoader {
   LoadProgress& m_progress;
   bool m_progressShown = false;
   PracticeSet m_set;
-  QHash<std::pair<QChar, QString>, int> m_named;  ///< items by table and key
+  QHash<std::pair<TableCode, QString>, int> m_named;  ///< items by table and key
 };
 
 /// The line, from 1, at which a lesson run starts: the one that `startKey` names, but never the

@@ -33,7 +33,7 @@ struct RunState {
   PracticeItem& item() { return set.item(POS); }
   SubQuestion& 小問() { return record.at(POS1); }
   /// A 小問 that is not 全然 is asked as a mini test.
-  bool inMiniTest() const { return record.has(POS1) && record.記(POS1) != memory全然; }
+  bool inMiniTest() const { return record.has(POS1) && record.記(POS1) != MemoryState::全然; }
   /// Folds what changed in the present record into the set. False when the record is damaged.
   [[nodiscard]] bool RewriteRecord() { return set.RewriteRecord(POS, record); }
 };

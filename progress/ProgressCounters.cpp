@@ -6,8 +6,6 @@ namespace tavoli {
 
 namespace {
 
-constexpr QChar tableOfSentences = u'B';
-constexpr QChar thirdPlace = u'3';
 constexpr int maxMemoryCount = 32000;
 
 std::optional<Level> levelOf(const QString& 文番) {
@@ -16,31 +14,30 @@ std::optional<Level> levelOf(const QString& 文番) {
 
 }  // namespace
 
-Level courseLevel(QChar COURSE) {
-  return static_cast<Level>(std::clamp(COURSE.unicode() - u'0', 0, 2));
+Level courseLevel(Course COURSE) {
+  return static_cast<Level>(std::clamp(indexOf(COURSE), 0, 2));
 }
 
-Level wordLevel(QChar COURSE, QChar itemTable) {
-  constexpr std::array<std::array<Level, levelCount>, levelCount> levels = {
-      {{中学, 高校, 専門}, {高校, 中学, 専門}, {専門, 高校, 中学}}};
-  return levels[courseLevel(COURSE)]
-               [static_cast<size_t>(std::clamp(itemTable.unicode() - u'1', 0, 2))];
+Level wordLevel(Course COURSE, TableCode itemTable) {
+  return courseLevel(dictionaryAt(COURSE, itemTable));
 }
 
 std::optional<Level> sentenceLevel(QChar initial) {
-  if (initial < u'0' || initial > u'9') return std::nullopt;
-  if (initial < u'5') return 中学;
-  return initial < u'9' ? 高校 : 専門;
+  const std::optional<Course> course = courseOfSentence(initial);
+  if (!course) return std::nullopt;
+  return courseLevel(*course);
 }
 
-std::optional<size_t> memoryPlace(QChar code) {
-  if (code < u'0' || code > u'2') return std::nullopt;
-  return static_cast<size_t>(u'2' - code.unicode());
+std::optional<size_t> memoryPlace(MemoryState state) {
+  const int place = indexOf(MemoryState::完全) - indexOf(state);
+  if (place < 0 || place > 2) return std::nullopt;
+  return static_cast<size_t>(place);
 }
 
-void ProgressCounters::countQuestion(QChar COURSE, QChar itemTable, const QString& itemEnglish) {
+void ProgressCounters::countQuestion(Course COURSE, TableCode itemTable,
+                                     const QString& itemEnglish) {
   ++回数[courseLevel(COURSE)][0];
-  if (itemTable != tableOfSentences) {
+  if (itemTable != TableCode::sentences) {
     ++回数単熟[wordLevel(COURSE, itemTable)][0];
   } else if (const std::optional<Level> level = levelOf(itemEnglish)) {
     ++回数文[*level][0];
@@ -57,8 +54,8 @@ void ProgressCounters::rollOver() {
   }
 }
 
-void MemoryGrowth::move(QChar COURSE, QChar itemTable, const QString& itemEnglish, QChar from,
-                        QChar to) {
+void MemoryGrowth::move(Course COURSE, TableCode itemTable, const QString& itemEnglish,
+                        MemoryState from, MemoryState to) {
   const std::optional<size_t> source = memoryPlace(from);
   const std::optional<size_t> target = memoryPlace(to);
   if (!source || !target) return;
@@ -66,9 +63,9 @@ void MemoryGrowth::move(QChar COURSE, QChar itemTable, const QString& itemEnglis
     --counts[*source];
     ++counts[*target];
   };
-  if (itemTable == tableOfSentences) {
+  if (itemTable == TableCode::sentences) {
     if (const std::optional<Level> level = levelOf(itemEnglish)) moveIn(記憶文増[*level]);
-  } else if (itemTable != thirdPlace || courseLevel(COURSE) == 専門) {
+  } else if (itemTable != TableCode::third || courseLevel(COURSE) == 専門) {
     moveIn(記憶単熟増[wordLevel(COURSE, itemTable)]);
   }
 }

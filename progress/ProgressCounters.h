@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "data/Courses.h"
+
 namespace tavoli {
 
 /// The study levels, which are the courses too; they number the counters.
@@ -16,9 +18,9 @@ inline constexpr Level 専門 = 2;
 inline constexpr std::size_t levelCount = 3;
 
 /// The level of a course.
-Level courseLevel(QChar COURSE);
-/// The level of a dictionary by its place, "1" to "3", in the course's look-up order.
-Level wordLevel(QChar COURSE, QChar itemTable);
+Level courseLevel(Course COURSE);
+/// The level of a dictionary by its place in the course's look-up order.
+Level wordLevel(Course COURSE, TableCode itemTable);
 /// The level of a sentence by the first character of its number; nothing for one that belongs to
 /// none.
 std::optional<Level> sentenceLevel(QChar initial);
@@ -28,9 +30,9 @@ std::optional<Level> sentenceLevel(QChar initial);
 using Three = std::array<int, 3>;
 using ByLevel = std::array<Three, levelCount>;
 
-/// The place of a memory code among the three numbers, which stand the other way round; nothing for
-/// a code that is none.
-std::optional<size_t> memoryPlace(QChar code);
+/// The place of a memory state among the three numbers, which stand the other way round; nothing
+/// for a code that is none.
+std::optional<size_t> memoryPlace(MemoryState state);
 
 /// What the learner has reached and done.
 struct ProgressCounters {
@@ -43,8 +45,8 @@ struct ProgressCounters {
 
   bool operator==(const ProgressCounters&) const = default;
 
-  /// Counts a finished item: a sentence where `itemTable` is "B", else a word of that place.
-  void countQuestion(QChar COURSE, QChar itemTable, const QString& itemEnglish);
+  /// Counts a finished item: a sentence or a word of that place.
+  void countQuestion(Course COURSE, TableCode itemTable, const QString& itemEnglish);
   /// A new month: what was 今月 becomes 先月 and joins 先月まで. The memory counts stay.
   void rollOver();
 };
@@ -54,9 +56,10 @@ struct MemoryGrowth {
   ByLevel 記憶単熟増{};
   ByLevel 記憶文増{};
 
-  /// An item has moved from one memory code to another. A dictionary that the course only has as a
+  /// An item has moved from one memory state to another. A dictionary that the course only has as a
   /// third helper is not counted, except in 専門, nor is a sentence of no level.
-  void move(QChar COURSE, QChar itemTable, const QString& itemEnglish, QChar from, QChar to);
+  void move(Course COURSE, TableCode itemTable, const QString& itemEnglish, MemoryState from,
+            MemoryState to);
   /// Adds the growth to the counts. A count that would leave 0 to 32000 becomes 0.
   void addTo(ProgressCounters& counters) const;
 };

@@ -13,7 +13,7 @@ class TableCursor;
 /// Whose progress it is, and the run that is booked to it.
 struct ProgressOwner {
   const QString& userId;
-  QChar COURSE;
+  Course COURSE;
   RunClock& times;
 };
 

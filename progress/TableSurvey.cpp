@@ -8,7 +8,8 @@ namespace tavoli {
 bool surveyWordTable(const Database& database, const QString& table, Three& memory) {
   memory = {};
   return database.scanCodes(table, field記憶, [&](char, char code) {
-    if (const auto place = memoryPlace(QChar::fromLatin1(code))) ++memory[*place];
+    if (const auto place = memoryPlace(codeOf<MemoryState>(QChar::fromLatin1(code))))
+      ++memory[*place];
   });
 }
 
@@ -16,7 +17,7 @@ bool surveySentences(const Database& database, ByLevel& memory) {
   memory = {};
   return database.scanCodes(tableBDIC, field記憶, [&](char initial, char code) {
     const auto level = sentenceLevel(QChar::fromLatin1(initial));
-    const auto place = memoryPlace(QChar::fromLatin1(code));
+    const auto place = memoryPlace(codeOf<MemoryState>(QChar::fromLatin1(code)));
     if (level && place) ++memory[*level][*place];
   });
 }

@@ -14,10 +14,6 @@ namespace {
 constexpr int startModeCount = 4;
 constexpr int memorySelectCount = 6;
 
-QChar codeOf(int index) {
-  return {static_cast<char16_t>(u'0' + index)};
-}
-
 }  // namespace
 
 ChoicePanel::ChoicePanel(ConditionsRules& rules, QWidget* parent)
@@ -26,16 +22,16 @@ ChoicePanel::ChoicePanel(ConditionsRules& rules, QWidget* parent)
       m_column(new QVBoxLayout(this)),
       m_courses(addGroup(QStringLiteral("中学／高校／専門の選択"))),
       m_course(QStringLiteral("Option11"), m_courses,
-               [this](QChar code) { m_rules.chooseCourse(code); }),
+               [this](int i) { m_rules.chooseCourse(codeAt<Course>(i)); }),
       m_methods(addGroup(QStringLiteral("練習対象の選択方法"))),
       m_method(QStringLiteral("Option5"), m_methods,
-               [this](QChar code) { m_rules.chooseMethod(code); }),
+               [this](int i) { m_rules.chooseMethod(codeAt<SelMethod>(i)); }),
       m_starts(addGroup(QStringLiteral("開始英語の指定"))),
       m_startMode(QStringLiteral("Option6"), m_starts,
-                  [this](QChar code) { m_rules.chooseStartMode(code); }),
+                  [this](int i) { m_rules.chooseStartMode(codeAt<StartMode>(i)); }),
       m_memories(addGroup(QStringLiteral("記憶状態"))),
       m_memory(QStringLiteral("Option7"), m_memories,
-               [this](QChar code) { m_rules.chooseMemory(code); }) {
+               [this](int i) { m_rules.chooseMemory(codeAt<MemorySelect>(i)); }) {
   m_column->setContentsMargins({});
   addCourses();
   addMethods();
@@ -60,7 +56,8 @@ void ChoicePanel::addCourses() {
   auto* grid = new QGridLayout(m_courses);
   for (int i = 0; i < captions.size(); ++i) {
     QRadioButton* option = m_course.add(captions[i]);
-    option->setToolTip(QStringLiteral("多義語の場合%1DBを優先します。").arg(courseName(codeOf(i))));
+    option->setToolTip(
+        QStringLiteral("多義語の場合%1DBを優先します。").arg(courseName(codeAt<Course>(i))));
     grid->addWidget(option, i, 0);
   }
   m_special = new QLineEdit(m_courses);
@@ -99,7 +96,7 @@ void ChoicePanel::addMethods() {
 void ChoicePanel::addStarts() {
   auto* grid = new QGridLayout(m_starts);
   for (int i = 0; i < startModeCount; ++i)
-    grid->addWidget(m_startMode.add(startModeName(codeOf(i))), i, 0, 1,
+    grid->addWidget(m_startMode.add(startModeName(codeAt<StartMode>(i))), i, 0, 1,
                     i < startModeCount - 1 ? 2 : 1);
   m_start = new StartBox(m_starts);
   m_start->setObjectName(QStringLiteral("Combo1"));
@@ -113,29 +110,29 @@ void ChoicePanel::addStarts() {
 void ChoicePanel::addMemories() {
   auto* column = new QVBoxLayout(m_memories);
   for (int i = 0; i < memorySelectCount; ++i)
-    column->addWidget(m_memory.add(memorySelectName(codeOf(i))));
+    column->addWidget(m_memory.add(memorySelectName(codeAt<MemorySelect>(i))));
 }
 
-void ChoicePanel::showCourse(QChar COURSE, const QString& specialTable) {
-  m_course.mark(COURSE);
+void ChoicePanel::showCourse(Course COURSE, const QString& specialTable) {
+  m_course.mark(indexOf(COURSE));
   m_special->setText(specialTable);
   m_special->setCursorPosition(0);
 }
 
-void ChoicePanel::showMethod(QChar selMethod) {
-  m_method.mark(selMethod);
+void ChoicePanel::showMethod(SelMethod selMethod) {
+  m_method.mark(indexOf(selMethod));
   m_shownMethod = selMethod;
   colourLesson();
 }
 
-void ChoicePanel::showStartMode(QChar startMode) {
-  m_startMode.mark(startMode);
-  m_start->setEnabled(startMode == u'3');
+void ChoicePanel::showStartMode(StartMode startMode) {
+  m_startMode.mark(indexOf(startMode));
+  m_start->setEnabled(startMode == StartMode::named);
 }
 
 void ChoicePanel::colourLesson() {
   constexpr int darkBelow = 128;
-  const bool lesson = m_shownMethod == u'0' || m_shownMethod == u'1';
+  const bool lesson = materialOf(m_shownMethod) == Material::lesson;
   const bool dark = palette().color(QPalette::Window).lightness() < darkBelow;
   QPalette colours = palette();
   if (lesson)
@@ -156,7 +153,7 @@ bool ChoicePanel::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   } else if (event->type() == QEvent::MouseButtonPress && watched->property("method").isValid()) {
-    m_method.click(codeOf(watched->property("method").toInt()));
+    m_method.click(watched->property("method").toInt());
     return true;
   }
   return QWidget::eventFilter(watched, event);

@@ -7,6 +7,7 @@
 
 #include "conditions/screens/OptionSet.h"
 #include "conditions/screens/StartBox.h"
+#include "data/Codes.h"
 
 namespace tavoli {
 
@@ -18,10 +19,10 @@ class ChoicePanel final : public QWidget {
  public:
   ChoicePanel(ConditionsRules& rules, QWidget* parent);
 
-  void showCourse(QChar COURSE, const QString& specialTable);
-  void showMethod(QChar selMethod);
-  void showStartMode(QChar startMode);
-  void showMemory(QChar memorySelect) { m_memory.mark(memorySelect); }
+  void showCourse(Course COURSE, const QString& specialTable);
+  void showMethod(SelMethod selMethod);
+  void showStartMode(StartMode startMode);
+  void showMemory(MemorySelect memorySelect) { m_memory.mark(indexOf(memorySelect)); }
 
   StartBox& start() { return *m_start; }
   QGroupBox& courses() { return *m_courses; }
@@ -46,7 +47,7 @@ class ChoicePanel final : public QWidget {
   QGroupBox* m_methods;
   OptionSet m_method;
   QLabel* m_lessons;
-  QChar m_shownMethod;
+  SelMethod m_shownMethod{};
   QGroupBox* m_starts;
   OptionSet m_startMode;
   StartBox* m_start;

@@ -77,8 +77,8 @@ void LessonPanel::arrange() {
   m_grid->setRowStretch(listRow, 1);
 }
 
-void LessonPanel::showMethod(QChar selMethod) {
-  m_previewed = selMethod == u'0' || selMethod == u'1';
+void LessonPanel::showMethod(SelMethod selMethod) {
+  m_previewed = materialOf(selMethod) == Material::lesson;
   m_name->setEnabled(m_previewed);
   m_preview->setVisible(m_previewed);
   m_grid->setRowStretch(previewRow, m_previewed ? 1 : 0);

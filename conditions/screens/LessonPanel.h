@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QStringListModel>
 
+#include "data/Codes.h"
+
 namespace tavoli {
 
 class ConditionsRules;
@@ -19,7 +21,7 @@ class LessonPanel final : public QGroupBox {
  public:
   LessonPanel(ConditionsRules& rules, QWidget* parent);
 
-  void showMethod(QChar selMethod);
+  void showMethod(SelMethod selMethod);
   void showFolder(const QString& folder);
   void showName(const QString& name);
   void showLesson(const QStringList& lines, const QString& trouble);

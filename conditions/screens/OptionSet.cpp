@@ -6,13 +6,12 @@
 
 namespace tavoli {
 
-OptionSet::OptionSet(const QString& name, QWidget* parent, std::function<void(QChar)> chosen)
+OptionSet::OptionSet(const QString& name, QWidget* parent, std::function<void(int)> chosen)
     : m_name(name), m_parent(parent), m_buttons(new QButtonGroup(parent)) {
   QObject::connect(m_buttons, &QButtonGroup::idClicked, m_buttons,
-                   [this, chosen = std::move(chosen)](int id) {
-                     const QChar code(u'0' + id);
+                   [this, chosen = std::move(chosen)](int index) {
                      placeTabStop();
-                     if (code != std::exchange(m_marked, code)) chosen(code);
+                     if (index != std::exchange(m_marked, index)) chosen(index);
                    });
 }
 
@@ -25,13 +24,13 @@ QRadioButton* OptionSet::add(const QString& caption, const QString& accessibleNa
   return option;
 }
 
-QRadioButton* OptionSet::button(QChar code) const {
-  return static_cast<QRadioButton*>(m_buttons->button(code.unicode() - u'0'));
+QRadioButton* OptionSet::button(int index) const {
+  return static_cast<QRadioButton*>(m_buttons->button(index));
 }
 
-void OptionSet::mark(QChar code) {
-  m_marked = code;
-  if (QRadioButton* option = button(code)) {
+void OptionSet::mark(int index) {
+  m_marked = index;
+  if (QRadioButton* option = button(index)) {
     option->setChecked(true);
   } else if (QAbstractButton* marked = m_buttons->checkedButton()) {
     m_buttons->setExclusive(false);

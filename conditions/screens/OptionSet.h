@@ -8,19 +8,19 @@
 
 namespace tavoli {
 
-/// Option buttons of which one is marked; the first has the code "0".
+/// Option buttons of which one is marked. They count from 0.
 class OptionSet {
  public:
   /// `chosen` is called when the learner marks another one.
-  OptionSet(const QString& name, QWidget* parent, std::function<void(QChar)> chosen);
+  OptionSet(const QString& name, QWidget* parent, std::function<void(int)> chosen);
 
   /// `accessibleName` says what the caption alone does not.
   QRadioButton* add(const QString& caption, const QString& accessibleName = {});
-  QRadioButton* button(QChar code) const;
-  /// Marks an option without calling `chosen`; none for an unknown code.
-  void mark(QChar code);
+  QRadioButton* button(int index) const;
+  /// Marks an option without calling `chosen`; none for a number that has no option.
+  void mark(int index);
   /// Marks an option as the learner does.
-  void click(QChar code) const { button(code)->click(); }
+  void click(int index) const { button(index)->click(); }
 
  private:
   QString m_name;
@@ -29,7 +29,7 @@ class OptionSet {
   /// The Tab key comes to the marked option, as the arrow keys go on from there.
   void placeTabStop() const;
 
-  QChar m_marked;
+  int m_marked = -1;
 };
 
 }  // namespace tavoli

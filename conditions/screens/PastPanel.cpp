@@ -78,23 +78,23 @@ void PastPanel::show(const char* name, const QString& value, int characters) {
 void PastPanel::showRun(const QString& caption, const PastRun& run) {
   constexpr int endsWidth = 11;
   constexpr int startWidth = 12;
-  const int group = (run.selMethod.unicode() - u'0') / 2;
+  const Material material = materialOf(run.selMethod);
   const auto when = [](bool shown, const QString& text) { return shown ? text : QString(); };
   setTitle(caption);
   show("Option10", courseName(run.COURSE));
-  show("Text17", when(run.COURSE == course専門, run.specialTable));
+  show("Text17", when(run.COURSE == Course::専門, run.specialTable));
   show("Option1", methodName(run.selMethod));
-  show("Text1", when(group == 0, run.lessonFile));
+  show("Text1", when(material == Material::lesson, run.lessonFile));
   // Before the first run the record holds placeholders.
   const PracticeConditions unused;
   const QString first = when(run.firstEnglish != unused.firstEnglish, run.firstEnglish);
   const QString last = when(run.lastEnglish != unused.lastEnglish, run.lastEnglish);
-  show("Label14", when(group == 1, first), endsWidth);
-  show("Label16", when(group == 1, last), endsWidth);
-  show("Label17", when(group == 2, first), endsWidth);
-  show("Label19", when(group == 2, last), endsWidth);
+  show("Label14", when(material == Material::words, first), endsWidth);
+  show("Label16", when(material == Material::words, last), endsWidth);
+  show("Label17", when(material == Material::sentences, first), endsWidth);
+  show("Label19", when(material == Material::sentences, last), endsWidth);
   show("Option2", startModeName(run.startMode));
-  show("Label11", when(run.startMode == u'3', run.startEnglish), startWidth);
+  show("Label11", when(run.startMode == StartMode::named, run.startEnglish), startWidth);
   show("Option3", memorySelectName(run.memorySelect));
   show("Text4", QString::number(numberOf(run.levelFrom)));
   show("Text5", QString::number(numberOf(run.levelTo)));

@@ -83,16 +83,16 @@ TAVO2::~TAVO2() {
   if (QWidget* focused = focusWidget()) focused->clearFocus();
 }
 
-void TAVO2::showCourse(QChar COURSE, const QString& specialTable) {
+void TAVO2::showCourse(Course COURSE, const QString& specialTable) {
   m_choices->showCourse(COURSE, specialTable);
 }
 
-void TAVO2::showMethod(QChar selMethod) {
+void TAVO2::showMethod(SelMethod selMethod) {
   m_choices->showMethod(selMethod);
   m_lesson->showMethod(selMethod);
 }
 
-void TAVO2::showStartMode(QChar startMode) {
+void TAVO2::showStartMode(StartMode startMode) {
   m_choices->showStartMode(startMode);
 }
 
@@ -104,7 +104,7 @@ void TAVO2::showStart(const QString& text) {
   m_choices->start().showText(text);
 }
 
-void TAVO2::showMemory(QChar memorySelect) {
+void TAVO2::showMemory(MemorySelect memorySelect) {
   m_choices->showMemory(memorySelect);
 }
 

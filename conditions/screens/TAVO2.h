@@ -38,12 +38,12 @@ class TAVO2 final : public QMainWindow, public ConditionsScreen {
   /// To be called before every showing. False when the database cannot be read.
   bool enter() { return m_rules.enter(); }
 
-  void showCourse(QChar COURSE, const QString& specialTable) override;
-  void showMethod(QChar selMethod) override;
-  void showStartMode(QChar startMode) override;
+  void showCourse(Course COURSE, const QString& specialTable) override;
+  void showMethod(SelMethod selMethod) override;
+  void showStartMode(StartMode startMode) override;
   void listStarts(const QStringList& entries) override;
   void showStart(const QString& text) override;
-  void showMemory(QChar memorySelect) override;
+  void showMemory(MemorySelect memorySelect) override;
   void showNumber(NumberField field, const QString& text) override;
   void showFolder(const QString& folder) override;
   void showLessonName(const QString& name) override;

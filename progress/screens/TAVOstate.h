@@ -21,7 +21,7 @@ class Paper;
 struct ProgressSources {
   const QString& userId;
   const QString& dbFileWork;
-  QChar COURSE;
+  Course COURSE;
   QString& specialTable;
   ProgressCounters& counters;
   const Clock& clock;

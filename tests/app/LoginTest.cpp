@@ -130,7 +130,7 @@ TEST_F(LoginTest, AnEmptyIdTurnsIntoTheStandardUser) {
   EXPECT_TRUE(dialogs.shown.isEmpty() && dialogs.asked.isEmpty());
   EXPECT_TRUE(login(screen.userId));
   EXPECT_EQ(dialogs.asked, QStringList{QStringLiteral("パスワードは「」です。")});
-  EXPECT_EQ(module.course.COURSE, course高校);
+  EXPECT_EQ(module.course.COURSE, Course::高校);
   EXPECT_EQ(storedPassword(work()), std::nullopt);
   EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral("anything"))) << "no password was set";
   EXPECT_TRUE(files.exists(module.dbPath + QStringLiteral("/TavoDB000BackUp")));

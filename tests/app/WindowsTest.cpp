@@ -45,7 +45,7 @@ TEST(Windows, FitSmallScreensBearTheProgramsNameAndNameTheirControls) {
   module.learner.dbFileWork = store.path();
   ProgressSources sources{module.learner.userId,
                           module.learner.dbFileWork,
-                          u'1',
+                          Course::高校,
                           module.course.specialTable,
                           module.progress,
                           clock,

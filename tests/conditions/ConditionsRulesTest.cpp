@@ -25,7 +25,7 @@ const QString fromBeginning = u"今回は最初から実行します。"_s;
 
 TEST_F(ConditionsRulesTest, EachCourseBringsItsOwnRecordBack) {
   PracticeConditions other = last;
-  other.memorySelect = u'5';
+  other.memorySelect = MemorySelect::すべて;
   other.levelTo = u"03"_s;
   remember(tableJTDIC, other);
   enter();
@@ -33,13 +33,14 @@ TEST_F(ConditionsRulesTest, EachCourseBringsItsOwnRecordBack) {
   EXPECT_EQ(screen.lesson.size(), 4);
   EXPECT_EQ(screen.pastCaption, u"前回（中学／高校／専門別）"_s);
   EXPECT_EQ(screen.pastRun.lastEnglish, u"go abroad"_s);
-  rules.chooseMemory(u'3');
-  rules.chooseCourse(course中学);
-  EXPECT_EQ(course.COURSE, course中学);
-  EXPECT_EQ(screen.memorySelect, u'5');
+  rules.chooseMemory(MemorySelect::完全);
+  rules.chooseCourse(Course::中学);
+  EXPECT_EQ(course.COURSE, Course::中学);
+  EXPECT_EQ(screen.memorySelect, MemorySelect::すべて);
   EXPECT_EQ(screen.numbers[NumberField::LevelTo], u"3"_s);
-  rules.chooseCourse(course高校);
-  EXPECT_EQ(conditions.memorySelect, u'1') << "a choice that no run used is lost";
+  rules.chooseCourse(Course::高校);
+  EXPECT_EQ(conditions.memorySelect, MemorySelect::全然とうろ覚え)
+      << "a choice that no run used is lost";
 }
 
 TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
@@ -51,26 +52,26 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
     const char* name;
     QString before;
     Choices choices;
-    QChar courseAfter;
+    Course courseAfter;
     QString tableAfter;
     QString message = QString();
     QString counted = QString();
   } cases[] = {
-      {"known", special, Choices(), course専門, special},
-      {"vanished, another chosen", vanished, {special}, course専門, special, {}, special},
-      {"vanished, cancelled", vanished, {std::nullopt}, course高校, {}},
-      {"none yet, cancelled", QString(), {std::nullopt}, course高校, {}},
-      {"chosen one vanishes too", vanished, {vanished}, course専門, vanished, notFound},
+      {"known", special, Choices(), Course::専門, special},
+      {"vanished, another chosen", vanished, {special}, Course::専門, special, {}, special},
+      {"vanished, cancelled", vanished, {std::nullopt}, Course::高校, {}},
+      {"none yet, cancelled", QString(), {std::nullopt}, Course::高校, {}},
+      {"chosen one vanishes too", vanished, {vanished}, Course::専門, vanished, notFound},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    course = {course高校, c.before};
+    course = {Course::高校, c.before};
     enter();
     screen.choices = c.choices;
     screen.offered.clear();
     recounted.clear();
     dialogs.shown.clear();
-    rules.chooseCourse(course専門);
+    rules.chooseCourse(Course::専門);
     EXPECT_EQ(screen.offered, QStringList(c.choices.size(), special + u'>'));
     EXPECT_EQ(course.COURSE, c.courseAfter);
     EXPECT_EQ(screen.course, c.courseAfter);
@@ -78,10 +79,10 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
     EXPECT_EQ(dialogs.shown.join(u'|'), c.message);
     EXPECT_EQ(recounted.join(u'|'), c.counted);
   }
-  course = {course専門, vanished};
+  course = {Course::専門, vanished};
   screen.choices = {vanished};
   ASSERT_TRUE(rules.enter());
-  EXPECT_EQ(course.COURSE, course高校) << "the screen opens with a dictionary that is there";
+  EXPECT_EQ(course.COURSE, Course::高校) << "the screen opens with a dictionary that is there";
   EXPECT_EQ(screen.lesson.size(), 4);
 }
 
@@ -92,7 +93,7 @@ TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
   made.reset();
   ASSERT_TRUE(rules.enter());
   screen.choices = {QString()};
-  rules.chooseCourse(course専門);
+  rules.chooseCourse(Course::専門);
   EXPECT_EQ(screen.offered, QStringList{u">"_s});
   ASSERT_EQ(dialogs.shown.size(), 1);
   EXPECT_TRUE(dialogs.shown.takeFirst().startsWith(u"専門単熟DB  が"_s));
@@ -103,10 +104,10 @@ TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
 TEST_F(ConditionsRulesTest, AnUnreadableDatabaseChangesNothing) {
   enter();
   QFile::rename(store.path(), store.path() + u'x');
-  rules.chooseCourse(course中学);
-  EXPECT_EQ(course.COURSE, course高校);
-  EXPECT_EQ(screen.course, course高校);
-  rules.chooseStartMode(u'3');
+  rules.chooseCourse(Course::中学);
+  EXPECT_EQ(course.COURSE, Course::高校);
+  EXPECT_EQ(screen.course, Course::高校);
+  rules.chooseStartMode(StartMode::named);
   EXPECT_TRUE(screen.starts.isEmpty());
   const QString trouble = store.path() + u" : OpenDatabase error    Err.Number=3024"_s;
   EXPECT_EQ(dialogs.shown, QStringList({trouble, trouble}));
@@ -158,8 +159,8 @@ TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    last.selMethod = QLatin1Char(c.record[0]);
-    last.startMode = QLatin1Char(c.record[1]);
+    last.selMethod = codeOf<SelMethod>(QLatin1Char(c.record[0]));
+    last.startMode = codeOf<StartMode>(QLatin1Char(c.record[1]));
     enter();
     dialogs.shown.clear();
     dialogs.asked.clear();
@@ -167,15 +168,16 @@ TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
     QString startKey;
     for (const QString& click : QString::fromUtf16(c.clicks).split(u' ')) {
       const QString rest = click.sliced(1);
-      if (click[0] == u'm') rules.chooseMethod(rest[0]);
-      if (click[0] == u's') rules.chooseStartMode(rest[0]);
+      if (click[0] == u'm') rules.chooseMethod(codeOf<SelMethod>(rest));
+      if (click[0] == u's') rules.chooseStartMode(codeOf<StartMode>(rest));
       if (click[0] == u'p') pick(u"名詞.tav");
       if (click[0] == u'P') pick(u"動詞.tav");
       if (click[0] == u't') rules.typeStart(rest);
       if (click[0] == u'n') startKey = rules.next().value_or(u"-"_s);
     }
-    EXPECT_EQ(QString(screen.selMethod) + screen.startMode, QLatin1String(c.then));
-    EXPECT_EQ(QString(conditions.selMethod) + conditions.startMode, QLatin1String(c.then));
+    EXPECT_EQ(QString(stored(screen.selMethod)) + stored(screen.startMode), QLatin1String(c.then));
+    EXPECT_EQ(QString(stored(conditions.selMethod)) + stored(conditions.startMode),
+              QLatin1String(c.then));
     EXPECT_EQ((dialogs.shown + dialogs.asked).join(u'|'), c.message);
     EXPECT_EQ(startKey, QString::fromUtf16(c.startKey));
     EXPECT_EQ(screen.focus == u'S', startKey == u"-");
@@ -185,47 +187,47 @@ TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
 
 TEST_F(ConditionsRulesTest, AFirstRunHasNoPlaceToGoOnFrom) {
   ASSERT_TRUE(rules.enter());
-  rules.chooseStartMode(u'2');
+  rules.chooseStartMode(StartMode::whereEnded);
   EXPECT_EQ(rules.next(), startKeyFirst);
   EXPECT_TRUE(dialogs.shown.isEmpty());
 }
 
 TEST_F(ConditionsRulesTest, ASpecifiedStartComesBackWithItsGroupAndFile) {
-  last.startMode = u'3';
+  last.startMode = StartMode::named;
   last.startEnglish = u"bank"_s;
   enter();
   EXPECT_EQ(screen.starts.size(), 4) << "the end mark is listed";
   EXPECT_EQ(screen.start, u"bank"_s);
-  rules.chooseMethod(u'4');
-  EXPECT_EQ(screen.startMode, u'1');
+  rules.chooseMethod(SelMethod::sentencesInOrder);
+  EXPECT_EQ(screen.startMode, StartMode::first);
   EXPECT_EQ(screen.start, QString());
-  rules.chooseStartMode(u'3');
+  rules.chooseStartMode(StartMode::named);
   EXPECT_EQ(screen.start, u"500010･彼は学生です。"_s);
-  rules.chooseMethod(u'3');
+  rules.chooseMethod(SelMethod::wordsAtRandom);
   EXPECT_EQ(screen.start, u"apple"_s) << "the first of the list";
-  rules.chooseStartMode(u'3');
+  rules.chooseStartMode(StartMode::named);
   EXPECT_EQ(screen.start, u"bank"_s);
 
-  last.selMethod = u'0';
+  last.selMethod = SelMethod::lessonInOrder;
   enter();
   pick(u"名詞.tav");
-  rules.chooseStartMode(u'3');
+  rules.chooseStartMode(StartMode::named);
   EXPECT_EQ(screen.start, u"apple"_s) << "the other file's first";
 }
 
 TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {
   PracticeConditions past = last;
-  past.memorySelect = u'4';
+  past.memorySelect = MemorySelect::完全とうろ覚え;
   files.write(learner.condFileWork,
-              pastConditionsLine(QDate(2026, 4, 2), {course専門, special}, past).toUtf8() + '\n');
+              pastConditionsLine(QDate(2026, 4, 2), {Course::専門, special}, past).toUtf8() + '\n');
   enter();
   EXPECT_EQ(screen.pastRuns.size(), 1);
   rules.choosePastRun(0);
   EXPECT_EQ(screen.pastCaption, u"001　2026/04/02専"_s);
-  EXPECT_EQ(screen.pastRun.memorySelect, u'4');
+  EXPECT_EQ(screen.pastRun.memorySelect, MemorySelect::完全とうろ覚え);
   rules.choosePastRun(1);
-  EXPECT_EQ(screen.pastRun.memorySelect, u'4') << "there is none";
-  EXPECT_EQ(conditions.memorySelect, u'1') << "for looking only";
+  EXPECT_EQ(screen.pastRun.memorySelect, MemorySelect::完全とうろ覚え) << "there is none";
+  EXPECT_EQ(conditions.memorySelect, MemorySelect::全然とうろ覚え) << "for looking only";
 }
 
 TEST_F(ConditionsByNameTest, NamesSetWhatTheScreenWouldSet) {
@@ -259,15 +261,15 @@ TEST_F(ConditionsByNameTest, NamesSetWhatTheScreenWouldSet) {
     const QString expected = QString::fromUtf16(c.complaint);
     EXPECT_EQ(complaint.left(expected.size()), expected);
     EXPECT_EQ(complaint.isEmpty(), expected.isEmpty());
-    EXPECT_EQ(u"%1%2 %3-%4 %5 %6"_s.arg(conditions.selMethod)
-                  .arg(conditions.startMode)
+    EXPECT_EQ(u"%1%2 %3-%4 %5 %6"_s.arg(stored(conditions.selMethod))
+                  .arg(stored(conditions.startMode))
                   .arg(conditions.levelFrom, conditions.levelTo)
                   .arg(conditions.reviewCycle)
                   .arg(conditions.maxLoadWords),
               QString::fromUtf16(c.record));
   }
   EXPECT_TRUE(setCourseByName(course, {{u"COURSE"_s, u"3"_s}}).startsWith(u"COURSE: 0"_s));
-  EXPECT_EQ(course.COURSE, course高校);
+  EXPECT_EQ(course.COURSE, Course::高校);
 }
 
 TEST_F(LessonChoiceTest, LessonFilesOfAllKindsAreMet) {
@@ -277,7 +279,7 @@ TEST_F(LessonChoiceTest, LessonFilesOfAllKindsAreMet) {
   EXPECT_EQ(screen.lesson, QStringList({u"動詞"_s, QString(60, u'a')}));
   writeLesson(u"empty.tav", QByteArray());
   pick(u"empty.tav");
-  rules.chooseStartMode(u'3');
+  rules.chooseStartMode(StartMode::named);
   EXPECT_TRUE(screen.lesson.isEmpty() && screen.starts.isEmpty() && screen.lessonTrouble.isEmpty());
 
   writeLesson(u"binary.tav", QByteArray("\0\1\2", 3));

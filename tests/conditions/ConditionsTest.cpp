@@ -32,7 +32,7 @@ TEST(ConditionsTest, KeepsEveryFieldAtItsPosition) {
   const PracticeConditions c = unusual();
   EXPECT_EQ(encodeConditions(c), record);
   EXPECT_EQ(c.maxLoadSent, 10);
-  EXPECT_EQ(c.startMode, u'3');
+  EXPECT_EQ(c.startMode, StartMode::named);
   EXPECT_EQ(startKeyOf(c), u"120･彼は"_s);
   EXPECT_EQ(c.lastEnglish, u"look forward to ～ing"_s);
   EXPECT_EQ(c.levelFrom, u"03"_s);
@@ -51,14 +51,15 @@ TEST(ConditionsTest, ReadsShortAndOldRecords) {
     EXPECT_EQ(c.lessonPath(), u"/default/"_s) << qPrintable(QString::fromUtf16(tail));
   }
   const struct {
-    QChar code, mode;
+    QChar code;
+    CompareMode mode;
     bool flag;
     QChar stored;
-  } codes[] = {{u'0', u'0', false, u'0'},
-               {u'1', u'1', false, u'1'},
-               {u'2', u'0', true, u'2'},
-               {u'3', u'1', true, u'3'},
-               {u'x', u'1', true, u'3'}};
+  } codes[] = {{u'0', CompareMode::caseIgnored, false, u'0'},
+               {u'1', CompareMode::caseMatters, false, u'1'},
+               {u'2', CompareMode::caseIgnored, true, u'2'},
+               {u'3', CompareMode::caseMatters, true, u'3'},
+               {u'x', CompareMode::caseMatters, true, u'3'}};
   for (const auto& code : codes) {
     c = unusual(record.left(200) + code.code + u'|');
     EXPECT_EQ(c.compareMode, code.mode);
@@ -80,13 +81,13 @@ TEST(ConditionsTest, NoValueShiftsTheFieldsBehindIt) {
 TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   test::TestStore store;
   CourseChoice course = readCourse(store.database(), CourseChoice());
-  EXPECT_EQ(course.COURSE, course高校) << "a new learner";
+  EXPECT_EQ(course.COURSE, Course::高校) << "a new learner";
   auto rsBDIC = store.database().OpenRecordset(tableBDIC);
-  course = {course専門, u"BusinessTOEIC"_s};
+  course = {Course::専門, u"BusinessTOEIC"_s};
   EXPECT_TRUE(saveCourse(*rsBDIC, course));
-  EXPECT_TRUE(saveCourse(*rsBDIC, {course中学, u"other"_s}));
+  EXPECT_TRUE(saveCourse(*rsBDIC, {Course::中学, u"other"_s}));
   course = readCourse(store.database(), CourseChoice());
-  EXPECT_EQ(course.COURSE, course中学);
+  EXPECT_EQ(course.COURSE, Course::中学);
   EXPECT_EQ(course.specialTable, u"BusinessTOEIC"_s) << "kept beside another course";
 
   const QString lessons = u"/lessons"_s;
@@ -94,16 +95,16 @@ TEST(ConditionsStoreTest, MakesTheMissingRowsAndKeepsThemPerDictionary) {
   PracticeConditions c = loadConditions(*rsTDIC, u"taro"_s, lessons);
   EXPECT_EQ(c.lessonFolder, lessons);
   EXPECT_EQ(store.stored(tableJTDIC, rowConditions, field発同日コ), encodeConditions(c));
-  c.memorySelect = u'3';
+  c.memorySelect = MemorySelect::完全;
   EXPECT_TRUE(saveConditions(*rsTDIC, c));
-  EXPECT_EQ(loadConditions(*rsTDIC, u"taro"_s, lessons).memorySelect, u'3');
+  EXPECT_EQ(loadConditions(*rsTDIC, u"taro"_s, lessons).memorySelect, MemorySelect::完全);
 }
 
 TEST(PastConditionsTest, KeepsTheLastHundredRuns) {
   QTemporaryDir folder;
   SystemFiles files;
   const QString path = folder.filePath(u"TavoCond000"_s);
-  const CourseChoice course{course専門, u"BusinessTOEIC"_s};
+  const CourseChoice course{Course::専門, u"BusinessTOEIC"_s};
   EXPECT_TRUE(pastConditions(files, path).isEmpty());
   PracticeConditions c = unusual();
   c.startEnglish = u"bank"_s;
@@ -223,9 +224,9 @@ TEST(StartListTest, ListsTheSentencesFromTheCoursesFirstToTheLast) {
   const QStringList all = lines(
       u"000120･彼は[学生]ではあり\n   120･彼は[学生]ではあり\n500010･彼は[学生]ではあり\n"
       u"900010･彼は[学生]ではあり\n900020･短い");
-  EXPECT_EQ(sentenceStarts(store.database(), course中学), all);
-  EXPECT_EQ(sentenceStarts(store.database(), course高校), all.mid(2));
-  EXPECT_EQ(sentenceStarts(store.database(), course専門), all);
+  EXPECT_EQ(sentenceStarts(store.database(), Course::中学), all);
+  EXPECT_EQ(sentenceStarts(store.database(), Course::高校), all.mid(2));
+  EXPECT_EQ(sentenceStarts(store.database(), Course::専門), all);
 }
 
 }  // namespace

@@ -91,10 +91,10 @@ TEST_F(TAVO2Test, EveryControlReachesTheRecord) {
   EXPECT_TRUE(dialogs.shown.isEmpty() && dialogs.asked.isEmpty());
 
   PracticeConditions expected = conditions;
-  expected.selMethod = u'3';
-  expected.startMode = u'3';
+  expected.selMethod = SelMethod::wordsAtRandom;
+  expected.startMode = StartMode::named;
   expected.startEnglish = QStringLiteral("bank");
-  expected.memorySelect = u'4';
+  expected.memorySelect = MemorySelect::完全とうろ覚え;
   expected.levelFrom = QStringLiteral("02");
   expected.levelTo = QStringLiteral("12");
   expected.reviewCycle = 7;
@@ -104,7 +104,7 @@ TEST_F(TAVO2Test, EveryControlReachesTheRecord) {
   expected.targetSentB = 33;
   expected.targetWordA = 0.75;
   expected.targetWordB = 44;
-  EXPECT_EQ(course.COURSE, course中学);
+  EXPECT_EQ(course.COURSE, Course::中学);
   EXPECT_EQ(encodeConditions(conditions), encodeConditions(expected));
 
   click("Command2");
@@ -134,7 +134,7 @@ TEST_F(TAVO2Test, ALessonIsPickedInTheFoldersAndPreviewed) {
   click("Command4");
   EXPECT_EQ(dir1->currentIndex().data().toString(), QStringLiteral("lessons"));
   click("Label6");
-  EXPECT_EQ(conditions.selMethod, u'2');
+  EXPECT_EQ(conditions.selMethod, SelMethod::wordsInOrder);
   EXPECT_FALSE(control<QWidget>("Text2")->isEnabled());
   EXPECT_FALSE(control<QWidget>("RichTextBox1")->isVisible());
 }
@@ -206,7 +206,7 @@ TEST_F(TAVO2Test, ComesBackWithWhatWasChosen) {
   const auto* file = control<QLabel>("Text1");
   EXPECT_FALSE(file->isVisible()) << "words were chosen last time";
   window.hide();
-  conditions.selMethod = u'0';
+  conditions.selMethod = SelMethod::lessonInOrder;
   conditions.lessonFolder = lessons + QStringLiteral("/verbs");
   conditions.lessonFile = QStringLiteral("動詞.TAV");
   store.open();

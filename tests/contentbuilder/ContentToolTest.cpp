@@ -135,7 +135,7 @@ TEST_F(ContentToolTest, ADumpKeepsFilesOrderAndHeadings) {
 TEST_F(ContentToolTest, ADumpLeavesOutWhatIsDamagedAndNamesIt) {
   TestStore store;
   const QString good = QStringLiteral("次|002001a00000000^|");
-  store.addSentence(QStringLiteral("000010"), good, memory完全);
+  store.addSentence(QStringLiteral("000010"), good, MemoryState::完全);
   store.addSentence(rowPassword, QStringLiteral("pass"));
   const QString number = QStringLiteral("00%1");
   const char* const damaged[] = {

@@ -72,15 +72,17 @@ class ContentUpdateTest : public testing::Test {
 TEST_F(ContentUpdateTest, WhatWasLearntFollowsTheText) {
   build();
   const QString record = QStringLiteral("||107～を捜す^905～を求める^|古い");
-  store.addWord(tableJTDIC, QStringLiteral("seek～"), record, memoryうろ覚え, 1);
+  store.addWord(tableJTDIC, QStringLiteral("seek～"), record, MemoryState::うろ覚え, 1);
   store.addWord(tableJTDIC, QStringLiteral("may"), QStringLiteral("||211～かもしれない^|"),
-                memory完全);
-  store.addWord(tableSTDIC, QStringLiteral("gone"), QStringLiteral("||205去った^|"), memory完全);
-  store.addWord(tableSTDIC, QStringLiteral("kept"), QStringLiteral("||205保った^|"), memory完全, 4);
+                MemoryState::完全);
+  store.addWord(tableSTDIC, QStringLiteral("gone"), QStringLiteral("||205去った^|"),
+                MemoryState::完全);
+  store.addWord(tableSTDIC, QStringLiteral("kept"), QStringLiteral("||205保った^|"),
+                MemoryState::完全, 4);
   store.addSentence(
       QStringLiteral("000010"),
       QStringLiteral("前。|002004line00000000^001004line00000000^002003was00000000^|"),
-      memoryうろ覚え);
+      MemoryState::うろ覚え);
   store.addSentence(rowCourse, QStringLiteral("Travel"));
   ProgressCounters counters;
   counters.記憶単熟 = {{{9, 9, 9}, {9, 9, 9}, {9, 9, 9}}};
@@ -106,16 +108,16 @@ TEST_F(ContentUpdateTest, WhatWasLearntFollowsTheText) {
   };
   EXPECT_EQ(stored(tableJTDIC, "look for", field発同日コ),
             QStringLiteral("|seek^|107～を捜す^000～を求める^|"));
-  EXPECT_EQ(stored(tableJTDIC, "look for", field記憶), QString(memoryうろ覚え));
+  EXPECT_EQ(stored(tableJTDIC, "look for", field記憶), QStringLiteral("1"));
   EXPECT_EQ(stored(tableJTDIC, "look for", fieldレベル), QStringLiteral("03"));
   EXPECT_EQ(stored(tableJTDIC, "look for", field読上), QStringLiteral("look"));
   EXPECT_EQ(stored(tableJTDIC, "seek～", field発同日コ), QStringLiteral("none"));
-  EXPECT_EQ(stored(tableJTDIC, "may", field記憶), QString(memory完全)) << "not May";
-  EXPECT_EQ(stored(tableSTDIC, "gone", field記憶), QString(memory完全));
+  EXPECT_EQ(stored(tableJTDIC, "may", field記憶), QStringLiteral("2")) << "not May";
+  EXPECT_EQ(stored(tableSTDIC, "gone", field記憶), QStringLiteral("2"));
   EXPECT_EQ(stored(QStringLiteral("Travel"), "visa", field発同日コ), QStringLiteral("||000査証^|"));
   EXPECT_EQ(stored(tableBDIC, "000020", field問正コ).section(u'|', 1, 1),
             QStringLiteral("002004line00000000^001004line00000000^000002is00000001010203was^"));
-  EXPECT_EQ(stored(tableBDIC, "000020", field記憶), QString(memory全然));
+  EXPECT_EQ(stored(tableBDIC, "000020", field記憶), QStringLiteral("0"));
 
   const QString progress = stored(tableBDIC, "zzzzz2", field問正コ);
   const ProgressCounters now = parseProgressRecord(progress).counters;
@@ -132,7 +134,7 @@ TEST_F(ContentUpdateTest, WhatWasLearntFollowsTheText) {
 }
 
 TEST_F(ContentUpdateTest, RefusesAndLeavesEverything) {
-  store.addWord(tableJTDIC, QStringLiteral("may"), QStringLiteral("||211一^|"), memory完全);
+  store.addWord(tableJTDIC, QStringLiteral("may"), QStringLiteral("||211一^|"), MemoryState::完全);
   const struct {
     const char* name;
     std::function<void()> make;

@@ -17,14 +17,15 @@ namespace tavoli {
 namespace {
 
 TEST(RecordTest, TakesAWordApart) {
-  const CurrentRecord record = ParseRecord(
-      u"be′st|finest^top^|007最もよい^212最善^|The best way  最善の道"_s, u" best  "_s, u'1');
+  const CurrentRecord record =
+      ParseRecord(u"be′st|finest^top^|007最もよい^212最善^|The best way  最善の道"_s, u" best  "_s,
+                  TableCode::first);
   EXPECT_TRUE(record.complete);
   EXPECT_EQ(record.英語, u"best"_s);
   EXPECT_EQ(record.同, (QStringList{u"finest"_s, u"top"_s}));
   ASSERT_EQ(record.小問数, 2);
   EXPECT_EQ(record.text(2), u"最善"_s);
-  EXPECT_EQ(record.記(2), memory完全);
+  EXPECT_EQ(record.記(2), MemoryState::完全);
   EXPECT_EQ(record.at(1).小問回数, 7);
   EXPECT_EQ(record.コメント, u"The best way  最善の道"_s);
   EXPECT_EQ(record.text(3), QString());
@@ -33,14 +34,14 @@ TEST(RecordTest, TakesAWordApart) {
 TEST(RecordTest, TakesASentenceApart) {
   const CurrentRecord record =
       ParseRecord(u"問題％(   )|030011I am a boy.010201000105001^001004boys00000000^|コ|メ"_s,
-                  u"000010"_s, tableOfSentences);
+                  u"000010"_s, TableCode::sentences);
   EXPECT_TRUE(record.complete);
   ASSERT_EQ(record.小問数, 2);
   EXPECT_EQ(record.at(1).先頭文字数, 3);
   EXPECT_EQ(record.at(1).正, u"I am a boy."_s);
   EXPECT_EQ(record.at(1).省略開始, 1);
   EXPECT_EQ(record.at(1).省略終了, 2);
-  EXPECT_EQ(record.記(2), memoryうろ覚え);
+  EXPECT_EQ(record.記(2), MemoryState::うろ覚え);
   EXPECT_EQ(record.コメント, u"コ|メ"_s) << "the comment is all behind the last mark";
 }
 
@@ -48,18 +49,20 @@ TEST(RecordTest, DamagedRecordsAreParsedAsFarAsTheyGoAndKeptFromRewriting) {
   const struct {
     const char* name;
     QString text;
-    QChar table;
+    TableCode table;
     int 小問数;
     bool complete;
   } cases[] = {
-      {"no marks", u"abc"_s, u'B', 0, false},
-      {"length beyond the text", u"問|000099short^|コ"_s, u'B', 1, false},
-      {"letters for a count", u"||0xx意味^|"_s, u'1', 1, false},
-      {"nineteen meanings", u"||"_s + u"000意味^"_s.repeated(19) + u'|', u'1', 19, true},
-      {"twenty meanings", u"||"_s + u"000意味^"_s.repeated(20) + u'|', u'1', 19, false},
-      {"twenty synonyms", u'|' + u"syn^"_s.repeated(20) + u"|000意味^|"_s, u'1', 1, false},
-      {"an empty meaning ends what is asked", u"||000一^000^000三^|"_s, u'1', 1, true},
-      {"unended element", u"||000一^000二|"_s, u'1', 1, false},
+      {"no marks", u"abc"_s, TableCode::sentences, 0, false},
+      {"length beyond the text", u"問|000099short^|コ"_s, TableCode::sentences, 1, false},
+      {"letters for a count", u"||0xx意味^|"_s, TableCode::first, 1, false},
+      {"nineteen meanings", u"||"_s + u"000意味^"_s.repeated(19) + u'|', TableCode::first, 19,
+       true},
+      {"twenty meanings", u"||"_s + u"000意味^"_s.repeated(20) + u'|', TableCode::first, 19, false},
+      {"twenty synonyms", u'|' + u"syn^"_s.repeated(20) + u"|000意味^|"_s, TableCode::first, 1,
+       false},
+      {"an empty meaning ends what is asked", u"||000一^000^000三^|"_s, TableCode::first, 1, true},
+      {"unended element", u"||000一^000二|"_s, TableCode::first, 1, false},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -78,7 +81,7 @@ TEST(RecordTest, NoDamageCrashesTheParserOrTheExpansion) {
     QString text;
     for (auto length = random() % 60; length > 0; --length)
       text += alphabet[static_cast<qsizetype>(random()) % alphabet.size()];
-    for (const QChar table : {u'B', u'1'}) {
+    for (const TableCode table : {TableCode::sentences, TableCode::first}) {
       const CurrentRecord record = ParseRecord(text, u"k"_s, table);
       for (const SubQuestion& s : record.小問) ExpandAnswers(s);
       BuildPronunciationText(record.発音, QString());

@@ -17,11 +17,11 @@ ComparisonSettings mode(int menu) {
 CurrentRecord sentence(const QString& answer, const QString& tail = u"00000000"_s) {
   return ParseRecord(
       u"問|000"_s + digits(static_cast<int>(answer.size()), 3) + answer + tail + u"^|"_s, QString(),
-      tableOfSentences);
+      TableCode::sentences);
 }
 
 CurrentRecord word(const QString& 英語, const QString& synonyms = QString()) {
-  return ParseRecord(u'|' + synonyms + u"|000意味^|"_s, 英語, u'1');
+  return ParseRecord(u'|' + synonyms + u"|000意味^|"_s, 英語, TableCode::first);
 }
 
 TEST(ComparisonTest, JudgesInAllFourModes) {

@@ -154,7 +154,7 @@ TEST_F(LookUpTest, ShowsEntriesToTheLetter) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     const QString key = u"test "_s + QLatin1String(c.name);
-    store.addWord(tableJTDIC, key, QString::fromUtf16(c.record), memoryうろ覚え, 3);
+    store.addWord(tableJTDIC, key, QString::fromUtf16(c.record), MemoryState::うろ覚え, 3);
     const auto shown = lookUp.find(key);
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->text, key + u"　（ うろ覚え　00　ﾚﾍﾞﾙ 03 ）\n"_s + QString::fromUtf16(c.text));

@@ -79,7 +79,7 @@ TEST(AnswerFlowTest, MovesTheMemoryStateByTheTable) {
     Drill drill({isSentence ? sentenceWith(row.from) : wordWith(row.from), wordWith(u'0')});
     drill.start();
     drill.press(row.keys);
-    EXPECT_EQ(drill.stored().記(1), row.to);
+    EXPECT_EQ(stored(drill.stored().記(1)), row.to);
     EXPECT_EQ(drill.screen.message, row.message);
     EXPECT_EQ(drill.loop->POS1(), row.next ? 2 : 1);
     const bool judgedRight = row.next && *row.keys != 'K';
@@ -217,11 +217,11 @@ TEST(AnswerFlowTest, AnEntryOfNothingNewCostsNothing) {
   EXPECT_EQ(drill.screen.answer, u"He "_s);
   for (const char16_t* typed : {u"", u"He ", u"He", u"  "}) drill.enter(QString::fromUtf16(typed));
   drill.enter(u"He is big"_s);
-  EXPECT_EQ(drill.stored().記(1), memoryうろ覚え);
+  EXPECT_EQ(drill.stored().記(1), MemoryState::うろ覚え);
   drill.enter(QString());
   drill.enter(u" "_s);
   drill.enter(u"big"_s);
-  EXPECT_EQ(drill.stored(2).記(1), memory完全);
+  EXPECT_EQ(drill.stored(2).記(1), MemoryState::完全);
 }
 
 TEST(AnswerFlowTest, ComparesAsChosenAndRemembersIt) {
@@ -232,7 +232,7 @@ TEST(AnswerFlowTest, ComparesAsChosenAndRemembersIt) {
   drill.loop->nextComparison();
   drill.enter(u"BIG"_s);
   EXPECT_EQ(drill.screen.fullAnswer, u"BIG は正解ではありません。"_s);
-  EXPECT_EQ(drill.conditions.compareMode, u'1');
+  EXPECT_EQ(drill.conditions.compareMode, CompareMode::caseMatters);
 }
 
 TEST(AnswerFlowTest, GuardsACodeThatIsNoState) {
@@ -240,7 +240,7 @@ TEST(AnswerFlowTest, GuardsACodeThatIsNoState) {
   drill.start();
   drill.enter(u"big"_s);
   EXPECT_EQ(drill.dialogs.shown, QStringList{u"MiniTest 記(POS1)１=7"_s});
-  EXPECT_EQ(drill.stored().記(1), u'7');
+  EXPECT_EQ(stored(drill.stored().記(1)), u'7');
 }
 
 }  // namespace

@@ -66,7 +66,8 @@ TEST(PracticeLoopTest, WalksThroughItemsByTheKeys) {
     EXPECT_EQ(drill.loop->確認中(), c.確認中);
     EXPECT_EQ(drill.screen.awaited, c.確認中);
     EXPECT_EQ(drill.finished(), c.finished);
-    EXPECT_EQ(QString(drill.stored().記(1)) + drill.stored().記(2), QString::fromLatin1(c.codes));
+    EXPECT_EQ(QString(stored(drill.stored().記(1))) + stored(drill.stored().記(2)),
+              QString::fromLatin1(c.codes));
     EXPECT_EQ(drill.loop->clockRunning(), c.clock);
     EXPECT_EQ(drill.screen.disabled.contains(FunctionKey::F3), c.確認中);
     EXPECT_TRUE(drill.dialogs.shown.isEmpty());
@@ -75,7 +76,7 @@ TEST(PracticeLoopTest, WalksThroughItemsByTheKeys) {
 
 TEST(PracticeLoopTest, ItemsWithNothingToAskAreOnlyShown) {
   Drill drill({sentence(u'2', u'2'), word(u'0', u'2'), sentence(u'2', u'2')});
-  drill.conditions.memorySelect = u'0';
+  drill.conditions.memorySelect = MemorySelect::全然;
   drill.start();
   EXPECT_TRUE(drill.loop->確認中());
   EXPECT_EQ(drill.screen.fullAnswer, u"問題\none\ntwo"_s);
@@ -144,7 +145,7 @@ TEST(PracticeLoopTest, TellsDamageOncePerRecord) {
 
 TEST(PracticeLoopTest, LogsAndCountsWhatIsFinished) {
   Drill drill({sentence(u'0', u'0'), word(u'0', u'0')});
-  drill.course.COURSE = course高校;
+  drill.course.COURSE = Course::高校;
   drill.conditions.firstRepeatWord = 1;
   drill.start();
   drill.loop->toggleLog();
@@ -279,7 +280,7 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       records.append(upTo(2) == 0 ? sentence(a, b) : word(a, b));
     }
     Drill drill(records);
-    drill.conditions.memorySelect = QChar(u'0' + upTo(6));
+    drill.conditions.memorySelect = codeAt<MemorySelect>(upTo(6));
     drill.start();
     const PracticeLoop& loop = *drill.loop;
     for (int step = 0; step < 1000; ++step) {
@@ -288,13 +289,13 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       const bool asking = !loop.確認中();
       const int POS = loop.POS();
       const int POS1 = loop.POS1();
-      const QChar before = loop.state().record.記(POS1);
+      const MemoryState before = loop.state().record.記(POS1);
       drill.press(key);
       ASSERT_EQ(drill.dialogs.shown, QStringList());
       ASSERT_FALSE(loop.exitConfirmed());
-      const QChar after = drill.stored(POS).記(POS1);
-      ASSERT_TRUE(after.unicode() - before.unicode() <= 1) << "a state climbs one step at a time";
-      ASSERT_TRUE(after >= before || (after == memory全然 && loop.POS1() == POS1))
+      const MemoryState after = drill.stored(POS).記(POS1);
+      ASSERT_TRUE(indexOf(after) - indexOf(before) <= 1) << "a state climbs one step at a time";
+      ASSERT_TRUE(after >= before || (after == MemoryState::全然 && loop.POS1() == POS1))
           << "and a fall asks the same again";
       const CurrentRecord& record = loop.state().record;
       if (loop.確認中()) {
@@ -304,11 +305,11 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
         // What will be judged is what is on the screen.
         ASSERT_TRUE(record.has(loop.POS1()));
         ASSERT_TRUE(memoryAdmitted(drill.conditions.memorySelect, record.記(loop.POS1())) ||
-                    record.記(loop.POS1()) == memory全然);
+                    record.記(loop.POS1()) == MemoryState::全然);
         ASSERT_EQ(drill.screen.question,
                   record.sentence ? record.問題文 : record.text(loop.POS1()));
         ASSERT_EQ(drill.stored(loop.POS()).記(loop.POS1()), record.記(loop.POS1()));
-        ASSERT_TRUE(!loop.clockRunning() || record.記(loop.POS1()) == memory全然);
+        ASSERT_TRUE(!loop.clockRunning() || record.記(loop.POS1()) == MemoryState::全然);
       }
       // An item is counted when its full answer comes up after it was asked, and only then.
       ASSERT_EQ(drill.finished() - finished, asking && loop.確認中() &&

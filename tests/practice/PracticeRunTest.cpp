@@ -20,12 +20,12 @@ using test::sentenceRecord;
 class PracticeRunTest : public testing::Test {
  protected:
   PracticeRunTest() {
-    conditions.selMethod = u'4';
-    conditions.startMode = u'1';
-    course.COURSE = course中学;
+    conditions.selMethod = SelMethod::sentencesInOrder;
+    conditions.startMode = StartMode::first;
+    course.COURSE = Course::中学;
     store.addSentence(u"000010"_s,
                       sentenceRecord(u"[彼]は学生％(   ) a (   )"_s, {u"He is"_s, u"student."_s}));
-    store.addSentence(u"000020"_s, sentenceRecord(u"二問目"_s, {u"yes"_s}), memoryうろ覚え);
+    store.addSentence(u"000020"_s, sentenceRecord(u"二問目"_s, {u"yes"_s}), MemoryState::うろ覚え);
     store.addWord(tableJTDIC, u"apple"_s, test::wordRecord({u"意味"_s}));
     learner.dbFileWork = store.path();
     learner.condFileWork = store.folder() + u"/TavoCond000"_s;
@@ -137,7 +137,7 @@ TEST_F(PracticeRunTest, ReshufflingStartsOverWithWhatIsThere) {
 }
 
 TEST_F(PracticeRunTest, NeedsTwoItems) {
-  conditions.memorySelect = u'2';
+  conditions.memorySelect = MemorySelect::うろ覚え;
   EXPECT_FALSE(begin());
   EXPECT_EQ(dialogs.shown.last(),
             u"条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"_s);
@@ -169,7 +169,8 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
 TEST(QuestionTextTest, StartsTheAnswerBox) {
   const auto start = [](const QString& 問題文) {
     return answerStart(
-        ParseRecord(u"%1|030008He is an00000000^|"_s.arg(問題文), QString(), tableOfSentences), 1);
+        ParseRecord(u"%1|030008He is an00000000^|"_s.arg(問題文), QString(), TableCode::sentences),
+        1);
   };
   const QString ask = u"次の英文に誤りがあれば訂正しなさい"_s;
   EXPECT_EQ(start(u"彼は"_s), u"He "_s);
@@ -180,15 +181,15 @@ TEST(QuestionTextTest, StartsTheAnswerBox) {
 }
 
 TEST(QuestionTextTest, NamesWhereAnItemComesFrom) {
-  CurrentRecord record = ParseRecord(u"問||"_s, QString(), tableOfSentences);
+  CurrentRecord record = ParseRecord(u"問||"_s, QString(), TableCode::sentences);
   QString labels;
   for (const QString& key : {u"499990"_s, u"500000"_s, u"899990"_s, u"900000"_s})
-    labels += sourceLabel(record, key, tableOfSentences, course高校).sliced(3);
+    labels += sourceLabel(record, key, TableCode::sentences, Course::高校).sliced(3);
   EXPECT_EQ(labels, u"中学高校高校専門"_s);
   record.sentence = false;
   labels.clear();
-  for (const QChar COURSE : {course中学, course高校, course専門})
-    for (const QChar place : {u'1', u'2', u'3'})
+  for (const Course COURSE : {Course::中学, Course::高校, Course::専門})
+    for (const TableCode place : {TableCode::first, TableCode::second, TableCode::third})
       labels += sourceLabel(record, u"a"_s, place, COURSE).mid(3) + u' ';
   EXPECT_EQ(labels, u"中学DB 高校DB  高校DB 中学DB  専門DB 高校DB 中学DB "_s);
 }

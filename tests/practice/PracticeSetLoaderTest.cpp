@@ -21,7 +21,7 @@ class PracticeSetLoaderTest : public testing::Test {
   PracticeSetLoaderTest() {
     conditions.lessonFolder = store.folder();
     conditions.lessonFile = u"lesson.tav"_s;
-    conditions.memorySelect = u'5';
+    conditions.memorySelect = MemorySelect::すべて;
   }
 
   void writeLesson(const QByteArray& content) {
@@ -48,7 +48,7 @@ class PracticeSetLoaderTest : public testing::Test {
     const PracticeSet set = load(startKey);
     QStringList keys;
     for (int i = 1; i <= set.itemCount(); ++i)
-      keys.append(set.item(i).itemTable + set.item(i).itemEnglish);
+      keys.append(stored(set.item(i).itemTable) + set.item(i).itemEnglish);
     return keys.join(u'|');
   }
 
@@ -73,9 +73,9 @@ TEST_F(PracticeSetLoaderTest, LooksWordsUpInTheCoursesOrderAndByTheirExactSpelli
   writeLesson(
       "* comment\r\n! skipped\r\npolish\r\n  Polish \r\nmay\r\nasset\r\n\r\n000010\xA5 head\r\n"
       "000020\xA5\r\nzzzzz0\xA5\r\nzzzzzzzzzzzzzzzzzzzz1\r\n000010\r\n");
-  conditions.selMethod = u'0';
+  conditions.selMethod = SelMethod::lessonInOrder;
   EXPECT_EQ(loaded(), u"1polish|1Polish|2may|B000010"_s);
-  course = {course専門, u"BusinessTOEIC"_s};
+  course = {Course::専門, u"BusinessTOEIC"_s};
   EXPECT_EQ(loaded(), u"2polish|2Polish|3may|1asset|B000010"_s);
 }
 
@@ -85,27 +85,27 @@ TEST_F(PracticeSetLoaderTest, WhatALessonNamesTwiceIsOneItem) {
   store.addWord(tableSTDIC, u"May"_s, wordRecord({u"五月"_s}));
   store.addWord(tableSTDIC, u"may"_s, wordRecord({u"してもよい"_s}));
   writeLesson("May\n000010\xA5 a\nmay\n000020\xA5\n000010\xA5 b\nMay\n");
-  conditions.selMethod = u'0';
+  conditions.selMethod = SelMethod::lessonInOrder;
   PracticeSet set = load();
   for (const auto& [first, second] : {std::pair(1, 6), std::pair(2, 5)}) {
     CurrentRecord learnt = set.parsed(first);
-    learnt.at(1).記 = memoryうろ覚え;
+    learnt.at(1).記 = MemoryState::うろ覚え;
     ASSERT_TRUE(set.RewriteRecord(first, learnt));
-    EXPECT_EQ(set.parsed(second).記(1), memoryうろ覚え);
+    EXPECT_EQ(set.parsed(second).記(1), MemoryState::うろ覚え);
   }
-  EXPECT_EQ(set.parsed(3).記(1), memory全然);
-  EXPECT_EQ(set.parsed(4).記(1), memory全然);
+  EXPECT_EQ(set.parsed(3).記(1), MemoryState::全然);
+  EXPECT_EQ(set.parsed(4).記(1), MemoryState::全然);
   EXPECT_EQ(set.itemCount(), 6) << "asked wherever it is named";
 }
 
 TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
   for (const char16_t* word : {u"a1", u"a2", u"a3", u"a4"})
     store.addWord(tableSTDIC, QString::fromUtf16(word), wordRecord({u"意味"_s}),
-                  QString::fromUtf16(word) == u"a3" ? memory完全 : memory全然);
+                  QString::fromUtf16(word) == u"a3" ? MemoryState::完全 : MemoryState::全然);
   store.addSentence(u"000010"_s, test::sentenceRecord(u"問"_s, {u"is"_s}));
   writeLesson("*a2\na1\na2\na3\n000010\xA5\na4\n");
-  conditions.selMethod = u'0';
-  conditions.memorySelect = u'1';
+  conditions.selMethod = SelMethod::lessonInOrder;
+  conditions.memorySelect = MemorySelect::全然とうろ覚え;
   const struct {
     const char* name;
     const char16_t* key;
@@ -126,9 +126,9 @@ TEST_F(PracticeSetLoaderTest, FindsTheStartOfALesson) {
 TEST_F(PracticeSetLoaderTest, CountsRowsReadNotRowsKept) {
   for (int i = 0; i < 30; ++i)
     store.addWord(tableSTDIC, u"w"_s + digits(i, 2), wordRecord({u"意味"_s}),
-                  i % 10 == 0 ? memory全然 : memory完全, i % 20);
+                  i % 10 == 0 ? MemoryState::全然 : MemoryState::完全, i % 20);
   store.addWord(tableSTDIC, u"～ or so"_s, wordRecord({u"～かそこら"_s}));
-  conditions.memorySelect = u'0';
+  conditions.memorySelect = MemorySelect::全然;
   conditions.maxLoadWords = 22;
   EXPECT_EQ(loaded(), u"1～ or so|1w00|1w10|1w20"_s);
   EXPECT_EQ(dialogs.shown.last(), u"最大読込数 22 のうち 4が練習条件を満足しました。"_s);
@@ -149,17 +149,17 @@ TEST_F(PracticeSetLoaderTest, KeepsSentencesWithinTheirCourse) {
   for (const char16_t* key : {u"000010", u"499990", u"500010", u"899990", u"900010", u"A00010"})
     store.addSentence(QString::fromUtf16(key), test::sentenceRecord(u"問"_s, {u"is"_s}));
   store.addSentence(rowPassword, u"secret"_s);
-  conditions.selMethod = u'4';
+  conditions.selMethod = SelMethod::sentencesInOrder;
   conditions.levelTo = u"99"_s;
   const struct {
-    QChar course;
+    Course course;
     const char16_t* start;
     const char16_t* expected;
-  } cases[] = {{course中学, u"000000", u"B000010|B499990"},
-               {course中学, u"000011･彼は", u"B499990"},
-               {course高校, u"000000", u"B500010|B899990"},
-               {course高校, u"apple", u"B500010|B899990"},
-               {course専門, u"000000", u"B900010|BA00010"}};
+  } cases[] = {{Course::中学, u"000000", u"B000010|B499990"},
+               {Course::中学, u"000011･彼は", u"B499990"},
+               {Course::高校, u"000000", u"B500010|B899990"},
+               {Course::高校, u"apple", u"B500010|B899990"},
+               {Course::専門, u"000000", u"B900010|BA00010"}};
   for (const auto& c : cases) {
     course = {c.course, u"BusinessTOEIC"_s};
     EXPECT_EQ(loaded(QString::fromUtf16(c.start)), QString::fromUtf16(c.expected));
@@ -172,7 +172,7 @@ TEST_F(PracticeSetLoaderTest, StopsWhenTheLearnerCancels) {
   for (int i = 0; i < 30'000; ++i) lesson += "word\n";
   store.addWord(tableSTDIC, u"word"_s, wordRecord({u"語"_s}));
   writeLesson(lesson);
-  conditions.selMethod = u'0';
+  conditions.selMethod = SelMethod::lessonInOrder;
   progress.stopAt = 2001;
   EXPECT_EQ(load().itemCount(), 2000);
   EXPECT_EQ(progress.total, maxLessonLines) << "a lesson's further lines are left out";
@@ -181,7 +181,7 @@ TEST_F(PracticeSetLoaderTest, StopsWhenTheLearnerCancels) {
 }
 
 TEST_F(PracticeSetLoaderTest, UnreadableLessonsGiveAnEmptySet) {
-  conditions.selMethod = u'0';
+  conditions.selMethod = SelMethod::lessonInOrder;
   EXPECT_EQ(load().itemCount(), 0) << "missing";
   writeLesson(QByteArray("\0\0word\n", 7));
   EXPECT_EQ(load().itemCount(), 0) << "no text";

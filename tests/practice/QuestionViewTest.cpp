@@ -57,7 +57,7 @@ TEST(QuestionView, MarksTheAskedBlankAndFillsTheAnsweredOnes) {
     const QString question = QString::fromUtf16(c.question);
     const CurrentRecord record =
         ParseRecord(test::sentenceRecord(question, QString::fromUtf16(c.answers).split(u'|')),
-                    QStringLiteral("000010"), tableOfSentences);
+                    QStringLiteral("000010"), TableCode::sentences);
     const QuestionView view = questionView(parseMarks(question), record, c.POS1,
                                            AnsweredSubQuestions(std::string(c.answered) + '0'));
     EXPECT_EQ(drawn(view.question), QString::fromUtf16(c.shown));
@@ -68,7 +68,7 @@ TEST(QuestionView, MarksTheAskedBlankAndFillsTheAnsweredOnes) {
 TEST(QuestionView, MarksNothingInAWord) {
   const CurrentRecord record =
       ParseRecord(test::wordRecord({QStringLiteral("(   )の"), QStringLiteral("b")}),
-                  QStringLiteral("big"), u'1');
+                  QStringLiteral("big"), TableCode::first);
   const QuestionView view = questionView(plainText(record.text(1)), record, 1, {});
   EXPECT_TRUE(view.question.spans.empty());
   EXPECT_EQ(answerHint(view), QStringLiteral("小問 1／2"));

@@ -23,9 +23,9 @@ class ReviewInPracticeTest : public testing::Test {
  protected:
   void start(int items, int reviewCycle) {
     QStringList records;
-    for (int i = 1; i <= items; ++i) records.append(item(i, codes.value(i, memory全然)));
+    for (int i = 1; i <= items; ++i) records.append(item(i, codes.value(i, u'0')));
     drill = std::make_unique<Drill>(records);
-    drill->conditions.memorySelect = u'0';
+    drill->conditions.memorySelect = MemorySelect::全然;
     drill->conditions.reviewCycle = reviewCycle;
     drill->start();
   }
@@ -63,7 +63,7 @@ TEST_F(ReviewInPracticeTest, ComesAfterTheItemThatEndsACycleAndHandsBack) {
   EXPECT_EQ(drill->screen.question, u"意味7"_s);
   EXPECT_TRUE(drill->loop->clockRunning());
   drill->press("r");
-  EXPECT_EQ(drill->stored(7).記(1), memoryうろ覚え) << "asked once, so the first try counts";
+  EXPECT_EQ(drill->stored(7).記(1), MemoryState::うろ覚え) << "asked once, so the first try counts";
   EXPECT_EQ(drill->finished(), 7) << "a review counts nothing";
   drill->press("e");
   finish(2);
@@ -84,7 +84,7 @@ TEST_F(ReviewInPracticeTest, TakesOnlyItemsThatWereReallyAnswered) {
 
 TEST_F(ReviewInPracticeTest, ForgetsItemsThatWereMixed) {
   start(12, 2);
-  drill->conditions.memorySelect = u'5';
+  drill->conditions.memorySelect = MemorySelect::すべて;
   finish(3);
   drill->loop->reshuffle();
   finish(1);
@@ -124,7 +124,7 @@ TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
         continue;
       }
       ++reviews;
-      ASSERT_EQ(loop.確認中(), codes[POS] == memory完全);
+      ASSERT_EQ(loop.確認中(), codes[POS] == u'2');
       ASSERT_EQ(drill->screen.awaited, loop.確認中());
       ASSERT_TRUE(loop.確認中() || loop.POS1() == 1);
       ASSERT_EQ(loop.state().wordShownCount, loop.確認中() ? 0 : 1);

@@ -34,16 +34,16 @@ TEST(ItemStateTest, SumsUpItsSubQuestions) {
     for (const QChar code : {u'0', u'1', u'2', u'7'}) combinations.append(combinations[i] + code);
   for (const QString& codes : std::as_const(combinations)) {
     for (const bool sentence : {true, false}) {
-      const QChar table = sentence ? tableOfSentences : QChar(u'1');
+      const TableCode table = sentence ? TableCode::sentences : TableCode::first;
       const ItemState summed =
           itemState(ParseRecord(packedCodes(sentence, codes), QStringLiteral("k"), table),
                     QStringLiteral("k"));
       const bool any0 = codes.contains(u'0');
       const bool any1 = codes.contains(u'1');
       const bool any2 = codes.contains(u'2');
-      QChar expected = memoryうろ覚え;
-      if (any2 && !any0 && !any1) expected = memory完全;
-      if (any0 && (sentence || (!any1 && !any2))) expected = memory全然;
+      MemoryState expected = MemoryState::うろ覚え;
+      if (any2 && !any0 && !any1) expected = MemoryState::完全;
+      if (any0 && (sentence || (!any1 && !any2))) expected = MemoryState::全然;
       EXPECT_EQ(summed.state, expected) << sentence << qPrintable(codes);
       const bool none = !any0 && !any1 && !any2;
       EXPECT_EQ(summed.complaints.size(), codes.count(u'7') + (!none      ? 0
@@ -61,7 +61,7 @@ class RunEndTest : public testing::Test {
     learner.dbFileWork = store.path();
     learner.condFileWork = store.folder() + QStringLiteral("/TavoCond000");
     learner.historyFileWork = store.folder() + QStringLiteral("/TavoHistory000");
-    course.COURSE = course専門;
+    course.COURSE = Course::専門;
     course.specialTable = QStringLiteral("BusinessTOEIC");
     times.開始時刻 = clock.time;
   }
@@ -73,9 +73,9 @@ class RunEndTest : public testing::Test {
     store.close();
     int errorNumber = 0;
     auto tables = LearningTables::open(store.path(), course, errorNumber);
-    conditions.selMethod = selMethod[0];
-    conditions.memorySelect = u'5';
-    conditions.startMode = u'1';
+    conditions.selMethod = codeOf<SelMethod>(selMethod);
+    conditions.memorySelect = MemorySelect::すべて;
+    conditions.startMode = StartMode::first;
     conditions.maxLoadSent = conditions.maxLoadWords = 1000;
     PracticeSet set = PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
                           .LoadPracticeSet(startKeyFirst);
@@ -130,7 +130,10 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
     return text;
   };
   const auto stateOf = [&](bool sentence, const QString& record) {
-    return itemState(ParseRecord(record, QString(), sentence ? u'B' : u'1'), QString()).state;
+    return itemState(
+               ParseRecord(record, QString(), sentence ? TableCode::sentences : TableCode::first),
+               QString())
+        .state;
   };
   store.database().write([&] {
     for (int i = 0; i < 40; ++i) {
@@ -151,7 +154,7 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
   conditions.lessonFile = QStringLiteral("lesson.tav");
   figures = survey();
   for (int round = 0; round < 30; ++round) {
-    course.COURSE = QChar(u'0' + chance(2));
+    course.COURSE = codeAt<Course>(chance(2));
     const QString selMethod = QString(u"024"[chance(2)]);
     const auto stored = run(selMethod, [&](PracticeItem& item) {
       if (chance(1) == 0) return;
@@ -161,7 +164,8 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
     });
     ASSERT_TRUE(stored);
     const ProgressCounters found = survey();
-    ASSERT_EQ(stored->記憶単熟, found.記憶単熟) << qPrintable(course.COURSE + selMethod);
+    ASSERT_EQ(stored->記憶単熟, found.記憶単熟)
+        << qPrintable(courseName(course.COURSE) + selMethod);
     ASSERT_EQ(stored->記憶文, found.記憶文);
     EXPECT_EQ(stored->回数単熟, figures.回数単熟);
     const auto rows = store.database().OpenRecordset(tableBDIC);
@@ -172,7 +176,8 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
 }
 
 TEST_F(RunEndTest, WritesALineOfHistory) {
-  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")), memory全然);
+  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")),
+                    MemoryState::全然);
   times.休憩時間 = 20;
   const auto stored = run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; });
   ASSERT_TRUE(stored);
@@ -212,7 +217,8 @@ TEST_F(RunEndTest, WritesAWordsCountAndNoRecordThatCouldNotBeRead) {
 }
 
 TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
-  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("7")), u'9');
+  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("7")),
+                    codeOf<MemoryState>(u'9'));
   store.addWord(course.specialTable, QStringLiteral("a"), packedCodes(false, QStringLiteral("7")));
   ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
   EXPECT_EQ(dialogs.shown,

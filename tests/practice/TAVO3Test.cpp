@@ -19,12 +19,12 @@ namespace {
 class TAVO3Test : public test::AnswerWindow<TAVO3> {
  protected:
   TAVO3Test() {
-    add(QStringLiteral("000120"), tableOfSentences,
+    add(QStringLiteral("000120"), TableCode::sentences,
         test::sentenceRecord(
             QStringLiteral("空所を補いなさい。％[彼]は学生です。％He (   ) a {student}."),
             {QStringLiteral("is")}));
-    add(QStringLiteral("apple"), u'1', test::wordRecord({QStringLiteral("りんご")}));
-    add(QStringLiteral("book"), u'1', test::wordRecord({QStringLiteral("本")}));
+    add(QStringLiteral("apple"), TableCode::first, test::wordRecord({QStringLiteral("りんご")}));
+    add(QStringLiteral("book"), TableCode::first, test::wordRecord({QStringLiteral("本")}));
     conditions.firstRepeatWord = 1;
     store.addWord(tableJTDIC, QStringLiteral("student"),
                   test::wordRecord({QStringLiteral("学生")}));
@@ -95,7 +95,7 @@ TEST_F(TAVO3Test, DrillsWithTheKeyboardAlone) {
 }
 
 TEST_F(TAVO3Test, TellsWhichBlankIsAskedAndReadersWhatBecameOfIt) {
-  add(QStringLiteral("000140"), tableOfSentences,
+  add(QStringLiteral("000140"), TableCode::sentences,
       test::sentenceRecord(QStringLiteral("This (   ) (   ) my bag."),
                            {QStringLiteral("is"), QStringLiteral("not")}));
   const auto isBold = [this](int position) {
@@ -153,7 +153,7 @@ TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
 }
 
 TEST_F(TAVO3Test, ClicksSelectNothingInASentenceToCorrect) {
-  add(QStringLiteral("000130"), tableOfSentences,
+  add(QStringLiteral("000130"), TableCode::sentences,
       test::sentenceRecord(QStringLiteral("次の英文に誤りがあれば訂正しなさい。％He are a boy."),
                            {QStringLiteral("He is a boy.")}));
   press(Qt::Key_F4);
@@ -197,7 +197,7 @@ TEST_F(TAVO3Test, ShowsTheNewestLinesOfTheLogAndAnyOtherByItsScrollBar) {
 
 TEST_F(TAVO3Test, MenusReachTheRunAndItsConditions) {
   find<QAction>(u"menu42")->trigger();
-  EXPECT_EQ(conditions.compareMode, u'1');
+  EXPECT_EQ(conditions.compareMode, CompareMode::caseMatters);
   QTest::mouseClick(find<QLabel>(u"StatusBar1.Panel3"), Qt::LeftButton);
   EXPECT_TRUE(find<QAction>(u"menu43")->isChecked());
   find<QAction>(u"menuTimeUp2")->trigger();

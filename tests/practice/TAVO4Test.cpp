@@ -16,8 +16,8 @@ namespace {
 class TAVO4Test : public test::AnswerWindow<TAVO4> {
  protected:
   TAVO4Test() {
-    add(QStringLiteral("big"), u'1', test::wordRecord({QStringLiteral("大きい")}));
-    add(QStringLiteral("000010"), tableOfSentences,
+    add(QStringLiteral("big"), TableCode::first, test::wordRecord({QStringLiteral("大きい")}));
+    add(QStringLiteral("000010"), TableCode::sentences,
         test::sentenceRecord(QStringLiteral("[彼]は学生です。％He (   ) a {student}."),
                              {QStringLiteral("is")}));
     conditions.reviewCycle = 0;

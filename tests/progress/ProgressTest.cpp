@@ -62,25 +62,25 @@ TEST(ProgressRecordTest, ReadsZerosWhereThereIsNoNumber) {
 TEST(ProgressCountersTest, CountEveryItemInItsCourseAndItsLevel) {
   const struct {
     const char* name;
-    QChar COURSE;
-    QChar itemTable;
+    Course COURSE;
+    TableCode itemTable;
     const char16_t* key;
     Level course;
     std::optional<Level> words, sentences;
   } cases[] = {
-      {"中学, first", u'0', u'1', u"a", 中学, 中学, {}},
-      {"中学, second", u'0', u'2', u"a", 中学, 高校, {}},
-      {"高校, first", u'1', u'1', u"a", 高校, 高校, {}},
-      {"高校, second", u'1', u'2', u"a", 高校, 中学, {}},
-      {"専門, first", u'2', u'1', u"a", 専門, 専門, {}},
-      {"専門, second", u'2', u'2', u"a", 専門, 高校, {}},
-      {"専門, third", u'2', u'3', u"a", 専門, 中学, {}},
-      {"sentence 0", u'2', u'B', u"000010", 専門, {}, 中学},
-      {"sentence 4", u'0', u'B', u"499999", 中学, {}, 中学},
-      {"sentence 5", u'0', u'B', u"500000", 中学, {}, 高校},
-      {"sentence 8", u'1', u'B', u"899999", 高校, {}, 高校},
-      {"sentence 9", u'1', u'B', u"900000", 高校, {}, 専門},
-      {"sentence without a number", u'1', u'B', u"x00000", 高校, {}, {}},
+      {"中学, first", Course::中学, TableCode::first, u"a", 中学, 中学, {}},
+      {"中学, second", Course::中学, TableCode::second, u"a", 中学, 高校, {}},
+      {"高校, first", Course::高校, TableCode::first, u"a", 高校, 高校, {}},
+      {"高校, second", Course::高校, TableCode::second, u"a", 高校, 中学, {}},
+      {"専門, first", Course::専門, TableCode::first, u"a", 専門, 専門, {}},
+      {"専門, second", Course::専門, TableCode::second, u"a", 専門, 高校, {}},
+      {"専門, third", Course::専門, TableCode::third, u"a", 専門, 中学, {}},
+      {"sentence 0", Course::専門, TableCode::sentences, u"000010", 専門, {}, 中学},
+      {"sentence 4", Course::中学, TableCode::sentences, u"499999", 中学, {}, 中学},
+      {"sentence 5", Course::中学, TableCode::sentences, u"500000", 中学, {}, 高校},
+      {"sentence 8", Course::高校, TableCode::sentences, u"899999", 高校, {}, 高校},
+      {"sentence 9", Course::高校, TableCode::sentences, u"900000", 高校, {}, 専門},
+      {"sentence without a number", Course::高校, TableCode::sentences, u"x00000", 高校, {}, {}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -101,9 +101,9 @@ TEST(ProgressCountersTest, CountEveryItemInItsCourseAndItsLevel) {
     if (c.words) grown.記憶単熟[*c.words] = {1, 0, 0};
     if (c.sentences) grown.記憶文[*c.sentences] = {1, 0, 0};
     MemoryGrowth growth;
-    growth.move(c.COURSE, c.itemTable, key, u'0', u'2');
-    growth.move(c.COURSE, c.itemTable, key, u'7', u'2');
-    growth.move(c.COURSE, c.itemTable, key, u'1', u'7');
+    growth.move(c.COURSE, c.itemTable, key, MemoryState::全然, MemoryState::完全);
+    growth.move(c.COURSE, c.itemTable, key, codeOf<MemoryState>(u'7'), MemoryState::完全);
+    growth.move(c.COURSE, c.itemTable, key, MemoryState::うろ覚え, codeOf<MemoryState>(u'7'));
     growth.addTo(learnt);
     EXPECT_TRUE(learnt == grown);
   }
@@ -113,7 +113,7 @@ TEST(ProgressCountersTest, AMemoryCountOutOfRangeBecomesZero) {
   ProgressCounters counters;
   counters.記憶単熟[中学] = {32000, 0, 5};
   MemoryGrowth growth;
-  growth.move(u'0', u'1', QString(), u'1', u'2');
+  growth.move(Course::中学, TableCode::first, QString(), MemoryState::うろ覚え, MemoryState::完全);
   growth.addTo(counters);
   EXPECT_EQ(counters.記憶単熟[中学], (Three{0, 0, 5}));
 }
@@ -136,20 +136,20 @@ class ProgressStoreTest : public testing::Test {
   test::FakeClock clock;
   test::ScriptedDialogs dialogs;
   QString userId = u"000"_s;
-  QChar COURSE = u'1';
+  Course COURSE = Course::高校;
   RunClock times;
   ProgressCounters counters;
   bool backupDue = false;
 };
 
 TEST_F(ProgressStoreTest, CountsTheTablesForANewLearner) {
-  store.addWord(tableJTDIC, u"a"_s, QString(), memory全然);
-  store.addWord(tableJTDIC, u"b"_s, QString(), memory完全);
-  store.addWord(tableJTDIC, u"c"_s, QString(), u'7');
-  store.addWord(tableSTDIC, u"a"_s, QString(), memoryうろ覚え);
-  store.addWord(u"BusinessTOEIC"_s, u"a"_s, QString(), memory完全);
+  store.addWord(tableJTDIC, u"a"_s, QString(), MemoryState::全然);
+  store.addWord(tableJTDIC, u"b"_s, QString(), MemoryState::完全);
+  store.addWord(tableJTDIC, u"c"_s, QString(), codeOf<MemoryState>(u'7'));
+  store.addWord(tableSTDIC, u"a"_s, QString(), MemoryState::うろ覚え);
+  store.addWord(u"BusinessTOEIC"_s, u"a"_s, QString(), MemoryState::完全);
   for (const char16_t* 文番 : {u"000010", u"499999", u"500000", u"899999", u"900000", u"x00000"})
-    store.addSentence(QString::fromUtf16(文番), QString(), memoryうろ覚え);
+    store.addSentence(QString::fromUtf16(文番), QString(), MemoryState::うろ覚え);
   store.addSentence(u"zzz"_s, QString());
   store.addSentence(rowPassword, QString());
   ASSERT_TRUE(load());
@@ -214,7 +214,7 @@ TEST_F(ProgressStoreTest, BooksTheTimeWithoutTheRest) {
   times.開始時刻 = clock.time;
   times.休憩時間 = 100;
   clock.time = clock.time.addSecs(700);
-  COURSE = u'2';
+  COURSE = Course::専門;
   bookTime({userId, COURSE, times}, counters, clock, dialogs);
   EXPECT_EQ(counters.時間[専門], (Three{600, 0, 0}));
   EXPECT_EQ(times.終了時刻, clock.time);

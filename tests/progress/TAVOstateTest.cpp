@@ -22,14 +22,15 @@ namespace {
 class TAVOstateTest : public testing::Test {
  protected:
   TAVOstateTest() {
-    store.addWord(tableJTDIC, QStringLiteral("a"), QString(), memoryうろ覚え);
-    store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("a"), QString(), memory完全);
+    store.addWord(tableJTDIC, QStringLiteral("a"), QString(), MemoryState::うろ覚え);
+    store.addWord(QStringLiteral("BusinessTOEIC"), QStringLiteral("a"), QString(),
+                  MemoryState::完全);
     store.addSentence(QStringLiteral("600000"), QString());
     dbFileWork = store.path();
     counters.記憶単熟[中学] = {7, 8, 9};
   }
 
-  void open(QChar COURSE) {
+  void open(Course COURSE) {
     window = std::make_unique<TAVOstate>(
         ProgressSources{userId, dbFileWork, COURSE, specialTable, counters, clock, dialogs, paper},
         [this] { ++next; }, [this] { ++left; });
@@ -59,7 +60,7 @@ class TAVOstateTest : public testing::Test {
 
 TEST_F(TAVOstateTest, BeginsWithTheCourseAndGoesOnByEnter) {
   for (const int course : {0, 1, 2}) {
-    open(QChar(u'0' + course));
+    open(codeAt<Course>(course));
     EXPECT_EQ(tab(), course);
   }
   EXPECT_EQ(window->focusWidget()->objectName(), QStringLiteral("Command1"));
@@ -69,13 +70,13 @@ TEST_F(TAVOstateTest, BeginsWithTheCourseAndGoesOnByEnter) {
   window->close();
   EXPECT_EQ(left, 0) << "it goes on with the next window";
 
-  open(u'0');
+  open(Course::中学);
   QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("Command2")), Qt::LeftButton);
   EXPECT_EQ(left, 1);
 }
 
 TEST_F(TAVOstateTest, SurveysATableOnYes) {
-  open(u'0');
+  open(Course::中学);
   dialogs.answers = {false};
   choose("menu11");
   EXPECT_EQ(dialogs.asked, QStringList{QStringLiteral("調査・更新をしますか？")});
@@ -103,7 +104,7 @@ TEST_F(TAVOstateTest, ASpecialistDictionaryIsChosenFirst) {
     });
     choose("menu13");
   };
-  open(u'0');
+  open(Course::中学);
   answer(QStringLiteral("Command2"));
   EXPECT_TRUE(dialogs.asked.isEmpty());
   answer(QStringLiteral("Command1"));
@@ -118,7 +119,7 @@ TEST_F(TAVOstateTest, ASpecialistDictionaryIsChosenFirst) {
 }
 
 TEST_F(TAVOstateTest, AFailedSurveyKeepsTheFigures) {
-  open(u'0');
+  open(Course::中学);
   dbFileWork = store.folder() + QStringLiteral("/gone.mdb");
   choose("menu11");
   EXPECT_EQ(counters.記憶単熟[中学], (Three{7, 8, 9}));
@@ -128,7 +129,7 @@ TEST_F(TAVOstateTest, AFailedSurveyKeepsTheFigures) {
 TEST_F(TAVOstateTest, PrintsOnePageOrWritesIt) {
   counters.時間[専門] = {3600, 0, 360000};
   specialTable = QStringLiteral("BusinessTOEIC");
-  open(u'2');
+  open(Course::専門);
   choose("menu2");
   QStringList printed;
   for (const auto& piece : paper.printed.pieces) printed.append(piece.text);
@@ -148,8 +149,8 @@ TEST_F(TAVOstateTest, PrintsOnePageOrWritesIt) {
 }
 
 TEST_F(TAVOstateTest, APdfGetsItsEnding) {
-  TAVOstate plain({userId, dbFileWork, u'0', specialTable, counters, clock, dialogs, paper}, {},
-                  {});
+  TAVOstate plain({userId, dbFileWork, Course::中学, specialTable, counters, clock, dialogs, paper},
+                  {}, {});
   QTimer::singleShot(0, &plain, [this] {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     dialog->setDirectory(store.folder());

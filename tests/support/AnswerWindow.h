@@ -20,7 +20,7 @@ namespace tavoli::test {
 template <class Window>
 class AnswerWindow : public testing::Test {
  protected:
-  void add(const QString& key, QChar table, const QString& record) {
+  void add(const QString& key, TableCode table, const QString& record) {
     PracticeItem item;
     item.itemEnglish = key;
     item.itemTable = table;

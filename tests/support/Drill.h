@@ -21,7 +21,7 @@ inline PracticeSet setOf(const QStringList& records) {
     PracticeItem item;
     const bool isSentence = !record.startsWith(u'|');
     item.itemEnglish = isSentence ? digits(10 * (set.itemCount() + 1), 6) : u"big"_s;
-    item.itemTable = isSentence ? tableOfSentences : QChar(u'1');
+    item.itemTable = isSentence ? TableCode::sentences : TableCode::first;
     item.itemRecord = record;
     set.append(item);
   }
@@ -45,7 +45,7 @@ inline QString typedBy(char key, QString right, bool isSentence) {
 class Drill {
  public:
   explicit Drill(const QStringList& records) : set(setOf(records)) {
-    conditions.memorySelect = u'5';
+    conditions.memorySelect = MemorySelect::すべて;
     conditions.reviewCycle = 0;
   }
 

@@ -10,15 +10,15 @@ namespace tavoli::test {
 /// a script: each time the next of `choices`, none when there is none left.
 class RecordingConditions final : public ConditionsScreen {
  public:
-  void showCourse(QChar COURSE, const QString& table) override {
+  void showCourse(Course COURSE, const QString& table) override {
     course = COURSE;
     specialTable = table;
   }
-  void showMethod(QChar code) override { selMethod = code; }
-  void showStartMode(QChar code) override { startMode = code; }
+  void showMethod(SelMethod code) override { selMethod = code; }
+  void showStartMode(StartMode code) override { startMode = code; }
   void listStarts(const QStringList& entries) override { starts = entries; }
   void showStart(const QString& text) override { start = text; }
-  void showMemory(QChar code) override { memorySelect = code; }
+  void showMemory(MemorySelect code) override { memorySelect = code; }
   void showNumber(NumberField field, const QString& text) override { numbers[field] = text; }
   void showFolder(const QString& path) override { folder = path; }
   void showLessonName(const QString& name) override { lessonName = name; }
@@ -41,7 +41,11 @@ class RecordingConditions final : public ConditionsScreen {
   void focusStart() override { focus = u'S'; }
   void setBusy(bool busy) override { busyDepth += busy ? 1 : -1; }
 
-  QChar course, selMethod, startMode, memorySelect, focus;
+  Course course{};
+  SelMethod selMethod{};
+  StartMode startMode{};
+  MemorySelect memorySelect{};
+  QChar focus;
   QString specialTable, start, folder, lessonName, lessonTrouble, pastCaption;
   QStringList starts, lesson, pastRuns, offered;
   QMap<NumberField, QString> numbers;

@@ -35,17 +35,18 @@ class TestStore {
   }
 
   void addWord(const QString& table, const QString& 英語, const QString& record,
-               QChar memory = memory全然, int level = 0) {
+               MemoryState memory = MemoryState::全然, int level = 0) {
     add(table, {{field英語, 英語},
                 {fieldレベル, digits(level, 2)},
-                {field記憶, QString(memory)},
+                {field記憶, QString(tavoli::stored(memory))},
                 {field回数, u"00"_s},
                 {field発同日コ, record}});
   }
 
-  void addSentence(const QString& 文番, const QString& record, QChar memory = memory全然) {
+  void addSentence(const QString& 文番, const QString& record,
+                   MemoryState memory = MemoryState::全然) {
     add(tableBDIC, {{field文番, 文番},
-                    {field記憶, QString(memory)},
+                    {field記憶, QString(tavoli::stored(memory))},
                     {field回数, u"00"_s},
                     {field問正コ, record}});
   }
@@ -72,22 +73,22 @@ class TestStore {
 
 /// The packed record of a word: meanings at 全然 with count 00 unless `code` says otherwise.
 inline QString wordRecord(const QStringList& meanings, const QStringList& synonyms = {},
-                          QChar code = memory全然) {
+                          MemoryState code = MemoryState::全然) {
   QString record(u'|');
   for (const QString& synonym : synonyms) record += synonym + u'^';
   record += u'|';
-  for (const QString& meaning : meanings) record += code + u"00"_s + meaning + u'^';
+  for (const QString& meaning : meanings) record += stored(code) + u"00"_s + meaning + u'^';
   return record + u'|';
 }
 
 /// The packed record of a sentence: each answer without alternatives, or with the packed ones.
 inline QString sentenceRecord(const QString& 問題文, const QStringList& answers,
                               const QString& alternatives = u"00000000"_s,
-                              QChar code = memory全然) {
+                              MemoryState code = MemoryState::全然) {
   QString record = 問題文 + u'|';
   for (const QString& answer : answers)
-    record +=
-        u"00"_s + code + digits(static_cast<int>(answer.size()), 3) + answer + alternatives + u'^';
+    record += u"00"_s + stored(code) + digits(static_cast<int>(answer.size()), 3) + answer +
+              alternatives + u'^';
   return record + u'|';
 }
 
