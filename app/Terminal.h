@@ -10,9 +10,9 @@
 #include "app/Login.h"
 #include "practice/PracticeRun.h"
 #include "practice/PracticeScreen.h"
-#include "practice/PracticeSetLoader.h"
 #include "practice/ReviewScreen.h"
 #include "system/Dialogs.h"
+#include "system/LoadProgress.h"
 
 namespace tavoli {
 

@@ -2,6 +2,7 @@
 
 #include "data/Schema.h"
 #include "practice/PracticeScreen.h"
+#include "practice/PracticeSetLoader.h"
 #include "practice/QuestionPrinting.h"
 #include "practice/RunEnd.h"
 #include "system/Clock.h"

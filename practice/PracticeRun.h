@@ -10,13 +10,13 @@
 #include "practice/LearningTables.h"
 #include "practice/PracticeLoop.h"
 #include "practice/PracticeSet.h"
-#include "practice/PracticeSetLoader.h"
 
 namespace tavoli {
 
 class Clock;
 class Dialogs;
 class Files;
+class LoadProgress;
 class Paper;
 class PracticeScreen;
 class ReviewScreen;

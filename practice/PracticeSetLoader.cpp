@@ -7,12 +7,14 @@
 #include "data/Text.h"
 #include "system/Dialogs.h"
 #include "system/Files.h"
+#include "system/LoadProgress.h"
 #include "system/Random.h"
 
 namespace tavoli {
 
 namespace {
 
+/// A load of more lines or rows than that is shown as a long one.
 constexpr int progressFrom = 1000;
 constexpr int pumpEvery = 500;
 

@@ -10,18 +10,8 @@ namespace tavoli {
 
 class Dialogs;
 class Files;
+class LoadProgress;
 class Random;
-
-/// Watches a long load and may stop it.
-class LoadProgress {
- public:
-  virtual ~LoadProgress() = default;
-  /// A load of more than 1000 lines or rows begins.
-  virtual void begin(int loadTotal) = 0;
-  /// Called at every 500th line or row; false when the learner wants no more.
-  virtual bool reached(int loadDone) = 0;
-  virtual void end() = 0;
-};
 
 /// Makes the practice set of a run out of the conditions and the learner's tables.
 class PracticeSetLoader {

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "practice/PracticeSetLoader.h"
+#include "system/LoadProgress.h"
 
 namespace tavoli {
 

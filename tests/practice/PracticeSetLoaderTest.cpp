@@ -4,6 +4,7 @@
 #include <set>
 
 #include "data/LessonFile.h"
+#include "practice/PracticeSetLoader.h"
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"

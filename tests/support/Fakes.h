@@ -6,10 +6,10 @@
 #include <functional>
 #include <random>
 
-#include "practice/PracticeSetLoader.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
+#include "system/LoadProgress.h"
 #include "system/Random.h"
 
 namespace tavoli::test {
