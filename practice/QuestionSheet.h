@@ -4,18 +4,10 @@
 
 #include <vector>
 
-#include "itemtext/MarkedText.h"
+#include "itemtext/PageWriter.h"
 #include "practice/PracticeSet.h"
 
 namespace tavoli {
-
-class PageSurface;
-
-/// A text with what stands in the column before it.
-struct LabelledText {
-  QString label;
-  MarkedText text;
-};
 
 /// Questions on paper: each item with its answers and its comment.
 class QuestionSheet {
