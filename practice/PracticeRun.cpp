@@ -1,6 +1,5 @@
 #include "practice/PracticeRun.h"
 
-#include "data/Schema.h"
 #include "practice/PracticeScreen.h"
 #include "practice/PracticeSetLoader.h"
 #include "practice/QuestionPrinting.h"
@@ -9,15 +8,6 @@
 #include "system/Dialogs.h"
 
 namespace tavoli {
-
-namespace {
-
-QString headingOf(const QString& table) {
-  if (table == tableJTDIC) return QStringLiteral("中学DB");
-  return table == tableSTDIC ? QStringLiteral("高校DB") : table;
-}
-
-}  // namespace
 
 PracticeRun::PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
                          PracticeConditions& conditions, RunClock& times,
@@ -43,7 +33,7 @@ bool PracticeRun::openTables() {
   const QStringList tables = prWhichTable(m_course);
   for (std::vector<Dictionary>* dictionaries : {&m_dictionaries, &m_reviewDictionaries})
     for (int place = 1; place <= m_tables->places(); ++place)
-      dictionaries->push_back({headingOf(tables[place - 1]), LookUp(m_tables->rsTDIC(place))});
+      dictionaries->push_back(dictionaryOf(tables[place - 1], m_tables->rsTDIC(place)));
   return true;
 }
 

@@ -6,7 +6,7 @@
 #include "conditions/AutoPlaySettings.h"
 #include "conditions/PracticeConditions.h"
 #include "data/LearnerFiles.h"
-#include "lookup/LookUp.h"
+#include "lookup/Dictionary.h"
 #include "practice/LearningTables.h"
 #include "practice/PracticeLoop.h"
 #include "practice/PracticeSet.h"
@@ -33,12 +33,6 @@ struct RunServices {
   Speaker& speaker;
   Paper& paper;
   WorkingCopy& workingCopy;
-};
-
-/// A dictionary as it is offered for looking words up.
-struct Dictionary {
-  QString heading;
-  LookUp lookUp;
 };
 
 /// One practice run from the opening of the tables to the saving of what it changed, to which the
