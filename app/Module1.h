@@ -9,6 +9,9 @@
 
 namespace tavoli {
 
+class Clock;
+class Files;
+
 /// What the screens share from program start to program end.
 struct Module1 {
   QString applicationFolder;
@@ -22,5 +25,8 @@ struct Module1 {
   /// The first login of a later month: the database is to be backed up.
   bool backupDue = false;
 };
+
+/// Program start: the shared state at its starting values, the folders made where they are missing.
+Module1 startModule1(Files& files, const Clock& clock, const QString& applicationFolder);
 
 }  // namespace tavoli

@@ -4,9 +4,9 @@
 #include <functional>
 #include <tuple>
 
-#include "app/Placement.h"
 #include "conditions/ConditionsByName.h"
 #include "conditions/ConditionsRules.h"
+#include "home/Placement.h"
 #include "practice/PracticeRun.h"
 #include "progress/ProgressReport.h"
 #include "progress/TableSurvey.h"

@@ -7,9 +7,9 @@
 #include <sys/stat.h>
 
 #include "app/CommandLine.h"
-#include "app/Placement.h"
 #include "app/TerminalDrill.h"
 #include "app/screens/WindowFlow.h"
+#include "home/Placement.h"
 #include "system/screens/PagedPaper.h"
 
 using namespace tavoli;

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "app/Login.h"
-#include "app/Placement.h"
+#include "app/Module1.h"
 #include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/PracticeSetLoader.h"

@@ -15,9 +15,9 @@
 
 #include <algorithm>
 
-#include "app/Relocation.h"
 #include "app/screens/LoginPicture.h"
 #include "app/screens/TAVO11.h"
+#include "home/Relocation.h"
 #include "system/Dialogs.h"
 
 namespace tavoli {

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-#include "app/Placement.h"
+#include "home/Placement.h"
 #include "system/Dialogs.h"
 #include "system/screens/WindowTitle.h"
 

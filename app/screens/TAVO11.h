@@ -3,7 +3,7 @@
 #include <QDialog>
 
 #include "app/Module1.h"
-#include "app/Relocation.h"
+#include "home/Relocation.h"
 
 class QLabel;
 class QLineEdit;

@@ -4,8 +4,8 @@
 #include <QScreen>
 
 #include "app/LoginLayout.h"
-#include "app/Placement.h"
 #include "app/screens/ProgramIcon.h"
+#include "home/Placement.h"
 #include "practice/screens/TAVO7.h"
 #include "progress/TableSurvey.h"
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Login.h"
-#include "app/Placement.h"
+#include "app/Module1.h"
 #include "home/WorkingCopy.h"
 #include "system/Files.h"
 #include "tests/support/Fakes.h"
@@ -91,17 +91,6 @@ class LoginTest : public testing::Test {
   FakeLoginScreen screen;
   Module1 module;
 };
-
-TEST_F(LoginTest, TheFirstStartWritesThePlacement) {
-  const QString path = folder.filePath(QStringLiteral("TavoAlloc.txt"));
-  EXPECT_EQ(module.dbPath, module.dbPathDefault);
-  EXPECT_EQ(files.read(path), module.dbPathDefault.toUtf8() + '\n');
-  files.write(path, "x\r\n");
-  EXPECT_EQ(readPlacement(files, folder.path()), module.dbPathDefault) << "one character is empty";
-  EXPECT_EQ(files.read(path), module.dbPathDefault.toUtf8() + '\n');
-  files.write(path, "/a/人\r\nsecond");
-  EXPECT_EQ(readPlacement(files, folder.path()), QStringLiteral("/a/人"));
-}
 
 TEST_F(LoginTest, RefusesIdsThatAreNoLearner) {
   EXPECT_FALSE(login(QStringLiteral("123456789")));

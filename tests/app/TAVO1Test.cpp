@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "app/LoginLayout.h"
-#include "app/Placement.h"
+#include "app/Module1.h"
 #include "app/screens/TAVO1.h"
 #include "app/screens/TAVO11.h"
 #include "system/Files.h"

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/Placement.h"
+#include "app/Module1.h"
 #include "app/screens/WindowFlow.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"

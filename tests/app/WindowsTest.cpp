@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/Placement.h"
+#include "app/Module1.h"
 #include "app/screens/ProgramIcon.h"
 #include "app/screens/TAVO1.h"
 #include "app/screens/TAVO11.h"

@@ -1,11 +1,11 @@
-#include "app/Relocation.h"
+#include "home/Relocation.h"
 
 #include <QDir>
 
-#include "app/Placement.h"
 #include "data/LearnerFiles.h"
 #include "data/Machine.h"
 #include "home/KeptCopies.h"
+#include "home/Placement.h"
 #include "system/Files.h"
 
 namespace tavoli {

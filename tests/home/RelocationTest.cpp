@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "app/Placement.h"
-#include "app/Relocation.h"
+#include "home/Placement.h"
+#include "home/Relocation.h"
 #include "system/Files.h"
 #include "tests/support/Print.h"
 
@@ -12,6 +12,20 @@ namespace tavoli {
 namespace {
 
 using Result = Relocation::Result;
+
+TEST(PlacementTest, IsWrittenWhereItIsMissing) {
+  const QTemporaryDir folder;
+  SystemFiles files;
+  const QString path = folder.filePath(QStringLiteral("TavoAlloc.txt"));
+  const QString standard = defaultDataFolder(folder.path());
+  EXPECT_EQ(readPlacement(files, folder.path()), standard);
+  EXPECT_EQ(files.read(path), standard.toUtf8() + '\n');
+  ASSERT_EQ(files.write(path, "x\r\n"), FileResult::Ok);
+  EXPECT_EQ(readPlacement(files, folder.path()), standard) << "one character is empty";
+  EXPECT_EQ(files.read(path), standard.toUtf8() + '\n');
+  ASSERT_EQ(files.write(path, "/a/人\r\nsecond"), FileResult::Ok);
+  EXPECT_EQ(readPlacement(files, folder.path()), QStringLiteral("/a/人"));
+}
 
 TEST(AccessPassword, CountsInTwoFormsOnly) {
   for (const char16_t* typed : {u"8642097531B", u"8642097531b"})

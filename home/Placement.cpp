@@ -1,11 +1,10 @@
-#include "app/Placement.h"
+#include "home/Placement.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QStandardPaths>
 
 #include "data/TextFile.h"
-#include "system/Clock.h"
 #include "system/Files.h"
 
 namespace tavoli {
@@ -39,18 +38,6 @@ QString readPlacement(Files& files, const QString& applicationFolder) {
   QString folder = defaultDataFolder(applicationFolder);
   files.write(path, folder.toUtf8() + '\n');
   return folder;
-}
-
-Module1 startModule1(Files& files, const Clock& clock, const QString& applicationFolder) {
-  Module1 module;
-  module.applicationFolder = applicationFolder;
-  module.dbPathDefault = defaultDataFolder(applicationFolder);
-  files.makeFolder(module.dbPathDefault);
-  module.dbPath = readPlacement(files, applicationFolder);
-  module.clock.開始時刻 = clock.now();
-  module.clock.終了時刻 = module.clock.開始時刻;
-  module.clock.restClock = module.clock.開始時刻;
-  return module;
 }
 
 QString applicationFolderFor(const QString& programFolder) {

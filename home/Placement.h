@@ -2,11 +2,8 @@
 
 #include <QString>
 
-#include "app/Module1.h"
-
 namespace tavoli {
 
-class Clock;
 class Files;
 
 /// The folder of the learners' data below the application's folder.
@@ -18,9 +15,6 @@ QString lessonFolder(const QString& applicationFolder);
 /// The placed folder that TavoAlloc.txt in the application's folder names. A file that is missing,
 /// unreadable or shorter than two characters is made anew with the default folder.
 QString readPlacement(Files& files, const QString& applicationFolder);
-
-/// Program start: the shared state at its starting values, the folders made where they are missing.
-Module1 startModule1(Files& files, const Clock& clock, const QString& applicationFolder);
 
 /// The application's folder, where the program's own data lie. Beside a program in its build folder
 /// it is that folder's `app`; for an installed program it is the user's own data folder.
