@@ -8,16 +8,15 @@
 #include "home/Placement.h"
 #include "practice/screens/TAVO7.h"
 #include "progress/TableSurvey.h"
+#include "system/TypeFaces.h"
 
 namespace tavoli {
 
 namespace {
 
-/// Letters and Japanese of one family, so that they stand on one line and in one weight.
 QFont programFont() {
   QFont font;
-  font.setFamilies({QStringLiteral("Noto Sans CJK JP"), QStringLiteral("BIZ UDPGothic"),
-                    QStringLiteral("IPAPGothic"), font.family()});
+  font.setFamilies(familiesOf(TypeFace::Windows) << font.family());
   constexpr double pointSize = 11;
   font.setPointSizeF(pointSize);
   return font;

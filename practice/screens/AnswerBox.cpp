@@ -2,13 +2,13 @@
 
 #include <QKeyEvent>
 
+#include "system/TypeFaces.h"
 #include "ui/screens/ScaledFont.h"
 
 namespace tavoli {
 
 AnswerBox::AnswerBox(QWidget* parent) : EnglishBox(parent) {
-  QFont fixed(QStringList{QStringLiteral("ＭＳ ゴシック"), QStringLiteral("Noto Sans Mono CJK JP"),
-                          QStringLiteral("IPAGothic"), QStringLiteral("monospace")});
+  QFont fixed(familiesOf(TypeFace::Answers));
   fixed.setStyleHint(QFont::Monospace);
   fixed.setPointSizeF(font().pointSizeF());
   setFont(scaled(fixed, 1.5));

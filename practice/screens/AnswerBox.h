@@ -4,7 +4,7 @@
 
 namespace tavoli {
 
-/// The box that answers are typed into. Fixed pitch, so that a missing blank shows.
+/// The box that answers are typed into.
 class AnswerBox final : public EnglishBox {
   Q_OBJECT
  public:

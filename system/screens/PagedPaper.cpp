@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include "system/PageSurface.h"
+#include "system/TypeFaces.h"
 
 namespace tavoli {
 
@@ -37,14 +38,9 @@ class PaintedPages final : public PageSurface {
   double height() const override { return size().height() * twipsPerPoint; }
 
   void setFont(const PageFont& font) override {
-    const QStringList families =
-        font.face == PageFont::Face::Mincho
-            ? QStringList{QStringLiteral("MS Mincho"), QStringLiteral("IPAMincho"),
-                          QStringLiteral("Noto Serif CJK JP"), QStringLiteral("serif")}
-            : QStringList{QStringLiteral("MS Gothic"), QStringLiteral("IPAGothic"),
-                          QStringLiteral("Noto Sans Mono CJK JP"), QStringLiteral("monospace")};
     QFont type;
-    type.setFamilies(families);
+    type.setFamilies(familiesOf(font.face == PageFont::Face::Mincho ? TypeFace::PrintedMincho
+                                                                    : TypeFace::PrintedGothic));
     // One unit of the painter is a twip.
     type.setPixelSize(qRound(font.points * twipsPerPoint));
     type.setBold(font.bold);
