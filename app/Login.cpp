@@ -70,29 +70,26 @@ bool Login::fail(const QString& message) {
   return false;
 }
 
-bool Login::openWorkingCopy(std::optional<Database>& database) {
+std::optional<Database> Login::openWorkingCopy() {
   const QString& work = m_module.learner.dbFileWork;
-  int dbOpenError = 0;
-  openDatabase(work, database, dbOpenError);
-  if (database && !database->isSound()) {
-    database.reset();
-    dbOpenError = openError::notADatabase;
-  }
-  if (database) return true;
-  if (dbOpenError == openError::engine) {
+  OpenedDatabase opened = openDatabase(work);
+  if (opened.database && !opened.database->isSound())
+    opened = {std::nullopt, openError::notADatabase};
+  if (opened.database) return std::move(opened.database);
+  if (opened.errorNumber == openError::engine) {
     m_screen.showEngineTrouble();
   } else {
     m_dialogs.show(
         QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=%2")
-            .arg(work, QString::number(dbOpenError)));
+            .arg(work, QString::number(opened.errorNumber)));
   }
   m_screen.focusUserId();
-  return false;
+  return std::nullopt;
 }
 
 bool Login::checkPassword(const QString& typedPassword) {
-  std::optional<Database> database;
-  if (!openWorkingCopy(database)) return false;
+  std::optional<Database> database = openWorkingCopy();
+  if (!database) return false;
   std::unique_ptr<TableCursor> rsBDIC = database->OpenRecordset(tableBDIC);
   if (!rsBDIC) {
     m_dialogs.show(QStringLiteral("Error '91'"));
@@ -152,7 +149,8 @@ bool Login::setFirstPassword(std::optional<Database>& database, const QString& t
         QStringLiteral("%1 にパスワードを保存できませんでした。練習の終了時にもう一度保存します。")
             .arg(learner.dbFilePlaced));
   }
-  return openWorkingCopy(database);
+  database = openWorkingCopy();
+  return database.has_value();
 }
 
 void Login::backUp() {

@@ -43,7 +43,8 @@ class Login {
  private:
   bool isUnregistered(const QString& id) const;
   bool logIn(const QString& typedPassword);
-  bool openWorkingCopy(std::optional<Database>& database);
+  /// Nothing when it cannot be used; the learner has then been told.
+  std::optional<Database> openWorkingCopy();
   bool checkPassword(const QString& typedPassword);
   /// Asks a new learner whether the password is right, and stores it. False on No.
   bool setFirstPassword(std::optional<Database>& database, const QString& typedPassword);

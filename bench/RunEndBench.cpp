@@ -72,8 +72,7 @@ void closeRun(benchmark::State& state) {
   learner.historyFileWork = store.folder() + QStringLiteral("/history");
   for (auto _ : state) {
     state.PauseTiming();
-    int errorNumber = 0;
-    auto tables = LearningTables::open(store.path(), course, errorNumber);
+    auto tables = LearningTables::open(store.path(), course).tables;
     PracticeSet set = PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
                           .LoadPracticeSet(startKeyFirst);
     for (int i = 1; i <= set.itemCount(); ++i) {

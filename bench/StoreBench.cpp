@@ -51,9 +51,8 @@ BENCHMARK(walkCursor)->Name("walkTable")->Unit(benchmark::kMillisecond);
 
 void loadSet(benchmark::State& state) {
   bigStore();
-  int errorNumber = 0;
   const CourseChoice course;
-  const auto tables = LearningTables::open(bigStore().path(), course, errorNumber);
+  const auto tables = LearningTables::open(bigStore().path(), course).tables;
   PracticeConditions conditions;
   conditions.maxLoadWords = 24990;
   const SystemFiles files;

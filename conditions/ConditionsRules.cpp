@@ -50,11 +50,10 @@ bool ConditionsRules::enter() {
 }
 
 std::optional<Database> ConditionsRules::openStore() {
-  std::optional<Database> database;
-  int errorNumber = 0;
-  openDatabase(m_learner.dbFileWork, database, errorNumber);
-  if (!database) m_services.dialogs.show(openTrouble(m_learner.dbFileWork, errorNumber));
-  return database;
+  OpenedDatabase opened = openDatabase(m_learner.dbFileWork);
+  if (!opened.database)
+    m_services.dialogs.show(openTrouble(m_learner.dbFileWork, opened.errorNumber));
+  return std::move(opened.database);
 }
 
 void ConditionsRules::chooseCourse(Course COURSE) {

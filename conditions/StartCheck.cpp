@@ -44,16 +44,14 @@ StartCheck checkTableStart(const QString& named, const PracticeConditions& condi
     check.trouble = path + QStringLiteral(" : not found");
     return check;
   }
-  std::optional<Database> database;
-  int errorNumber = 0;
-  openDatabase(path, database, errorNumber);
-  if (!database) {
-    check.trouble = openTrouble(path, errorNumber);
+  OpenedDatabase opened = openDatabase(path);
+  if (!opened.database) {
+    check.trouble = openTrouble(path, opened.errorNumber);
     return check;
   }
   const bool words = conditions.usesWords();
   const QString table = words ? prWhichTable(course).first() : tableBDIC;
-  const auto rows = database->OpenRecordset(table);
+  const auto rows = opened.database->OpenRecordset(table);
   if (!rows) {
     check.trouble = course.COURSE == Course::専門 && words
                         ? missingTable(table)

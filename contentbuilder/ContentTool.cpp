@@ -107,17 +107,15 @@ Problems ContentTool::build(const QString& folder, const QString& target, bool f
 
 Problems ContentTool::dump(const QString& database, const QString& folder, bool force) {
   Problems problems;
-  std::optional<Database> opened;
-  int errorNumber = openError::none;
-  openDatabase(database, opened, errorNumber);
-  if (!opened) {
+  OpenedDatabase opened = openDatabase(database);
+  if (!opened.database) {
     problems.push_back({database, 0,
                         QStringLiteral("データベースを開けませんでした（エラー番号%1）。"
                                        "ファイルを確かめてください。")
-                            .arg(errorNumber)});
+                            .arg(opened.errorNumber)});
     return problems;
   }
-  const std::vector<SourceFile> sources = dumpContent(*opened, database, problems);
+  const std::vector<SourceFile> sources = dumpContent(*opened.database, database, problems);
   const QDir place(folder);
   if (!force) {
     Problems inTheWay;

@@ -153,11 +153,11 @@ class Updater {
   }
 
   bool open(const QString& path, std::optional<Database>& database) {
-    int errorNumber = openError::none;
-    openDatabase(path, database, errorNumber);
+    OpenedDatabase opened = openDatabase(path);
+    database = std::move(opened.database);
     if (database && database->isSound() && database->TableDefs().contains(tableBDIC)) return true;
     fail(path, QStringLiteral("個人データベースとして開けませんでした（エラー番号%1）。")
-                   .arg(errorNumber));
+                   .arg(opened.errorNumber));
     return false;
   }
 

@@ -116,36 +116,24 @@ bool Database::isSound() const {
   }
 }
 
-void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber) {
-  database.reset();
+OpenedDatabase openDatabase(const QString& path) {
+  const auto notOpened = [](int errorNumber) { return OpenedDatabase{std::nullopt, errorNumber}; };
   const QFileInfo file(path);
-  if (!file.isFile()) {
-    errorNumber = openError::fileNotFound;
-    return;
-  }
-  if (file.size() == 0) {
-    // SQLite would take an empty file for a new, empty database.
-    errorNumber = openError::notADatabase;
-    return;
-  }
+  if (!file.isFile()) return notOpened(openError::fileNotFound);
+  // SQLite would take an empty file for a new, empty database.
+  if (file.size() == 0) return notOpened(openError::notADatabase);
   try {
     auto connection = std::make_unique<SQLite::Database>(
         path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     // SQLite reads the file only when it must: this makes it look.
     const int fileVersion = numberOfPragma(*connection, "user_version");
-    if (sqlite3_db_readonly(connection->getHandle(), "main") == 1) {
-      errorNumber = openError::noAccess;
-      return;
-    }
+    if (sqlite3_db_readonly(connection->getHandle(), "main") == 1)
+      return notOpened(openError::noAccess);
     connection->exec("PRAGMA synchronous=FULL");
-    if (fileVersion > schema::version) {
-      errorNumber = openError::notADatabase;
-      return;
-    }
-    errorNumber = openError::none;
-    database.emplace(std::move(connection));
+    if (fileVersion > schema::version) return notOpened(openError::notADatabase);
+    return {Database(std::move(connection)), openError::none};
   } catch (const SQLite::Exception& error) {
-    errorNumber = errorNumberOf(error.getErrorCode());
+    return notOpened(errorNumberOf(error.getErrorCode()));
   }
 }
 

@@ -11,7 +11,7 @@
 
 namespace tavoli {
 
-/// The error numbers that openDatabase gives.
+/// The error numbers of an OpenedDatabase.
 namespace openError {
 inline constexpr int none = 0;
 inline constexpr int locked = 70;
@@ -57,9 +57,14 @@ class Database {
   std::unique_ptr<SQLite::Database> m_connection;
 };
 
-/// The only way in which a personal database is opened, read-write and shared. `errorNumber` is one
-/// of openError; `database` is empty unless it is 0.
-void openDatabase(const QString& path, std::optional<Database>& database, int& errorNumber);
+/// A personal database that was to be opened: nothing where that could not be done.
+struct OpenedDatabase {
+  std::optional<Database> database;
+  int errorNumber = openError::none;  ///< why not: one of openError
+};
+
+/// The only way in which a personal database is opened, read-write and shared.
+OpenedDatabase openDatabase(const QString& path);
 
 /// A file for reading as it lies there, without a lock and without a look at what lies beside it;
 /// nothing when it cannot be opened. For copies that nobody writes just then.

@@ -29,9 +29,7 @@ std::optional<QString> keepAside(Files& files, const QString& path, const QDateT
 
 void takeBackHalfWritten(const Files& files, const QString& path) {
   if (!files.exists(path + journalEnding)) return;
-  std::optional<Database> opened;
-  int errorNumber = 0;
-  openDatabase(path, opened, errorNumber);
+  openDatabase(path);
 }
 
 bool sameContent(const Files& files, const QString& path, const QString& other) {

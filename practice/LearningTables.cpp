@@ -4,20 +4,17 @@
 
 namespace tavoli {
 
-std::unique_ptr<LearningTables> LearningTables::open(const QString& path,
-                                                     const CourseChoice& course, int& errorNumber) {
-  std::unique_ptr<LearningTables> tables(new LearningTables);
-  openDatabase(path, tables->m_database, errorNumber);
-  if (!tables->m_database) return nullptr;
-  errorNumber = openError::notADatabase;
-  tables->m_rsBDIC = tables->m_database->OpenRecordset(tableBDIC);
-  if (!tables->m_rsBDIC) return nullptr;
+LearningTables::Opened LearningTables::open(const QString& path, const CourseChoice& course) {
+  OpenedDatabase opened = openDatabase(path);
+  if (!opened.database) return {nullptr, opened.errorNumber};
+  std::unique_ptr<LearningTables> tables(new LearningTables(std::move(*opened.database)));
+  tables->m_rsBDIC = tables->m_database.OpenRecordset(tableBDIC);
+  if (!tables->m_rsBDIC) return {nullptr, openError::notADatabase};
   for (const QString& table : prWhichTable(course)) {
-    tables->m_rsTDIC.push_back(tables->m_database->OpenRecordset(table));
-    if (!tables->m_rsTDIC.back()) return nullptr;
+    tables->m_rsTDIC.push_back(tables->m_database.OpenRecordset(table));
+    if (!tables->m_rsTDIC.back()) return {nullptr, openError::notADatabase};
   }
-  errorNumber = openError::none;
-  return tables;
+  return {std::move(tables), openError::none};
 }
 
 }  // namespace tavoli

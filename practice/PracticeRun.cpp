@@ -22,12 +22,12 @@ PracticeRun::PracticeRun(const LearnerFiles& learner, const CourseChoice& course
 PracticeRun::~PracticeRun() = default;
 
 bool PracticeRun::openTables() {
-  int errorNumber = 0;
-  m_tables = LearningTables::open(m_learner.dbFileWork, m_course, errorNumber);
+  LearningTables::Opened opened = LearningTables::open(m_learner.dbFileWork, m_course);
+  m_tables = std::move(opened.tables);
   if (!m_tables) {
     m_services.dialogs.show(m_learner.dbFileWork +
                             QStringLiteral(" : OpenDatabase error    Err.Number=") +
-                            QString::number(errorNumber));
+                            QString::number(opened.errorNumber));
     return false;
   }
   const QStringList tables = prWhichTable(m_course);

@@ -30,9 +30,7 @@ void MemorySurvey::surveySentences() {
 }
 
 void MemorySurvey::surveySpecial() {
-  std::optional<Database> database;
-  int dbOpenError = 0;
-  openDatabase(m_dbFileWork, database, dbOpenError);
+  std::optional<Database> database = openDatabase(m_dbFileWork).database;
   const QStringList tables = database ? specialTables(*database) : QStringList();
   database.reset();
   const std::optional<QString> chosen = m_screen.chooseSpecialTable(tables);
@@ -52,9 +50,7 @@ void MemorySurvey::surveySpecial() {
 void MemorySurvey::survey(const std::function<bool(const Database&)>& count) {
   if (!m_dialogs.ask(QStringLiteral("調査・更新をしますか？"))) return;
   m_screen.setBusy(true);
-  std::optional<Database> database;
-  int dbOpenError = 0;
-  openDatabase(m_dbFileWork, database, dbOpenError);
+  std::optional<Database> database = openDatabase(m_dbFileWork).database;
   const ProgressCounters before = m_counters;
   const bool counted = database && count(*database);
   m_screen.setBusy(false);

@@ -24,9 +24,7 @@ bool surveySentences(const Database& database, ByLevel& memory) {
 
 void recountSpecialTable(const QString& dbFileWork, const QString& table,
                          ProgressCounters& counters) {
-  std::optional<Database> database;
-  int dbOpenError = 0;
-  openDatabase(dbFileWork, database, dbOpenError);
+  std::optional<Database> database = openDatabase(dbFileWork).database;
   Three memory{};
   if (database && surveyWordTable(*database, table, memory)) counters.記憶単熟[専門] = memory;
 }

@@ -63,9 +63,7 @@ class LoginTest : public testing::Test {
   }
 
   Field storedPassword(const QString& path) {
-    std::optional<Database> database;
-    int errorNumber = 0;
-    openDatabase(path, database, errorNumber);
+    std::optional<Database> database = openDatabase(path).database;
     const auto rows = database->OpenRecordset(tableBDIC);
     rows->Seek(SeekOp::Equal, rowPassword);
     return rows->NoMatch() ? Field(QStringLiteral("no row")) : rows->value(field問正コ);
@@ -73,9 +71,7 @@ class LoginTest : public testing::Test {
 
   /// Changes the database as a run does.
   void work_on(const QString& path) {
-    std::optional<Database> database;
-    int errorNumber = 0;
-    openDatabase(path, database, errorNumber);
+    std::optional<Database> database = openDatabase(path).database;
     const auto rows = database->OpenRecordset(tableBDIC);
     rows->Seek(SeekOp::Equal, QStringLiteral("000010"));
     rows->Edit();

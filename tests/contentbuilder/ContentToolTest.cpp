@@ -20,9 +20,7 @@ using test::TestStore;
 
 /// Every field of every row, table by table, in key order.
 QStringList allRows(const QString& path) {
-  std::optional<Database> database;
-  int errorNumber = 0;
-  openDatabase(path, database, errorNumber);
+  std::optional<Database> database = openDatabase(path).database;
   QStringList all = database ? database->TableDefs() : QStringList();
   all.removeIf([](const QString& table) { return table.startsWith(QStringLiteral("USys")); });
   for (const QString& table : QStringList(all)) {
@@ -118,9 +116,7 @@ TEST_F(ContentToolTest, ADumpKeepsFilesOrderAndHeadings) {
       {"sentences/中学/a.txt", "# 文\n000020\n問 次\n答 a\n\n# 次\n000010\n問 二\n答 b\n"}};
   for (const auto& [name, bytes] : sources) write(name, bytes);
   ASSERT_EQ(messages(tool.build(path("content"), path("a.mdb"), false)), QStringList());
-  std::optional<Database> database;
-  int errorNumber = 0;
-  openDatabase(path("a.mdb"), database, errorNumber);
+  std::optional<Database> database = openDatabase(path("a.mdb")).database;
   ASSERT_TRUE(database->createTable(QStringLiteral(".."))) << "a table of another's";
   Problems problems;
   for (const SourceFile& source : dumpContent(*database, QString(), problems))

@@ -124,9 +124,7 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
     SCOPED_TRACE(c.name);
     const QString path = store.folder() + u"/case.mdb"_s;
     if (c.content) files.write(path, *c.content);
-    std::optional<Database> database;
-    int errorNumber = -1;
-    openDatabase(path, database, errorNumber);
+    const auto [database, errorNumber] = openDatabase(path);
     EXPECT_EQ(errorNumber, c.expected);
     EXPECT_EQ(database.has_value(), c.expected == openError::none);
   }

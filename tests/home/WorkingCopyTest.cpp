@@ -53,9 +53,7 @@ class WorkingCopyTest : public testing::Test {
   /// What a run stores: a row of its own in the database, a line in each text.
   void run(const Machine& machine) {
     const QString key = digits(++runs, 6);
-    std::optional<Database> database;
-    int errorNumber = 0;
-    openDatabase(machine.learner.dbFileWork, database, errorNumber);
+    std::optional<Database> database = openDatabase(machine.learner.dbFileWork).database;
     const auto rows = database->OpenRecordset(tableBDIC);
     rows->EditOrAddNew(key);
     ASSERT_TRUE(rows->Update());

@@ -150,9 +150,7 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
   run->loop().requestPrint();
   run->loop().exitAtOnce();
   {
-    std::optional<Database> holder;
-    int errorNumber = 0;
-    openDatabase(store.path(), holder, errorNumber);
+    std::optional<Database> holder = openDatabase(store.path()).database;
     holder->write([&] {
       dialogs.answers = {false};
       EXPECT_FALSE(run->close());

@@ -33,9 +33,7 @@ class PracticeSetLoaderTest : public testing::Test {
 
   PracticeSet load(const QString& startKey = startKeyFirst) {
     store.close();
-    int errorNumber = 0;
-    tables = LearningTables::open(store.path(), course, errorNumber);
-    EXPECT_EQ(errorNumber, 0);
+    tables = LearningTables::open(store.path(), course).tables;
     PracticeSet set =
         PracticeSetLoader(*tables, course, conditions, files, random, dialogs, progress)
             .LoadPracticeSet(startKey);

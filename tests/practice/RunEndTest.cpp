@@ -71,8 +71,7 @@ class RunEndTest : public testing::Test {
   std::optional<ProgressCounters> run(const QString& selMethod,
                                       const std::function<void(PracticeItem&)>& change) {
     store.close();
-    int errorNumber = 0;
-    auto tables = LearningTables::open(store.path(), course, errorNumber);
+    auto tables = LearningTables::open(store.path(), course).tables;
     conditions.selMethod = codeOf<SelMethod>(selMethod);
     conditions.memorySelect = MemorySelect::すべて;
     conditions.startMode = StartMode::first;

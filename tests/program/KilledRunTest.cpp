@@ -77,9 +77,7 @@ class KilledRunTest : public testing::Test {
   /// Opening a file takes half-written changes back first.
   static Snapshot snapshot(const QString& path) {
     Snapshot shot;
-    std::optional<Database> database;
-    int errorNumber = 0;
-    openDatabase(path, database, errorNumber);
+    auto [database, errorNumber] = openDatabase(path);
     EXPECT_EQ(errorNumber, 0) << qPrintable(path);
     if (!database) return shot;
     EXPECT_TRUE(database->isSound());

@@ -62,9 +62,7 @@ class TerminalDrillTest : public testing::Test {
 
   /// The fields 記憶 and 回数 of a sentence.
   QString stored(const QString& 文番) const {
-    std::optional<Database> opened;
-    int errorNumber = 0;
-    openDatabase(database(), opened, errorNumber);
+    std::optional<Database> opened = openDatabase(database()).database;
     const auto rows = opened->OpenRecordset(tableBDIC);
     rows->Seek(SeekOp::Equal, 文番);
     return rows->text(field記憶) + rows->text(field回数);

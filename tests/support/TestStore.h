@@ -29,10 +29,7 @@ class TestStore {
   QString folder() const { return m_folder.path(); }
   Database& database() { return *m_database; }
   void close() { m_database.reset(); }
-  void open() {
-    int errorNumber = 0;
-    openDatabase(m_path, m_database, errorNumber);
-  }
+  void open() { m_database = openDatabase(m_path).database; }
 
   void addWord(const QString& table, const QString& 英語, const QString& record,
                MemoryState memory = MemoryState::全然, int level = 0) {
