@@ -10,7 +10,8 @@ Module1 startModule1(Files& files, const Clock& clock, const QString& applicatio
   Module1 module;
   module.applicationFolder = applicationFolder;
   module.dbPathDefault = defaultDataFolder(applicationFolder);
-  files.makeFolder(module.dbPathDefault);
+  // Where the folder is missing the login finds no files, and says so.
+  static_cast<void>(files.makeFolder(module.dbPathDefault));
   module.dbPath = readPlacement(files, applicationFolder);
   module.clock.開始時刻 = clock.now();
   module.clock.終了時刻 = module.clock.開始時刻;

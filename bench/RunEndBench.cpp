@@ -35,7 +35,7 @@ test::TestStore& filledStore(int words) {
   static std::map<int, test::TestStore> stores;
   test::TestStore& store = stores[words];
   if (store.stored(tableSTDIC, wordOf(0), field英語)) return store;
-  store.database().write([&] {
+  const bool filled = store.database().write([&] {
     const auto rows = store.database().OpenRecordset(tableSTDIC);
     for (int i = 0; i < words; ++i) {
       rows->AddNew();
@@ -44,10 +44,11 @@ test::TestStore& filledStore(int words) {
       rows->setValue(field記憶, QStringLiteral("0"));
       rows->setValue(field回数, QStringLiteral("00"));
       rows->setValue(field発同日コ, record);
-      rows->Update();
+      if (!rows->Update()) return false;
     }
     return true;
   });
+  if (!filled) qFatal("no rows");
   return store;
 }
 
@@ -120,8 +121,9 @@ BENCHMARK(closeRunBare)->Name("closeRun/bare")->Unit(benchmark::kMillisecond);
 void survey(benchmark::State& state) {
   test::TestStore& store = filledStore(rowCount);
   Three memory{};
-  for (auto _ : state) surveyWordTable(store.database(), tableSTDIC, memory);
-  if (memory[2] != rowCount) state.SkipWithError("counted wrongly");
+  bool counted = false;
+  for (auto _ : state) counted = surveyWordTable(store.database(), tableSTDIC, memory);
+  if (!counted || memory[2] != rowCount) state.SkipWithError("counted wrongly");
 }
 BENCHMARK(survey)->Unit(benchmark::kMillisecond);
 
@@ -153,7 +155,9 @@ void loginToReport(benchmark::State& state) {
   test::ScriptedDialogs dialogs;
   PagedPaper paper;
   Module1 module = startModule1(files, clock, folder.path());
-  files.copy(store.path(), module.dbPathDefault + QStringLiteral("/TavoDB000.mdb"));
+  if (files.copy(store.path(), module.dbPathDefault + QStringLiteral("/TavoDB000.mdb")) !=
+      FileResult::Ok)
+    state.SkipWithError("not copied");
   struct Screen final : LoginScreen {
     void setUserId(const QString&) override {}
     void focusUserId() override {}

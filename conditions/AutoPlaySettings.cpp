@@ -11,7 +11,8 @@ AutoPlaySettings readAutoPlaySettings(TableCursor& rsBDIC) {
   AutoPlaySettings settings;
   rsBDIC.Seek(SeekOp::Equal, rowAutoPlay);
   if (rsBDIC.NoMatch()) {
-    saveAutoPlaySettings(rsBDIC, settings);
+    // Standard values count without being stored.
+    static_cast<void>(saveAutoPlaySettings(rsBDIC, settings));
     return settings;
   }
   const QString text = rsBDIC.text(field問正コ);

@@ -15,6 +15,6 @@ struct AutoPlaySettings {
 
 /// Reads the row; where it is missing it is made with the standard values.
 AutoPlaySettings readAutoPlaySettings(TableCursor& rsBDIC);
-bool saveAutoPlaySettings(TableCursor& rsBDIC, const AutoPlaySettings& settings);
+[[nodiscard]] bool saveAutoPlaySettings(TableCursor& rsBDIC, const AutoPlaySettings& settings);
 
 }  // namespace tavoli

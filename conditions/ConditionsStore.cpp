@@ -17,7 +17,8 @@ CourseChoice readCourse(Database& database, const CourseChoice& before) {
     rsBDIC->setValue(field記憶, QString(stored(course.COURSE)));
     rsBDIC->setValue(field回数, QStringLiteral("00"));
     rsBDIC->setValue(field問正コ, QString());
-    rsBDIC->Update();
+    // Standard values count without being stored.
+    static_cast<void>(rsBDIC->Update());
     return course;
   }
   const QString code = rsBDIC->text(field記憶);
@@ -47,7 +48,7 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
     rsTDIC.setValue(fieldレベル, QStringLiteral("00"));
     rsTDIC.setValue(field記憶, QString(stored(MemoryState::全然)));
     rsTDIC.setValue(field回数, QStringLiteral("00"));
-    rsTDIC.Update();
+    static_cast<void>(rsTDIC.Update());  // as for the course
     return conditions;
   }
   conditions = decodeConditions(rsTDIC.text(field発同日コ), defaultLessonFolder);

@@ -12,7 +12,7 @@ namespace tavoli {
 CourseChoice readCourse(Database& database, const CourseChoice& before);
 
 /// Stores the course; the specialist dictionary only along with course 専門.
-bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course);
+[[nodiscard]] bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course);
 
 /// The conditions last used with a dictionary; its row is made with the defaults where it is
 /// missing.
@@ -20,6 +20,6 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
                                   const QString& defaultLessonFolder);
 
 /// Stores the conditions in the dictionary's row.
-bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions);
+[[nodiscard]] bool saveConditions(TableCursor& rsTDIC, const PracticeConditions& conditions);
 
 }  // namespace tavoli

@@ -47,6 +47,6 @@ QStringList listPastConditions(const QStringList& lines);
 
 /// Adds a line to the file; of more than a hundred the oldest go. A file that is there but cannot
 /// be read stays as it is, and the result is false, as when it cannot be written.
-bool appendPastConditions(Files& files, const QString& path, const QString& line);
+[[nodiscard]] bool appendPastConditions(Files& files, const QString& path, const QString& line);
 
 }  // namespace tavoli

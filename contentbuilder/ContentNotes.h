@@ -29,7 +29,7 @@ ContentNotes makeNotes(const std::vector<SourceFile>& files,
                        const std::vector<ContentTable>& tables, Problems& problems);
 
 /// Puts the notes in the place of those that the database has.
-bool storeNotes(const ContentNotes& notes, Database& database);
+[[nodiscard]] bool storeNotes(const ContentNotes& notes, Database& database);
 /// None for a database that was made without.
 ContentNotes notesIn(Database& database);
 

@@ -12,8 +12,8 @@ namespace tavoli {
 
 /// Fills an empty database with the tables, every item new to the learner, and with the notes.
 /// False when it could not be written; it then holds nothing.
-bool storeContent(const std::vector<ContentTable>& tables, const ContentNotes& notes,
-                  Database& database);
+[[nodiscard]] bool storeContent(const std::vector<ContentTable>& tables, const ContentNotes& notes,
+                                Database& database);
 
 /// Writes a database back as sources, divided and headed as those it was made from. Reserved rows
 /// are left out. A row that no source can express is left out too, and named in `problems` by its

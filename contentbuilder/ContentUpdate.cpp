@@ -137,7 +137,8 @@ class Updater {
       return m_update;
     const bool stored = m_learner->write([&] { return mergeAll(); });
     if (!stored) {
-      m_files.remove(m_update.backup);
+      // A backup that stays is of what the learner has.
+      static_cast<void>(m_files.remove(m_update.backup));
       return fail(learner, QStringLiteral("取り込めませんでした。何も変更していません。"
                                           "ディスクの空きと権限を確かめてください。"));
     }

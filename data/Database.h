@@ -35,30 +35,31 @@ class Database {
   QStringList TableDefs() const;
   /// A cursor on the table's first row in key order; nothing when the table is missing or is no
   /// table of a personal database. With `fields` it reads only these and the key, and is faster.
-  std::unique_ptr<TableCursor> OpenRecordset(const QString& table, const QStringList& fields = {});
+  [[nodiscard]] std::unique_ptr<TableCursor> OpenRecordset(const QString& table,
+                                                           const QStringList& fields = {});
 
   /// Walks over a table in one pass, up to its reserved rows: `visit` gets the first character of
   /// each key and the one character of `field`, 0 where the key begins with no ASCII character or
   /// the field does not hold one ASCII character. False when the table could not be read.
-  bool scanCodes(const QString& table, const QString& field,
-                 const std::function<void(char initial, char code)>& visit) const;
+  [[nodiscard]] bool scanCodes(const QString& table, const QString& field,
+                               const std::function<void(char initial, char code)>& visit) const;
 
   /// Does all the work's writing in one transaction: all of it is kept and counted as a change, or,
   /// when the work returns false or a write fails, nothing. Returns whether it was kept.
-  bool write(const std::function<bool()>& work);
+  [[nodiscard]] bool write(const std::function<bool()>& work);
 
   /// Makes an empty table: BDIC or a dictionary.
-  bool createTable(const QString& table);
+  [[nodiscard]] bool createTable(const QString& table);
 
   /// Reads the whole file and returns whether it is sound.
-  bool isSound() const;
+  [[nodiscard]] bool isSound() const;
 
  private:
   std::unique_ptr<SQLite::Database> m_connection;
 };
 
 /// A personal database that was to be opened: nothing where that could not be done.
-struct OpenedDatabase {
+struct [[nodiscard]] OpenedDatabase {
   std::optional<Database> database;
   int errorNumber = openError::none;  ///< why not: one of openError
 };
@@ -68,12 +69,12 @@ OpenedDatabase openDatabase(const QString& path);
 
 /// A file for reading as it lies there, without a lock and without a look at what lies beside it;
 /// nothing when it cannot be opened. For copies that nobody writes just then.
-std::optional<Database> peekDatabase(const QString& path);
+[[nodiscard]] std::optional<Database> peekDatabase(const QString& path);
 
 /// The specialist dictionaries of a database, in the order in which they were made.
 QStringList specialTables(const Database& database);
 
 /// A new file with no table; nothing when it cannot be made. An existing file is an error.
-std::optional<Database> createDatabase(const QString& path);
+[[nodiscard]] std::optional<Database> createDatabase(const QString& path);
 
 }  // namespace tavoli

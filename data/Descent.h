@@ -30,14 +30,14 @@ using Descent = QMap<QString, Change>;
 /// and a ";" behind each machine.
 QString packDescent(const Descent& descent);
 /// Nothing for a text of another form.
-std::optional<Descent> parseDescent(const QString& text);
+[[nodiscard]] std::optional<Descent> parseDescent(const QString& text);
 
 /// Nothing where the row is missing or is no descent.
-std::optional<Descent> readDescent(Database& database);
+[[nodiscard]] std::optional<Descent> readDescent(Database& database);
 
 /// Does the work's writing in one transaction and counts it as a change of the machine that the
 /// file's folder belongs to; in the folder of no machine only what was counted before is. All of it
 /// is kept, or, when the work returns false or a write fails, nothing. Returns whether it was kept.
-bool writeCounted(SQLite::Database& database, const std::function<bool()>& work);
+[[nodiscard]] bool writeCounted(SQLite::Database& database, const std::function<bool()>& work);
 
 }  // namespace tavoli

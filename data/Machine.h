@@ -14,7 +14,7 @@ inline const QString machineFileName = QStringLiteral("TavoMachine.txt");
 QString machineOf(const QString& folder);
 
 /// Gives the folder an id unless it has one. False when it cannot be written.
-bool makeMachine(Files& files, const QString& folder);
+[[nodiscard]] bool makeMachine(Files& files, const QString& folder);
 
 /// A random text of hexadecimal digits, four bits each.
 QString randomId(int digits);

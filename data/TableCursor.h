@@ -62,11 +62,12 @@ class TableCursor {
   void Edit();
   /// Begins a change of the row with that key, or, where there is none, a new row with the key and
   /// the fields `ifNew`. False when the table could not be read; nothing is begun then.
-  bool EditOrAddNew(const QString& key, const QList<std::pair<QString, QString>>& ifNew = {});
+  [[nodiscard]] bool EditOrAddNew(const QString& key,
+                                  const QList<std::pair<QString, QString>>& ifNew = {});
   void setValue(const QString& field, const Field& value);
   /// Stores what AddNew or Edit began, in a transaction of its own unless one is open, so that it
   /// counts as a change. False when it could not be stored.
-  bool Update();
+  [[nodiscard]] bool Update();
 
   bool failed() const { return m_failed; }
 

@@ -6,18 +6,17 @@
 
 #include <optional>
 
+#include "system/Files.h"
+
 // Text files that people and other programs may have written.
 namespace tavoli {
 
-class Files;
-enum class FileResult;
-
 /// The text of a file: UTF-8 where the bytes are valid UTF-8 (a byte order mark is dropped), else
 /// the Windows code page 932. Nothing when it is neither, or holds characters no text has.
-std::optional<QString> decodeText(const QByteArray& bytes);
+[[nodiscard]] std::optional<QString> decodeText(const QByteArray& bytes);
 
 /// The lines of a file: none for one that is missing; nothing for one that is no text.
-std::optional<QStringList> readLines(const Files& files, const QString& path);
+[[nodiscard]] std::optional<QStringList> readLines(const Files& files, const QString& path);
 
 /// Adds a line to a file that is UTF-8 afterwards: one in the code page 932 is converted.
 FileResult appendLine(Files& files, const QString& path, const QString& line);

@@ -21,7 +21,8 @@ std::optional<QString> keepAside(Files& files, const QString& path, const QDateT
   // A journal belongs to the file that it lay beside, never to its successor.
   const QString journal = path + journalEnding;
   if (files.exists(journal) && files.rename(journal, kept + journalEnding) != FileResult::Ok) {
-    files.rename(kept, path);
+    // If even that fails the file lies under its dated name, whole.
+    static_cast<void>(files.rename(kept, path));
     return std::nullopt;
   }
   return kept;
@@ -29,7 +30,8 @@ std::optional<QString> keepAside(Files& files, const QString& path, const QDateT
 
 void takeBackHalfWritten(const Files& files, const QString& path) {
   if (!files.exists(path + journalEnding)) return;
-  openDatabase(path);
+  // What cannot be opened is told by whoever opens it for its content.
+  static_cast<void>(openDatabase(path));
 }
 
 bool sameContent(const Files& files, const QString& path, const QString& other) {

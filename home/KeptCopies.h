@@ -17,16 +17,17 @@ QString datedName(const Files& files, const QString& path, const QDateTime& time
 
 /// Puts a file that must not be lost out of the way under a dated name, which is returned, and the
 /// journal that belongs to it with it. Nothing when that cannot be done; the file then stays.
-std::optional<QString> keepAside(Files& files, const QString& path, const QDateTime& time);
+[[nodiscard]] std::optional<QString> keepAside(Files& files, const QString& path,
+                                               const QDateTime& time);
 
 /// Has a database take back what a program that died while it wrote had half written.
 void takeBackHalfWritten(const Files& files, const QString& path);
 
 /// Whether a file's bytes are another's.
-bool sameContent(const Files& files, const QString& path, const QString& other);
+[[nodiscard]] bool sameContent(const Files& files, const QString& path, const QString& other);
 
 /// Whether a copy may give way to another of the same name: the same, a database whose changes the
 /// other holds, or a text that goes on in the other.
-bool mayGiveWay(const Files& files, const QString& path, const QString& other);
+[[nodiscard]] bool mayGiveWay(const Files& files, const QString& path, const QString& other);
 
 }  // namespace tavoli

@@ -36,7 +36,8 @@ QString readPlacement(Files& files, const QString& applicationFolder) {
   const QStringList lines = text ? splitLines(*text) : QStringList();
   if (!lines.isEmpty() && lines.first().size() >= 2) return lines.first();
   QString folder = defaultDataFolder(applicationFolder);
-  files.write(path, folder.toUtf8() + '\n');
+  // The standard folder counts, noted or not.
+  static_cast<void>(files.write(path, folder.toUtf8() + '\n'));
   return folder;
 }
 

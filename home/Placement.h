@@ -22,7 +22,7 @@ QString applicationFolderFor(const QString& programFolder);
 
 /// Copies what was delivered with the program (databases, lesson files) into the application's
 /// folder. What is already there stays as it is. False when something could not be copied.
-bool fillApplicationFolder(Files& files, const QString& programFolder,
-                           const QString& applicationFolder);
+[[nodiscard]] bool fillApplicationFolder(Files& files, const QString& programFolder,
+                                         const QString& applicationFolder);
 
 }  // namespace tavoli

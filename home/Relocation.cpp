@@ -48,7 +48,9 @@ Relocation::Result Relocation::place(const QString& chosenFolder) {
   if (isInside(to, present)) return Result::InsideSource;
 
   const QByteArray line = to.toUtf8() + '\n';
-  m_files.append(m_applicationFolder + QStringLiteral("/TavoAllocHisto.txt"), line);
+  // Only people read the history: without it the files can be placed all the same.
+  static_cast<void>(
+      m_files.append(m_applicationFolder + QStringLiteral("/TavoAllocHisto.txt"), line));
   if (!copyFolder(present, to)) return Result::CopyFailed;
   const QString allocation = m_applicationFolder + QStringLiteral("/TavoAlloc.txt");
   return m_files.write(allocation, line) == FileResult::Ok ? Result::Placed : Result::NotRecorded;

@@ -14,12 +14,12 @@ bool isAccessPassword(const QString& text);
 /// the next start of the program.
 class Relocation {
  public:
-  enum class Result {
-    Placed,
-    SameFolder,    ///< nothing was done
-    InsideSource,  ///< nothing was done
-    CopyFailed,    ///< the present place stays; some files may already stand in the target
-    NotRecorded,   ///< all copied, but TavoAlloc.txt cannot be written: the present place stays
+  enum class [[nodiscard]] Result{
+      Placed,
+      SameFolder,    ///< nothing was done
+      InsideSource,  ///< nothing was done
+      CopyFailed,    ///< the present place stays; some files may already stand in the target
+      NotRecorded,   ///< all copied, but TavoAlloc.txt cannot be written: the present place stays
   };
 
   Relocation(Files& files, const QString& applicationFolder);
@@ -32,10 +32,10 @@ class Relocation {
   Result place(const QString& chosenFolder);
 
  private:
-  bool copyFolder(const QString& from, const QString& to);
-  bool copyFile(const QString& from, const QString& to);
+  [[nodiscard]] bool copyFolder(const QString& from, const QString& to);
+  [[nodiscard]] bool copyFile(const QString& from, const QString& to);
   /// Puts a target file that must not be lost, and the journal that belongs to it, out of the way.
-  bool clearTarget(const QString& from, const QString& to);
+  [[nodiscard]] bool clearTarget(const QString& from, const QString& to);
 
   Files& m_files;
   QString m_applicationFolder;

@@ -90,7 +90,8 @@ bool WorkingCopy::offerToTakeOver() {
   if (!m_dialogs.ask(text + QStringLiteral("\n使用中でないことが確かなら、ロックを外せます。"
                                            "外して続けますか。")))
     return false;
-  m_files.remove(holder.lockPath);
+  // Where it stays it cannot be taken either.
+  static_cast<void>(m_files.remove(holder.lockPath));
   return m_lock.take(m_learner.dbFileWork) == FileLock::Result::Taken ||
          fail(m_learner.dbFileWork + inUse);
 }
@@ -109,8 +110,9 @@ bool WorkingCopy::fetchDatabase() {
     if (found == CopyRelation::Same) return true;
     if (found != CopyRelation::WorkOlder && !keepNewerWork(found)) return false;
   }
-  // What is still there is of an older file.
-  m_files.remove(work + journalEnding);
+  // A journal that is still there is of an older file, and would be read into the new one.
+  const QString journal = work + journalEnding;
+  if (m_files.exists(journal) && m_files.remove(journal) != FileResult::Ok) return fail(notFetched);
   return m_files.copy(placed, work) == FileResult::Ok || fail(notFetched);
 }
 
@@ -140,24 +142,24 @@ bool WorkingCopy::keepNewerWork(CopyRelation relation) {
 
 void WorkingCopy::fetchTexts() {
   if (!m_learner.placedElsewhere) return;
-  const auto fetchText = [&](const QString& placed, const QString& work, qsizetype most) {
-    if (!m_files.exists(placed) || isLink(placed)) return;
-    const std::optional<QStringList> there = readLines(m_files, placed);
-    const std::optional<QStringList> here = readLines(m_files, work);
-    if (!there || !here) {
-      if (m_files.exists(work) && !sameContent(m_files, work, placed))
-        keepAside(m_files, work, m_clock.now());
-      if (!m_files.exists(work)) m_files.copy(placed, work);
-      return;
-    }
-    const QStringList joined = joinedLines(*there, *here, most);
-    if (joined == *there)
-      m_files.copy(placed, work);
-    else if (joined != *here)
-      m_files.write(work, textOf(joined));
-  };
-  fetchText(m_learner.condFilePlaced, m_learner.condFileWork, maxPastConditions);
-  fetchText(m_learner.historyFilePlaced, m_learner.historyFileWork, noEnd);
+  const LearnerFiles& l = m_learner;
+  // A text that cannot be fetched is joined with the placed one on its way home all the same.
+  static_cast<void>(fetchText(l.condFilePlaced, l.condFileWork, maxPastConditions));
+  static_cast<void>(fetchText(l.historyFilePlaced, l.historyFileWork, noEnd));
+}
+
+bool WorkingCopy::fetchText(const QString& placed, const QString& work, qsizetype most) {
+  if (!m_files.exists(placed) || isLink(placed)) return true;
+  const std::optional<QStringList> there = readLines(m_files, placed);
+  const std::optional<QStringList> here = readLines(m_files, work);
+  if (!there || !here) {
+    if (sameContent(m_files, work, placed)) return true;
+    if (m_files.exists(work) && !keepAside(m_files, work, m_clock.now())) return false;
+    return m_files.copy(placed, work) == FileResult::Ok;
+  }
+  const QStringList joined = joinedLines(*there, *here, most);
+  if (joined == *there) return m_files.copy(placed, work) == FileResult::Ok;
+  return joined == *here || m_files.write(work, textOf(joined)) == FileResult::Ok;
 }
 
 bool WorkingCopy::carryDatabaseHome() {
@@ -194,8 +196,9 @@ bool WorkingCopy::carryTextsHome(Texts texts) {
     historyHome = carryText(l.historyFileWork, l.historyFilePlaced, noEnd);
   const bool conditionsHome = carryText(l.condFileWork, l.condFilePlaced, maxPastConditions);
   if (texts == Texts::Go) {
-    if (historyHome) m_files.remove(l.historyFileWork);
-    if (conditionsHome) m_files.remove(l.condFileWork);
+    // One that stays is joined with the placed text at the next login.
+    if (historyHome) static_cast<void>(m_files.remove(l.historyFileWork));
+    if (conditionsHome) static_cast<void>(m_files.remove(l.condFileWork));
   }
   return historyHome && conditionsHome;
 }
@@ -218,8 +221,9 @@ bool WorkingCopy::carryText(const QString& work, const QString& placed, qsizetyp
 
 void WorkingCopy::leave() {
   if (!m_learner.placedElsewhere) return;
-  if (relation() == CopyRelation::PlacedOlder) carryDatabaseHome();
-  carryTextsHome(Texts::Stay);
+  // What does not get home stays here, where the next login finds it.
+  if (relation() == CopyRelation::PlacedOlder) static_cast<void>(carryDatabaseHome());
+  static_cast<void>(carryTextsHome(Texts::Stay));
 }
 
 void WorkingCopy::letGo() {

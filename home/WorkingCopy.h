@@ -25,12 +25,12 @@ class WorkingCopy {
   /// Keeps the working copy for this program and has it hold what the placed database does. False
   /// when that cannot be; the learner has then been told. For a learner without files it does
   /// nothing.
-  bool fetch();
+  [[nodiscard]] bool fetch();
   /// Has the working texts hold every line of the placed ones.
   void fetchTexts();
 
   /// Carries the database alone home.
-  bool carryDatabaseHome();
+  [[nodiscard]] bool carryDatabaseHome();
   /// Carries everything home when a run is over. What does not get home stays here, and the learner
   /// is told.
   void carryHome(Texts texts);
@@ -41,14 +41,16 @@ class WorkingCopy {
   void letGo();
 
  private:
-  bool keepForThisProgram();
-  bool offerToTakeOver();
-  bool fetchDatabase();
+  [[nodiscard]] bool keepForThisProgram();
+  [[nodiscard]] bool offerToTakeOver();
+  [[nodiscard]] bool fetchDatabase();
+  /// Has a working text hold every line of the placed one. False when that could not be done.
+  [[nodiscard]] bool fetchText(const QString& placed, const QString& work, qsizetype most);
   CopyRelation relation() const;
-  bool keepNewerWork(CopyRelation relation);
-  bool keepChangedPlacedCopy();
-  bool carryTextsHome(Texts texts);
-  bool carryText(const QString& work, const QString& placed, qsizetype most);
+  [[nodiscard]] bool keepNewerWork(CopyRelation relation);
+  [[nodiscard]] bool keepChangedPlacedCopy();
+  [[nodiscard]] bool carryTextsHome(Texts texts);
+  [[nodiscard]] bool carryText(const QString& work, const QString& placed, qsizetype most);
   bool fail(const QString& message);
   /// In a shared folder anybody may have laid one: it is not used, and the learner is told.
   bool isLink(const QString& placed);

@@ -21,15 +21,15 @@ class ItemWriteBack {
 
   /// Sums the item's state up and stores it with the item's record and count. A row that has gone
   /// is no failure. False when the row could not be written.
-  bool WriteBackItem(PracticeItem& item);
+  [[nodiscard]] bool WriteBackItem(PracticeItem& item);
 
   const MemoryGrowth& growth() const { return m_growth; }
   /// What was wrong with the items and their rows, a line each.
   const QStringList& complaints() const { return m_complaints; }
 
  private:
-  bool updateSentenceRow(TableCursor& rows, const PracticeItem& item);
-  bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
+  [[nodiscard]] bool updateSentenceRow(TableCursor& rows, const PracticeItem& item);
+  [[nodiscard]] bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
   /// The row of `item` is about to get the item's state in the place of its own.
   void follow(const TableCursor& rows, const PracticeItem& item);
 

@@ -13,7 +13,7 @@ class LearningTables {
  public:
   /// The tables, or nothing when the file cannot be opened or one of them is missing, and why: one
   /// of openError, `notADatabase` for a missing table.
-  struct Opened {
+  struct [[nodiscard]] Opened {
     std::unique_ptr<LearningTables> tables;
     int errorNumber = openError::none;
   };

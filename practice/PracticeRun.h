@@ -45,7 +45,7 @@ class PracticeRun {
   ~PracticeRun();
 
   /// Opens the learner's tables. False when that cannot be done; the learner has then been told.
-  bool openTables();
+  [[nodiscard]] bool openTables();
   /// The dictionaries of the course to look words up in, from openTables() to close(); the practice
   /// and the review step through them each on its own.
   std::vector<Dictionary>& dictionaries() { return m_dictionaries; }
@@ -54,13 +54,13 @@ class PracticeRun {
   /// Loads the set and shows the first question on `screen`; the tables must be open. `startKey` is
   /// where the run starts, "000000" for the first item. False when there is nothing to practise;
   /// the learner has then been told, and nothing is ever saved.
-  bool open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress,
-            const QString& startKey);
+  [[nodiscard]] bool open(PracticeScreen& screen, ReviewScreen& reviewScreen,
+                          LoadProgress& progress, const QString& startKey);
 
   PracticeLoop& loop() { return *m_loop; }
   /// Stores the run, once, when its end was confirmed, and prints what was requested. False when
   /// the learner gave up storing it.
-  bool close();
+  [[nodiscard]] bool close();
 
  private:
   const LearnerFiles& m_learner;

@@ -39,14 +39,14 @@ class RunEnd {
   /// Stores the run and has the files carried home; gives the learner's
   /// progress as stored. When the tables cannot be written the learner may try again; nothing when
   /// nothing was stored in the end.
-  std::optional<ProgressCounters> closeRun(std::unique_ptr<LearningTables> tables, PracticeSet& set,
-                                           const RunResult& run);
+  [[nodiscard]] std::optional<ProgressCounters> closeRun(std::unique_ptr<LearningTables> tables,
+                                                         PracticeSet& set, const RunResult& run);
 
  private:
   /// Writes all shown items, the conditions, the course, the progress and the settings in one
   /// transaction, closes the tables, and adds to the history and the past conditions.
-  std::optional<ProgressCounters> saveRunEnd(std::unique_ptr<LearningTables> tables,
-                                             PracticeSet& set, const RunResult& run);
+  [[nodiscard]] std::optional<ProgressCounters> saveRunEnd(std::unique_ptr<LearningTables> tables,
+                                                           PracticeSet& set, const RunResult& run);
   /// Adds the run's line to the two texts.
   void appendTexts(const RunResult& run, const QString& progressRecord);
 

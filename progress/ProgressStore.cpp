@@ -18,6 +18,21 @@ bool isLaterMonth(QDate day, QDate before) {
   return std::pair(day.year(), day.month()) > std::pair(before.year(), before.month());
 }
 
+/// Of a new learner. A table that is not there, or cannot be read, counts nothing.
+ProgressCounters firstCounters(const Database& database) {
+  ProgressCounters counters;
+  const auto survey = [&](const QString& table, Level level) {
+    Three memory{};
+    if (surveyWordTable(database, table, memory)) counters.記憶単熟[level] = memory;
+  };
+  survey(tableJTDIC, 中学);
+  survey(tableSTDIC, 高校);
+  survey(firstSpecialTable, 専門);
+  ByLevel sentences{};
+  if (surveySentences(database, sentences)) counters.記憶文 = sentences;
+  return counters;
+}
+
 }  // namespace
 
 void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Clock& clock,
@@ -55,12 +70,7 @@ bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& c
   rsBDIC->Seek(SeekOp::Equal, rowProgress);
   if (rsBDIC->failed()) return false;
   if (rsBDIC->NoMatch()) {
-    counters = ProgressCounters();
-    // A table that is not there counts nothing.
-    surveyWordTable(database, tableJTDIC, counters.記憶単熟[中学]);
-    surveyWordTable(database, tableSTDIC, counters.記憶単熟[高校]);
-    surveyWordTable(database, firstSpecialTable, counters.記憶単熟[専門]);
-    surveySentences(database, counters.記憶文);
+    counters = firstCounters(database);
     // A new learner has not learnt yet.
     owner.times.開始時刻 = clock.now();
   } else {

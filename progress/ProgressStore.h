@@ -24,17 +24,17 @@ void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Cloc
 
 /// Stores the record in the learner's row, which is made where it is missing. False when it cannot
 /// be stored.
-bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord);
+[[nodiscard]] bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord);
 
 /// Reads the learner's figures. At the first use the tables are counted and the row is made; in a
 /// later month than that of the last run the figures roll over and `backupDue` is set. False when
 /// the figures could not be read or what changed could not be stored; the learner's row is then
 /// what it was.
-bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& clock,
-                  Dialogs& dialogs, ProgressCounters& counters, bool& backupDue);
+[[nodiscard]] bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& clock,
+                                Dialogs& dialogs, ProgressCounters& counters, bool& backupDue);
 
 /// Counts the memory figures of the learner's row anew; all else in the row stays. A learner
 /// without a row has it counted at the first use. False when it could not be read or stored.
-bool recountMemory(Database& database);
+[[nodiscard]] bool recountMemory(Database& database);
 
 }  // namespace tavoli

@@ -9,10 +9,10 @@ class Database;
 /// Counts the rows of a dictionary anew by their memory state, up to its reserved rows. A row whose
 /// state is none counts nowhere, nor does what cannot be read. False when the table could not be
 /// read to its end.
-bool surveyWordTable(const Database& database, const QString& table, Three& memory);
+[[nodiscard]] bool surveyWordTable(const Database& database, const QString& table, Three& memory);
 
 /// The same for the sentences of each level.
-bool surveySentences(const Database& database, ByLevel& memory);
+[[nodiscard]] bool surveySentences(const Database& database, ByLevel& memory);
 
 /// Opens the learner's database and counts a specialist dictionary anew. When it cannot be read the
 /// counts stay what they were.

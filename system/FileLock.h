@@ -12,12 +12,10 @@ namespace tavoli {
 /// object; one that a dead program of this host left behind is cleared.
 class FileLock {
  public:
-  enum class Result {
-    Taken,
-    TakenFromDeadProgram,
-    HeldByLiveProgram,
-    HeldElsewhere,  ///< by a program of another host, or by one that nobody can tell
-    Failed,
+  enum class [[nodiscard]] Result{
+      Taken,         TakenFromDeadProgram, HeldByLiveProgram,
+      HeldElsewhere,  ///< by a program of another host, or by one that nobody can tell
+      Failed,
   };
   Result take(const QString& path);
   void letGo() { m_lock.reset(); }

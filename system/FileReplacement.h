@@ -8,7 +8,7 @@
 namespace tavoli {
 
 /// Writes all of the bytes to an open file. Where that fails `errno` says why.
-bool writeAll(int file, const QByteArray& bytes);
+[[nodiscard]] bool writeAll(int file, const QByteArray& bytes);
 
 /// New content for a file, written beside it and put in its place only when it is complete and on
 /// the disk: the target holds the old content or the new one. A link is neither followed nor
@@ -23,10 +23,10 @@ class FileReplacement {
   FileReplacement& operator=(const FileReplacement&) = delete;
 
   bool isOpen() const { return m_file >= 0; }
-  bool write(const QByteArray& block) const { return writeAll(m_file, block); }
+  [[nodiscard]] bool write(const QByteArray& block) const { return writeAll(m_file, block); }
   /// The time and, where the target is new, the mode of another file; the owner may always write.
-  bool resemble(const struct stat& other) const;
-  bool putInPlace();
+  [[nodiscard]] bool resemble(const struct stat& other) const;
+  [[nodiscard]] bool putInPlace();
 
  private:
   QByteArray m_target;

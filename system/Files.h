@@ -8,12 +8,11 @@
 
 namespace tavoli {
 
-enum class FileResult {
-  Ok,
-  NotFound,
-  Denied,
-  Link,  ///< a symbolic link, which is neither written to nor copied
-  Failed,
+/// How an operation on a file came out.
+enum class [[nodiscard]] FileResult{
+    Ok,     NotFound, Denied,
+    Link,  ///< a symbolic link, which is neither written to nor copied
+    Failed,
 };
 
 /// Whole-file operations. Every one that replaces a file writes beside it, syncs and renames, so
@@ -24,7 +23,7 @@ class Files {
   virtual ~Files() = default;
   virtual bool exists(const QString& path) const = 0;
   /// The content, or nothing when the file is missing or cannot be read.
-  virtual std::optional<QByteArray> read(const QString& path) const = 0;
+  [[nodiscard]] virtual std::optional<QByteArray> read(const QString& path) const = 0;
   virtual FileResult write(const QString& path, const QByteArray& content) = 0;
   /// Replaces `to` by a copy of `from`, which bears the original's time and, where it is new, the
   /// original's mode.
@@ -42,7 +41,7 @@ class Files {
 class SystemFiles final : public Files {
  public:
   bool exists(const QString& path) const override;
-  std::optional<QByteArray> read(const QString& path) const override;
+  [[nodiscard]] std::optional<QByteArray> read(const QString& path) const override;
   FileResult write(const QString& path, const QByteArray& content) override;
   FileResult copy(const QString& from, const QString& to) override;
   FileResult append(const QString& path, const QByteArray& content) override;

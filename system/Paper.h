@@ -17,10 +17,11 @@ class Paper {
   virtual ~Paper() = default;
   virtual bool hasPrinter() const = 0;
   /// Prints on the default printer, A4. False when there is none or it refuses the document.
-  virtual bool print(const QString& title, const DrawDocument& draw) = 0;
+  [[nodiscard]] virtual bool print(const QString& title, const DrawDocument& draw) = 0;
   /// Writes the document as a PDF file, A4, in the place of what is there. False when that cannot
   /// be done; the file is then what it was.
-  virtual bool writePdf(const QString& path, const QString& title, const DrawDocument& draw) = 0;
+  [[nodiscard]] virtual bool writePdf(const QString& path, const QString& title,
+                                      const DrawDocument& draw) = 0;
 };
 
 }  // namespace tavoli

@@ -8,8 +8,9 @@ namespace tavoli {
 class PagedPaper final : public Paper {
  public:
   bool hasPrinter() const override;
-  bool print(const QString& title, const DrawDocument& draw) override;
-  bool writePdf(const QString& path, const QString& title, const DrawDocument& draw) override;
+  [[nodiscard]] bool print(const QString& title, const DrawDocument& draw) override;
+  [[nodiscard]] bool writePdf(const QString& path, const QString& title,
+                              const DrawDocument& draw) override;
 };
 
 }  // namespace tavoli

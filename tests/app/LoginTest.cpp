@@ -140,7 +140,7 @@ TEST_F(LoginTest, SetsThePasswordOnceAndThenAsksForIt) {
 
 TEST_F(LoginTest, FetchesThePlacedFilesAndCarriesANewPasswordBack) {
   placeElsewhere();
-  files.write(placed + QStringLiteral("/TavoCond000"), "past\n");
+  EXPECT_EQ(files.write(placed + QStringLiteral("/TavoCond000"), "past\n"), FileResult::Ok);
   EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral("pw")));
   EXPECT_EQ(storedPassword(placed + QStringLiteral("/TavoDB000.mdb")), QStringLiteral("pw"));
   EXPECT_EQ(files.read(module.learner.condFileWork), "past\n");
@@ -198,8 +198,9 @@ TEST_F(LoginTest, ALiveProgramsLockNeverGrowsStale) {
 }
 
 TEST_F(LoginTest, ClearsTheLockOfADeadProgram) {
-  files.write(work() + QStringLiteral(".lock"),
-              "999999999\ntavoli\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+  ASSERT_EQ(files.write(work() + QStringLiteral(".lock"),
+                        "999999999\ntavoli\n" + QSysInfo::machineHostName().toUtf8() + "\n"),
+            FileResult::Ok);
   EXPECT_TRUE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown,
             QStringList{work() + QStringLiteral(" が誤って使用中になっています。消去しました。\n"
@@ -219,7 +220,7 @@ TEST_F(LoginTest, TellsWhatIsWrongWithAFileAndLeavesItAlone) {
                {"damaged", damaged}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    files.write(work(), c.content);
+    EXPECT_EQ(files.write(work(), c.content), FileResult::Ok);
     EXPECT_FALSE(login(QStringLiteral("000")));
     EXPECT_EQ(dialogs.shown,
               QStringList{QStringLiteral(
@@ -229,7 +230,7 @@ TEST_F(LoginTest, TellsWhatIsWrongWithAFileAndLeavesItAlone) {
     EXPECT_EQ(screen.focused, QStringLiteral("Text1"));
   }
   QFile::remove(work());
-  createDatabase(work());
+  EXPECT_TRUE(createDatabase(work()));
   EXPECT_FALSE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("Error '91'")}) << "a database without BDIC";
   EXPECT_TRUE(screen.trouble);

@@ -81,8 +81,9 @@ TEST(WindowFlowTest, ARunThatDidNotGetHomeIsThereAtTheNextLogin) {
   for (const char16_t* word : {u"apple", u"book", u"cup"})
     store.addWord(tableSTDIC, QString::fromUtf16(word), test::wordRecord({QStringLiteral("意")}));
   store.close();
-  files.copy(store.path(), placed + QStringLiteral("/TavoDB000.mdb"));
-  files.write(folder.filePath(QStringLiteral("TavoAlloc.txt")), placed.toUtf8());
+  EXPECT_EQ(files.copy(store.path(), placed + QStringLiteral("/TavoDB000.mdb")), FileResult::Ok);
+  EXPECT_EQ(files.write(folder.filePath(QStringLiteral("TavoAlloc.txt")), placed.toUtf8()),
+            FileResult::Ok);
 
   Module1 module = startModule1(files, clock, folder.path());
   const Step practise = {&shown<TAVO3>, [&](QWidget& tavo3) {

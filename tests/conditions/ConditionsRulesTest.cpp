@@ -89,7 +89,8 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
 TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
   learner.dbFileWork = store.folder() + u"/bare.mdb"_s;
   auto made = createDatabase(learner.dbFileWork);
-  for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC}) made->createTable(table);
+  for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC})
+    EXPECT_TRUE(made->createTable(table));
   made.reset();
   ASSERT_TRUE(rules.enter());
   screen.choices = {QString()};
@@ -218,8 +219,8 @@ TEST_F(ConditionsRulesTest, ASpecifiedStartComesBackWithItsGroupAndFile) {
 TEST_F(ConditionsRulesTest, PastRunsAreLookedBackOn) {
   PracticeConditions past = last;
   past.memorySelect = MemorySelect::完全とうろ覚え;
-  files.write(learner.condFileWork,
-              pastConditionsLine(QDate(2026, 4, 2), {Course::専門, special}, past).toUtf8() + '\n');
+  const QString line = pastConditionsLine(QDate(2026, 4, 2), {Course::専門, special}, past);
+  ASSERT_EQ(files.write(learner.condFileWork, line.toUtf8() + '\n'), FileResult::Ok);
   enter();
   EXPECT_EQ(screen.pastRuns.size(), 1);
   rules.choosePastRun(0);

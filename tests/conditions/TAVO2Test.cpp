@@ -28,8 +28,11 @@ class TAVO2Test : public testing::Test {
     for (const char16_t* word : {u"apple", u"bank", u"go abroad"})
       store.addWord(tableJTDIC, QString::fromUtf16(word), QString());
     QDir(store.folder()).mkpath(QStringLiteral("lessons/verbs"));
-    files.write(lessons + QStringLiteral("/verbs/動詞.TAV"), "*comment\nbank\ngo abroad\n");
-    files.write(lessons + QStringLiteral("/verbs/other.doc"), "no lesson");
+    EXPECT_EQ(
+        files.write(lessons + QStringLiteral("/verbs/動詞.TAV"), "*comment\nbank\ngo abroad\n"),
+        FileResult::Ok);
+    EXPECT_EQ(files.write(lessons + QStringLiteral("/verbs/other.doc"), "no lesson"),
+              FileResult::Ok);
     store.close();
     window.next = [this](const QString& key) { startKey = key; };
     window.leave = [this] { ++ends; };

@@ -44,7 +44,7 @@ class ContentToolTest : public testing::Test {
   QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
   void write(const char* name, const QByteArray& bytes) {
     const QString file = path("content/") + QString::fromUtf8(name);
-    files.makeFolder(QFileInfo(file).path());
+    EXPECT_EQ(files.makeFolder(QFileInfo(file).path()), FileResult::Ok);
     ASSERT_EQ(files.write(file, bytes), FileResult::Ok);
   }
   static QStringList messages(const Problems& problems) {

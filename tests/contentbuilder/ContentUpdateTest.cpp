@@ -21,9 +21,12 @@ class ContentUpdateTest : public testing::Test {
  protected:
   QString path(const QString& name) const { return folder.filePath(name); }
 
+  void put(const QString& file, const QByteArray& bytes) {
+    ASSERT_EQ(files.write(file, bytes), FileResult::Ok);
+  }
   void write(const QString& name, const QByteArray& bytes) {
-    files.makeFolder(QFileInfo(path(name)).path());
-    ASSERT_EQ(files.write(path(name), bytes), FileResult::Ok);
+    EXPECT_EQ(files.makeFolder(QFileInfo(path(name)).path()), FileResult::Ok);
+    put(path(name), bytes);
   }
 
   /// New content number 2 of some words and one sentence.
@@ -48,9 +51,9 @@ class ContentUpdateTest : public testing::Test {
     TestStore other;
     other.addWord(tableJTDIC, QStringLiteral("a"), QStringLiteral("||000一^|"));
     other.addWord(tableJTDIC, QStringLiteral("b"), QStringLiteral("||0"));
-    storeNotes(notes, other.database());
+    EXPECT_TRUE(storeNotes(notes, other.database()));
     other.close();
-    files.copy(other.path(), content());
+    EXPECT_EQ(files.copy(other.path(), content()), FileResult::Ok);
   }
 
   QString content() const { return path(QStringLiteral("new.mdb")); }
@@ -91,7 +94,7 @@ TEST_F(ContentUpdateTest, WhatWasLearntFollowsTheText) {
       buildProgressRecord(QStringLiteral("taro"), counters, {clock.now(), clock.now(), {}, 0});
   store.addSentence(rowProgress, before);
   const QString oldSource = QStringLiteral("words/JTDIC/0.tsv");
-  storeNotes({{oldSource, QStringLiteral("May")}}, store.database());
+  EXPECT_TRUE(storeNotes({{oldSource, QStringLiteral("May")}}, store.database()));
   store.close();
   const QByteArray old = *files.read(learner());
 
@@ -140,11 +143,11 @@ TEST_F(ContentUpdateTest, RefusesAndLeavesEverything) {
     std::function<void()> make;
   } cases[] = {
       {"a run that is not stored yet",
-       [&] { files.write(store.folder() + QStringLiteral("/TavoDB000.run.1"), "x"); }},
-      {"a change half made", [&] { files.write(learner() + QStringLiteral("-journal"), "x"); }},
+       [&] { put(store.folder() + QStringLiteral("/TavoDB000.run.1"), "x"); }},
+      {"a change half made", [&] { put(learner() + QStringLiteral("-journal"), "x"); }},
       {"content without a number", [&] { replaceContent({}); }},
-      {"no content", [&] { files.remove(content()); }},
-      {"no database", [&] { files.write(content(), "no database"); }},
+      {"no content", [&] { QFile::remove(content()); }},
+      {"no database", [&] { put(content(), "no database"); }},
       {"a damaged item",
        [&] {
          replaceContent({{QStringLiteral("number.txt"), QStringLiteral("9")}});
@@ -161,11 +164,11 @@ TEST_F(ContentUpdateTest, RefusesAndLeavesEverything) {
     EXPECT_EQ(files.read(learner()), before);
     EXPECT_EQ(besideTheLearner(), beside);
     for (const QString& name : beside)
-      if (name != QStringLiteral("TavoDB000.mdb")) files.remove(store.folder() + u'/' + name);
+      if (name != QStringLiteral("TavoDB000.mdb")) QFile::remove(store.folder() + u'/' + name);
   }
   build();
   FileLock held;
-  held.take(learner());
+  EXPECT_EQ(held.take(learner()), FileLock::Result::Taken);
   EXPECT_EQ(update().problems.size(), 1) << "in use";
 }
 

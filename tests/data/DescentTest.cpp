@@ -53,21 +53,21 @@ TEST_F(DescentTest, AChangeThatCannotBeCountedRightlyNeverLooksAsIfItWereNone) {
   ASSERT_TRUE(makeMachine(files, store.folder()));
   writeASentence();
   const Descent before = *readDescent(store.database());
-  files.remove(path);
+  EXPECT_EQ(files.remove(path), FileResult::Ok);
   writeASentence();
   const Descent lost = *readDescent(store.database());
   EXPECT_EQ(lost.size(), 2) << "the machine's id is gone";
   for (const char* damaged : {"", "a 1 b", "a x b;", "a 1 b;c", "a 01 b;", "a -1 b;"}) {
     EXPECT_FALSE(parseDescent(QString::fromUtf8(damaged))) << damaged;
     auto rows = store.database().OpenRecordset(tableBDIC);
-    rows->EditOrAddNew(rowDescent);
+    EXPECT_TRUE(rows->EditOrAddNew(rowDescent));
     rows->setValue(field問正コ, QString::fromUtf8(damaged));
-    rows->Update();
-    files.write(path, "0123456789abcdef\n");
+    EXPECT_TRUE(rows->Update());
+    EXPECT_EQ(files.write(path, "0123456789abcdef\n"), FileResult::Ok);
     writeASentence();
     EXPECT_GE(readDescent(store.database()).value_or(Descent()).size(), 2) << damaged;
   }
-  files.write(path, "no id");
+  EXPECT_EQ(files.write(path, "no id"), FileResult::Ok);
   EXPECT_TRUE(makeMachine(files, store.folder()));
   EXPECT_EQ(machineOf(store.folder()).size(), 16);
 }

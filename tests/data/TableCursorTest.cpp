@@ -123,7 +123,7 @@ TEST(OpenDatabaseTest, TellsWhyAFileCannotBeOpened) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     const QString path = store.folder() + u"/case.mdb"_s;
-    if (c.content) files.write(path, *c.content);
+    if (c.content) EXPECT_EQ(files.write(path, *c.content), FileResult::Ok);
     const auto [database, errorNumber] = openDatabase(path);
     EXPECT_EQ(errorNumber, c.expected);
     EXPECT_EQ(database.has_value(), c.expected == openError::none);

@@ -31,7 +31,7 @@ class WorkingCopyTest : public testing::Test {
     test::TestStore store;
     store.addSentence(rowPassword, QString());
     store.close();
-    files.copy(store.path(), placed + QStringLiteral("/TavoDB000.mdb"));
+    EXPECT_EQ(files.copy(store.path(), placed + QStringLiteral("/TavoDB000.mdb")), FileResult::Ok);
     for (Machine& machine : machines) {
       const QString folder =
           root.filePath(QStringLiteral("machine%1").arg(&machine - machines.data()));
@@ -55,10 +55,10 @@ class WorkingCopyTest : public testing::Test {
     const QString key = digits(++runs, 6);
     std::optional<Database> database = openDatabase(machine.learner.dbFileWork).database;
     const auto rows = database->OpenRecordset(tableBDIC);
-    rows->EditOrAddNew(key);
+    EXPECT_TRUE(rows->EditOrAddNew(key));
     ASSERT_TRUE(rows->Update());
     for (const QString& text : {machine.learner.historyFileWork, machine.learner.condFileWork})
-      files.append(text, key.toUtf8() + '\n');
+      EXPECT_EQ(files.append(text, key.toUtf8() + '\n'), FileResult::Ok);
   }
 
   void takePlacedFolderAway(bool away) const {
@@ -131,7 +131,7 @@ TEST_F(WorkingCopyTest, KeepsHereWhatDoesNotGetHome) {
       EXPECT_EQ(dialogs.shown, c.refused.isEmpty() ? QStringList() : QStringList{told});
       if (!c.refused.isEmpty()) {
         QDir().rmdir(c.refused);
-        files.rename(aside, c.refused);
+        EXPECT_EQ(files.rename(aside, c.refused), FileResult::Ok);
       }
       here.copy->leave();
       EXPECT_EQ(runsIn(l.dbFilePlaced).size(), runs) << "tried once more";
@@ -193,18 +193,19 @@ TEST_F(WorkingCopyTest, KeepsWhatAnotherMachineCarriedHomeMeanwhile) {
 TEST_F(WorkingCopyTest, AJournalStaysBesideItsDatabase) {
   const QString& work = here.learner.dbFileWork;
   const QString journal = QStringLiteral("-journal");
-  files.write(work, {});  // no database, and so none that could take anything back
-  files.write(work + journal, "of this one");
+  // No database, and so none that could take anything back.
+  EXPECT_EQ(files.write(work, {}), FileResult::Ok);
+  EXPECT_EQ(files.write(work + journal, "of this one"), FileResult::Ok);
   const QString taken = work + clock.time.addSecs(1).toString(QStringLiteral("-yyyyMMdd-HHmmss"));
-  files.write(taken, "kept in the same second");
+  EXPECT_EQ(files.write(taken, "kept in the same second"), FileResult::Ok);
   ASSERT_TRUE(login(here));
   EXPECT_EQ(files.read(taken), "kept in the same second");
   const QString kept = taken + QStringLiteral("-2");
   EXPECT_EQ(files.read(kept), "");
   EXPECT_EQ(files.read(kept + journal), "of this one");
   EXPECT_FALSE(files.exists(work + journal));
-  files.remove(work);
-  files.write(work + journal, "of a file that is gone");
+  EXPECT_EQ(files.remove(work), FileResult::Ok);
+  EXPECT_EQ(files.write(work + journal, "of a file that is gone"), FileResult::Ok);
   ASSERT_TRUE(login(here));
   EXPECT_FALSE(files.exists(work + journal)) << "it would spoil the fetched file";
 }
@@ -246,7 +247,7 @@ TEST_F(WorkingCopyTest, UsesNoLink) {
   ASSERT_TRUE(login(here));
   run(here);
   const QString somebodys = root.filePath(QStringLiteral("somebody's"));
-  files.write(somebodys, "private");
+  EXPECT_EQ(files.write(somebodys, "private"), FileResult::Ok);
   for (const QString& path : {here.learner.historyFilePlaced, here.learner.dbFilePlaced}) {
     QFile::remove(path);
     QFile::link(somebodys, path);
@@ -278,7 +279,7 @@ TEST_F(WorkingCopyTest, TellsWhoHoldsALockAndOffersAnOldOne) {
   for (const auto& c : cases) {
     for (const bool takesIt : {false, true}) {
       SCOPED_TRACE(c.name);
-      files.write(lock, c.lock);
+      EXPECT_EQ(files.write(lock, c.lock), FileResult::Ok);
       const QDateTime since = files.modified(lock);
       clock.time = since.addSecs(c.hours * 3600LL);
       dialogs.answers = {takesIt};

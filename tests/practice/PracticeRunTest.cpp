@@ -151,11 +151,11 @@ TEST_F(PracticeRunTest, ALockedDatabaseLosesNothing) {
   run->loop().exitAtOnce();
   {
     std::optional<Database> holder = openDatabase(store.path()).database;
-    holder->write([&] {
+    EXPECT_FALSE(holder->write([&] {
       dialogs.answers = {false};
       EXPECT_FALSE(run->close());
       return false;
-    });
+    }));
   }
   EXPECT_TRUE(dialogs.asked.last().startsWith(store.path()));
   EXPECT_TRUE(paper.printed.pieces.empty()) << "printed is what was stored";

@@ -93,12 +93,12 @@ class RunEndTest : public testing::Test {
   ProgressCounters survey() {
     ProgressCounters found;
     const auto count = [&](const QString& table, Level level) {
-      surveyWordTable(store.database(), table, found.記憶単熟[level]);
+      EXPECT_TRUE(surveyWordTable(store.database(), table, found.記憶単熟[level]));
     };
     count(tableJTDIC, 中学);
     count(tableSTDIC, 高校);
     count(QStringLiteral("BusinessTOEIC"), 専門);
-    surveySentences(store.database(), found.記憶文);
+    EXPECT_TRUE(surveySentences(store.database(), found.記憶文));
     return found;
   }
 
@@ -134,7 +134,7 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
                QString())
         .state;
   };
-  store.database().write([&] {
+  ASSERT_TRUE(store.database().write([&] {
     for (int i = 0; i < 40; ++i) {
       for (const QString& table : {tableJTDIC, tableSTDIC, course.specialTable}) {
         const QString record = packedCodes(false, codes());
@@ -145,10 +145,10 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
       store.addSentence(initial + digits(i, 5), record, stateOf(true, record));
     }
     return true;
-  });
+  }));
   const QString lesson = store.folder() + QStringLiteral("/lesson.tav");
   // A lesson that names items twice, and from three dictionaries.
-  files.write(lesson, "word 1\nword 2\nword 1\nword 3\nword 3\n");
+  EXPECT_EQ(files.write(lesson, "word 1\nword 2\nword 1\nword 3\nword 3\n"), FileResult::Ok);
   conditions.lessonFolder = store.folder();
   conditions.lessonFile = QStringLiteral("lesson.tav");
   figures = survey();
@@ -240,7 +240,7 @@ TEST_F(RunEndTest, KeepsTheWorkingTextsForAnotherLesson) {
        {&learner.dbFilePlaced, &learner.condFilePlaced, &learner.historyFilePlaced})
     *placed = store.folder() + QStringLiteral("/placed%1").arg(placed - &learner.userId);
   // A history that another program has begun in the code page 932.
-  files.write(learner.historyFileWork, "\x97\xFB\x8F\x4B\n");
+  EXPECT_EQ(files.write(learner.historyFileWork, "\x97\xFB\x8F\x4B\n"), FileResult::Ok);
   for (const bool another : {true, false}) {
     backToConditions = another;
     ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));

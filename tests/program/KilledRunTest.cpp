@@ -89,7 +89,7 @@ class KilledRunTest : public testing::Test {
     rows->Seek(SeekOp::Equal, rowCourse);
     shot.course = rows->text(field記憶);
     ByLevel survey{};
-    surveySentences(*database, survey);
+    EXPECT_TRUE(surveySentences(*database, survey));
     EXPECT_EQ(shot.counters.記憶文, survey) << "the counts agree with the rows";
     return shot;
   }

@@ -33,10 +33,11 @@ class ConditionsOverStore : public testing::Test {
   }
 
   void writeLesson(const char16_t* name, const QByteArray& content) {
-    files.write(store.folder() + u'/' + QString::fromUtf16(name), content);
+    EXPECT_EQ(files.write(store.folder() + u'/' + QString::fromUtf16(name), content),
+              FileResult::Ok);
   }
   void remember(const QString& table, const PracticeConditions& c) {
-    saveConditions(*store.database().OpenRecordset(table), c);
+    EXPECT_TRUE(saveConditions(*store.database().OpenRecordset(table), c));
   }
   /// Stores `last` as the record of 高校 and enters.
   void enter() {

@@ -20,7 +20,7 @@ class TestStore {
   explicit TestStore(const QString& fileName) : m_path(m_folder.filePath(fileName)) {
     m_database = createDatabase(m_path);
     for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC, u"BusinessTOEIC"_s}) {
-      m_database->createTable(table);
+      if (!m_database->createTable(table)) qFatal("no table");
       if (table != tableBDIC) addWord(table, rowContentEnd, QString());
     }
   }
@@ -60,7 +60,7 @@ class TestStore {
     const auto rows = m_database->OpenRecordset(table);
     rows->AddNew();
     for (const auto& [field, value] : values) rows->setValue(field, value);
-    rows->Update();
+    if (!rows->Update()) qFatal("no row");
   }
 
   QTemporaryDir m_folder;

@@ -29,7 +29,7 @@ class FilesTest : public testing::Test {
 };
 
 TEST_F(FilesTest, ReplacesAFileAsAWholeAndKeepsModeAndTime) {
-  files.write(a, "first");
+  EXPECT_EQ(files.write(a, "first"), FileResult::Ok);
   EXPECT_EQ(modeOf(a), 0600U);
   chmod(qPrintable(a), 0440);
   ASSERT_EQ(files.copy(a, b), FileResult::Ok);
@@ -47,8 +47,8 @@ TEST_F(FilesTest, ReplacesAFileAsAWholeAndKeepsModeAndTime) {
 }
 
 TEST_F(FilesTest, FollowsNoLink) {
-  files.write(a, "somebody's");
-  files.write(b, "mine");
+  EXPECT_EQ(files.write(a, "somebody's"), FileResult::Ok);
+  EXPECT_EQ(files.write(b, "mine"), FileResult::Ok);
   ASSERT_EQ(symlink(qPrintable(a), qPrintable(link)), 0);
   EXPECT_EQ(files.copy(b, link), FileResult::Link);
   EXPECT_EQ(files.copy(link, b), FileResult::Link);
@@ -59,8 +59,8 @@ TEST_F(FilesTest, FollowsNoLink) {
 }
 
 TEST_F(FilesTest, AFullDiskLeavesNoHalfLineAndNoHalfFile) {
-  files.append(a, "first line\n");
-  files.write(b, "content");
+  EXPECT_EQ(files.append(a, "first line\n"), FileResult::Ok);
+  EXPECT_EQ(files.write(b, "content"), FileResult::Ok);
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
