@@ -10,6 +10,7 @@
 #include "app/TerminalDrill.h"
 #include "app/screens/WindowFlow.h"
 #include "home/Placement.h"
+#include "system/LogFile.h"
 #include "system/screens/PagedPaper.h"
 
 using namespace tavoli;
@@ -57,6 +58,7 @@ int start(const CommandLine& line) {
 
 int main(int argc, char** argv) {
   umask(S_IRWXG | S_IRWXO);  // what the program makes is the learner's alone
+  writeLogTo(logFilePath());
   const CommandLine line =
       parseCommandLine(argumentsOf(argc, argv), QStringLiteral(TAVOLI_VERSION));
   if (!line.complaint.isEmpty()) {

@@ -7,6 +7,7 @@
 #include "contentbuilder/ContentTool.h"
 #include "contentbuilder/ContentUpdate.h"
 #include "system/Clock.h"
+#include "system/LogFile.h"
 
 namespace {
 
@@ -103,6 +104,7 @@ int usage(const QCommandLineParser& parser, const QString& message) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  writeLogTo(logFilePath());
   const QCoreApplication application(argc, argv);
 
   QCommandLineParser parser;

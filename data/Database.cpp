@@ -9,6 +9,7 @@
 
 #include "data/Descent.h"
 #include "data/Schema.h"
+#include "data/StoreLog.h"
 
 namespace tavoli {
 
@@ -56,7 +57,8 @@ QStringList Database::TableDefs() const {
                              "SELECT name FROM sqlite_schema WHERE type='table' AND name NOT LIKE "
                              "'sqlite_%' ORDER BY rowid");
     while (tables.executeStep()) names.append(QString::fromUtf8(tables.getColumn(0).getText()));
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << "list of tables:" << error.what();
     return {};
   }
   return names;
@@ -68,7 +70,8 @@ std::unique_ptr<TableCursor> Database::OpenRecordset(const QString& table,
     if (!m_connection->tableExists(table.toStdString())) return nullptr;
     auto cursor = std::make_unique<TableCursor>(*m_connection, table, fields);
     return cursor->failed() ? nullptr : std::move(cursor);
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << table << error.what();
     return nullptr;
   }
 }
@@ -90,7 +93,8 @@ bool Database::scanCodes(const QString& table, const QString& field,
             code[0] != '\0' && code[1] == '\0' ? asciiOrNone(code[0]) : '\0');
     }
     return true;
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << table << error.what();
     return false;
   }
 }
@@ -103,17 +107,21 @@ bool Database::createTable(const QString& table) {
   try {
     schema::createTable(*m_connection, table);
     return true;
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << table << error.what();
     return false;
   }
 }
 
 bool Database::isSound() const {
   try {
-    return m_connection->execAndGet("PRAGMA quick_check(1)").getString() == "ok";
-  } catch (const SQLite::Exception&) {
-    return false;
+    const std::string found = m_connection->execAndGet("PRAGMA quick_check(1)").getString();
+    if (found == "ok") return true;
+    qCWarning(storeLog).noquote() << "check:" << found.c_str();
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << "check:" << error.what();
   }
+  return false;
 }
 
 OpenedDatabase openDatabase(const QString& path) {
@@ -133,6 +141,7 @@ OpenedDatabase openDatabase(const QString& path) {
     if (fileVersion > schema::version) return notOpened(openError::notADatabase);
     return {Database(std::move(connection)), openError::none};
   } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << path << error.what();
     return notOpened(errorNumberOf(error.getErrorCode()));
   }
 }
@@ -144,7 +153,8 @@ std::optional<Database> peekDatabase(const QString& path) {
         QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
     return Database(std::make_unique<SQLite::Database>(
         uri.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI | SQLite::OPEN_NOMUTEX));
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << path << error.what();
     return std::nullopt;
   }
 }
@@ -163,7 +173,8 @@ std::optional<Database> createDatabase(const QString& path) {
         busyMilliseconds);
     schema::stamp(*connection);
     return Database(std::move(connection));
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << path << error.what();
     return std::nullopt;
   }
 }

@@ -7,6 +7,7 @@
 #include "data/Database.h"
 #include "data/Machine.h"
 #include "data/Schema.h"
+#include "data/StoreLog.h"
 
 namespace tavoli {
 
@@ -80,7 +81,8 @@ bool writeCounted(SQLite::Database& database, const std::function<bool()>& work)
     if (database.getTotalChanges() != before && !countChange(database)) return false;
     transaction.commit();
     return true;
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog) << "transaction:" << error.what();
     return false;
   }
 }

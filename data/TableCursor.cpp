@@ -5,6 +5,7 @@
 
 #include "data/Descent.h"
 #include "data/Schema.h"
+#include "data/StoreLog.h"
 
 namespace tavoli {
 
@@ -103,7 +104,8 @@ void TableCursor::step() {
         field.reset();
     }
     m_place = Place::OnRow;
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << m_table << error.what();
     m_failed = true;
     m_place = Place::BehindLast;
     stopWalk();
@@ -307,7 +309,8 @@ bool TableCursor::store(Pending pending) {
       statement.exec();
     }
     return true;
-  } catch (const SQLite::Exception&) {
+  } catch (const SQLite::Exception& error) {
+    qCWarning(storeLog).noquote() << m_table << error.what();
     return false;
   }
 }

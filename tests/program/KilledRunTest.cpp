@@ -53,6 +53,7 @@ class KilledRunTest : public testing::Test {
   int run(const QString& input, int killAt = 0) const {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_STATE_HOME"), base());
     if (killAt > 0) {
       environment.insert(QStringLiteral("TAVOLI_KILL_AT"), QString::number(killAt));
       environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TAVOLI_KILL_AT));

@@ -25,6 +25,7 @@ class TerminalDrillTest : public testing::Test {
     const QString data = folder.filePath(u"TavoliPersonalData"_s);
     QDir().mkpath(data);
     QFile::copy(store.path(), database());
+    qputenv("XDG_STATE_HOME", folder.filePath(u"state"_s).toLocal8Bit());
   }
 
   QString database() const { return folder.filePath(u"TavoliPersonalData/TavoDB000.mdb"_s); }
@@ -179,6 +180,18 @@ TEST_F(TerminalDrillTest, WhatItMakesIsTheLearnersAloneAndStaysWhereItIs) {
        {u"", u"/TavoAlloc.txt", u"/TavoliPersonalData", u"/TavoliPersonalData/TavoHistory000"})
     EXPECT_FALSE(QFile::permissions(app + QString::fromUtf16(made)) & others)
         << qPrintable(QString::fromUtf16(made));
+}
+
+TEST_F(TerminalDrillTest, ABrokenDatabaseLeavesItsReasonInTheLogAlone) {
+  QFile broken(database());
+  ASSERT_TRUE(broken.open(QIODevice::ReadWrite));
+  broken.write(QByteArray(100, 'x'));
+  broken.close();
+  EXPECT_FALSE(run({u"--user"_s, u"000"_s}, ":yes\n", 1).contains(u"tavoli.store"_s));
+  QFile log(folder.filePath(u"state/tavoli/tavoli.log"_s));
+  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(
+      log.readAll().endsWith(" tavoli.store " + database().toUtf8() + " file is not a database\n"));
 }
 
 TEST_F(TerminalDrillTest, WithoutADisplayTheWindowsSayWhatToDo) {
