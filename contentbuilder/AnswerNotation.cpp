@@ -291,6 +291,30 @@ class AnswerWriter {
   bool m_inGiven = false;
 };
 
+/// What is wrong with an answer, beside its notation.
+QStringList answerProblems(const AnswerLine& answer, const SubQuestion& packed) {
+  QStringList problems;
+  if (answer.正.isEmpty()) problems.append(QStringLiteral("答が空です。"));
+  if (trimBlanks(answer.正) != answer.正)
+    problems.append(QStringLiteral("答の始めか終わりに空白があります。空白を除いてください。"));
+  if (answer.正.size() > maxAnswerLength) problems.append(QStringLiteral("答は999文字までです。"));
+  const auto isOmission = [](const Substitution& s) { return s.kind == Kind::Omission; };
+  if (std::ranges::count_if(answer.substitutions, isOmission) > 1) {
+    problems.append(
+        QStringLiteral("[ ] は一つの答に一度だけです。ほかの部分は、隣の語と合わせて"
+                       "「{a red car/a car}」のように書いてください。"));
+  }
+  if (answer.substitutions.size() > maxExpandedSubstitutions) {
+    problems.append(QStringLiteral("別の言い方が%1個あります。一つの答に%2個までです。")
+                        .arg(answer.substitutions.size())
+                        .arg(maxExpandedSubstitutions));
+  } else if (!answer.substitutions.empty() && ExpandAnswers(packed).empty()) {
+    problems.append(QStringLiteral("別の言い方の組み合わせが%1通りを超えます。減らしてください。")
+                        .arg(maxVariants));
+  }
+  return problems;
+}
+
 }  // namespace
 
 AnswerLine parseAnswerLine(const QString& notation, QStringList& problems) {
@@ -304,12 +328,6 @@ SubQuestion packAnswer(const AnswerLine& answer, QStringList& problems) {
   SubQuestion packed;
   packed.正 = answer.正;
   packed.先頭文字数 = answer.先頭文字数;
-  if (answer.正.isEmpty()) problems.append(QStringLiteral("答が空です。"));
-  if (trimBlanks(answer.正) != answer.正)
-    problems.append(QStringLiteral("答の始めか終わりに空白があります。空白を除いてください。"));
-  if (answer.正.size() > maxAnswerLength) problems.append(QStringLiteral("答は999文字までです。"));
-
-  int omissions = 0;
   int coded = 0;
   int literal = 0;
   QString codedTail;
@@ -317,7 +335,6 @@ SubQuestion packAnswer(const AnswerLine& answer, QStringList& problems) {
   for (const Substitution& s : answer.substitutions) {
     switch (s.kind) {
       case Kind::Omission:
-        ++omissions;
         packed.省略開始 = s.start;
         packed.省略終了 = s.end;
         break;
@@ -334,20 +351,7 @@ SubQuestion packAnswer(const AnswerLine& answer, QStringList& problems) {
   }
   packed.同 = digits(packed.省略開始, 2) + digits(packed.省略終了, 2) + digits(coded, 2) +
               digits(literal, 2) + codedTail + literalTail;
-
-  if (omissions > 1) {
-    problems.append(
-        QStringLiteral("[ ] は一つの答に一度だけです。ほかの部分は、隣の語と合わせて"
-                       "「{a red car/a car}」のように書いてください。"));
-  }
-  if (answer.substitutions.size() > maxExpandedSubstitutions) {
-    problems.append(QStringLiteral("別の言い方が%1個あります。一つの答に%2個までです。")
-                        .arg(answer.substitutions.size())
-                        .arg(maxExpandedSubstitutions));
-  } else if (!answer.substitutions.empty() && ExpandAnswers(packed).empty()) {
-    problems.append(QStringLiteral("別の言い方の組み合わせが%1通りを超えます。減らしてください。")
-                        .arg(maxVariants));
-  }
+  problems.append(answerProblems(answer, packed));
   return packed;
 }
 

@@ -101,19 +101,8 @@ int usage(const QCommandLineParser& parser, const QString& message) {
   return exitUsage;
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
-  writeLogTo(logFilePath());
-  const QCoreApplication application(argc, argv);
-
-  QCommandLineParser parser;
-  describe(parser);
-  if (!parser.parse(application.arguments())) return usage(parser, parser.errorText());
-  if (parser.isSet(optionHelp)) {
-    print(parser.helpText(), stdout);
-    return exitWell;
-  }
+/// Does what the arguments say, and returns the exit status.
+int perform(const QCommandLineParser& parser) {
   const QStringList arguments = parser.positionalArguments();
   if (arguments.size() != 2)
     return usage(parser, QStringLiteral("命令と対象を一つずつ書いてください。"));
@@ -151,4 +140,20 @@ int main(int argc, char* argv[]) {
   for (const Problem& problem : problems) print(problem, QString(), QString());
   const bool well = problems.empty() && !(warned && parser.isSet(optionStrict));
   return well ? exitWell : exitProblems;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  writeLogTo(logFilePath());
+  const QCoreApplication application(argc, argv);
+
+  QCommandLineParser parser;
+  describe(parser);
+  if (!parser.parse(application.arguments())) return usage(parser, parser.errorText());
+  if (parser.isSet(optionHelp)) {
+    print(parser.helpText(), stdout);
+    return exitWell;
+  }
+  return perform(parser);
 }
