@@ -2,11 +2,12 @@
 
 #include <cstdlib>
 #include <functional>
-#include <tuple>
+#include <vector>
 
 #include "conditions/ConditionsByName.h"
 #include "conditions/ConditionsRules.h"
 #include "home/Placement.h"
+#include "practice/DrillKeys.h"
 #include "practice/PracticeRun.h"
 #include "progress/ProgressReport.h"
 #include "progress/TableSurvey.h"
@@ -17,28 +18,73 @@ namespace {
 
 constexpr int badArguments = 2;
 
-/// Names, captions and actions of the keys that a drill knows.
-using KeyTable = QList<std::tuple<QString, QString, std::function<void(PracticeLoop&)>>>;
+/// A line that is a key, what it does in a word, and what it presses.
+struct LineKey {
+  QString line;
+  QString word;
+  std::function<void(PracticeLoop&)> press;
+};
+using LineKeys = std::vector<LineKey>;
+
+/// The function keys of a drill as lines. `keyPressed` is what each does before its own work.
+LineKeys linesOf(const DrillKeys& keys, void (*keyPressed)(PracticeLoop&)) {
+  LineKeys lines;
+  for (const DrillKey& key : keys.inOrder())
+    lines.push_back({QStringLiteral(":F%1").arg(static_cast<int>(key.key)), key.name,
+                     [keyPressed, press = key.press](PracticeLoop& loop) {
+                       keyPressed(loop);
+                       press(loop, Pressed::Key);
+                     }});
+  return lines;
+}
+
+LineKey lineOf(const MenuCommand& command) {
+  return {u':' + command.name, command.caption, command.press};
+}
+
+const LineKey quit{QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce};
+
+const LineKeys& practiceLines() {
+  static const LineKeys lines = [] {
+    LineKeys all = linesOf(practiceKeys(), [](PracticeLoop& loop) {
+      if (!loop.確認中()) loop.keyPressed();
+    });
+    for (const MenuCommand& command : {reshuffleCommand(), logCommand()})
+      all.push_back(lineOf(command));
+    for (const auto* choices : {&comparisonCommands(), &timeUpCommands()})
+      for (const MenuCommand& command : *choices) all.push_back(lineOf(command));
+    all.push_back(quit);
+    return all;
+  }();
+  return lines;
+}
+
+const LineKeys& reviewLines() {
+  static const LineKeys lines = [] {
+    LineKeys all = linesOf(reviewKeys(), [](PracticeLoop& loop) { loop.review().keyPressed(); });
+    all.push_back(quit);
+    return all;
+  }();
+  return lines;
+}
 
 /// Presses one of the keys, or looks a word up; tells what can be pressed when it is neither, with
-/// `others` that are known elsewhere. `keyPressed` is what a function key does before its own work.
+/// `others` that are known elsewhere.
 template <class Screen>
-void pressOneOf(const KeyTable& keys, const QStringList& others, Terminal& terminal,
-                PracticeLoop& loop, Screen& screen, const QString& key,
-                const std::function<void()>& keyPressed) {
+void pressOneOf(const LineKeys& keys, const QStringList& others, Terminal& terminal,
+                PracticeLoop& loop, Screen& screen, const QString& key) {
   const QString look = QStringLiteral(":look ");
   if (key.startsWith(look)) {
     screen.lookUp(key.sliced(look.size()));
     return;
   }
   QStringList help = QStringList{QStringLiteral(":look 語 辞書を引く")} + others;
-  for (const auto& [name, caption, action] : keys) {
-    if (name == key) {
-      if (name.startsWith(u":F")) keyPressed();
-      action(loop);
+  for (const LineKey& known : keys) {
+    if (known.line == key) {
+      known.press(loop);
       return;
     }
-    help.append(name + u' ' + caption);
+    help.append(known.line + u' ' + known.word);
   }
   terminal.show(
       QStringLiteral("表示"),
@@ -62,7 +108,8 @@ TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Pa
       m_paper(paper),
       m_dialogs(m_terminal),
       m_conditions(m_terminal),
-      m_workingCopy(module.learner, m_files, m_clock, m_dialogs) {}
+      m_workingCopy(module.learner, m_files, m_clock, m_dialogs),
+      m_end(module, m_workingCopy, m_dialogs) {}
 
 int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
@@ -72,7 +119,7 @@ int TerminalDrill::run() {
   int status = EXIT_SUCCESS;
   if (const std::optional<QString> startKey = chooseConditions(status))
     status = practise(*startKey);
-  if (status != EXIT_SUCCESS) m_workingCopy.leave();
+  if (status != EXIT_SUCCESS) m_end.leave();
   return status;
 }
 
@@ -146,14 +193,13 @@ void TerminalDrill::showProgress() {
 
 int TerminalDrill::practise(const QString& startKey) {
   PracticeRun run(m_module.learner, m_module.course, m_module.conditions, m_module.clock,
-                  m_module.progress,
-                  {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper, m_workingCopy});
+                  m_module.progress, {m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
   if (!run.openTables()) return EXIT_FAILURE;
   TerminalPractice screen(m_terminal, run.dictionaries());
   TerminalReview reviewScreen(m_terminal, run.reviewDictionaries());
   if (!run.open(screen, reviewScreen, screen, startKey)) return EXIT_FAILURE;
   drive(run.loop(), screen, reviewScreen);
-  return run.close() ? EXIT_SUCCESS : EXIT_FAILURE;
+  return m_end.endRun(run).stored ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen,
@@ -181,53 +227,15 @@ void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen,
 void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen,
                                     const QString& key) {
   if (key == u":conditions") {
-    m_conditions.showAll(m_module.course, m_module.conditions);
+    m_conditions.showAll(m_module.course, loop.conditions());
     return;
   }
-  static const KeyTable keys = {
-      {QStringLiteral(":F1"), QStringLiteral("正解"), &PracticeLoop::showAnswer},
-      {QStringLiteral(":F2"), QStringLiteral("次小問"), &PracticeLoop::nextSubQuestion},
-      {QStringLiteral(":F3"), QStringLiteral("次問題"), &PracticeLoop::nextItem},
-      {QStringLiteral(":F4"), QStringLiteral("前問題"), &PracticeLoop::previousItem},
-      {QStringLiteral(":F6"), QStringLiteral("終了"), &PracticeLoop::requestExit},
-      {QStringLiteral(":F7"), QStringLiteral("レッスン変更"), &PracticeLoop::requestLessonChange},
-      {QStringLiteral(":F9"), QStringLiteral("問題印刷"), &PracticeLoop::requestPrint},
-      {QStringLiteral(":F11"), QStringLiteral("知っている"),
-       [](PracticeLoop& l) { l.markKnown(false); }},
-      {QStringLiteral(":menu2"), QStringLiteral("順不同出題"), &PracticeLoop::reshuffle},
-      {QStringLiteral(":menu3"), QStringLiteral("練習経過表示"), &PracticeLoop::toggleLog},
-      {QStringLiteral(":menu41"), comparisonChoices()[0].caption,
-       [](PracticeLoop& l) { l.chooseComparison(0); }},
-      {QStringLiteral(":menu42"), comparisonChoices()[1].caption,
-       [](PracticeLoop& l) { l.chooseComparison(1); }},
-      {QStringLiteral(":menu43"), comparisonChoices()[2].caption,
-       [](PracticeLoop& l) { l.chooseComparison(2); }},
-      {QStringLiteral(":menu44"), comparisonChoices()[3].caption,
-       [](PracticeLoop& l) { l.chooseComparison(3); }},
-      {QStringLiteral(":menuTimeUp1"), QStringLiteral("音なし"),
-       [](PracticeLoop& l) { l.chooseTimeUpSound(0); }},
-      {QStringLiteral(":menuTimeUp2"), QStringLiteral("ポン"),
-       [](PracticeLoop& l) { l.chooseTimeUpSound(1); }},
-      {QStringLiteral(":menuTimeUp3"), QStringLiteral("\"Time is up.\" 発音"),
-       [](PracticeLoop& l) { l.chooseTimeUpSound(2); }},
-      {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
-  };
-  pressOneOf(keys, {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen, key, [&] {
-    if (!loop.確認中()) loop.keyPressed();
-  });
+  pressOneOf(practiceLines(), {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen,
+             key);
 }
 
 void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key) {
-  static const KeyTable keys = {
-      {QStringLiteral(":F1"), QStringLiteral("正解"),
-       [](PracticeLoop& l) { l.review().showAnswer(); }},
-      {QStringLiteral(":F6"), QStringLiteral("終了"),
-       [](PracticeLoop& l) { l.review().requestExit(); }},
-      {QStringLiteral(":F11"), QStringLiteral("次へ"),
-       [](PracticeLoop& l) { l.review().nextReviewItem(); }},
-      {QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce},
-  };
-  pressOneOf(keys, {}, m_terminal, loop, screen, key, [&] { loop.review().keyPressed(); });
+  pressOneOf(reviewLines(), {}, m_terminal, loop, screen, key);
 }
 
 }  // namespace tavoli

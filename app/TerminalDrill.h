@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "app/Module1.h"
+#include "app/ProgramEnd.h"
 #include "app/Terminal.h"
 #include "app/TerminalConditions.h"
 #include "conditions/ConditionsByName.h"
@@ -64,6 +65,7 @@ class TerminalDrill {
   TerminalDialogs m_dialogs;
   TerminalConditions m_conditions;
   WorkingCopy m_workingCopy;
+  ProgramEnd m_end;
 };
 
 }  // namespace tavoli

@@ -41,7 +41,7 @@ void keyToNextQuestion(benchmark::State& state) {
   test::FakeClock clock;
   SilentSpeaker speaker;
   RunClock times;
-  TAVO3 window(conditions);
+  TAVO3 window;
   window.resize(1024, 768);
   test::RecordingReview review;
   PracticeLoop loop(set, course, conditions, times,

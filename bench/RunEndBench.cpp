@@ -77,14 +77,14 @@ void closeRun(benchmark::State& state) {
     PracticeSet set = PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
                           .LoadPracticeSet(startKeyFirst);
     for (int i = 1; i <= set.itemCount(); ++i) {
-      set.item(i).itemDirty = true;
-      ++set.item(i).itemTimes;
+      set.markShown(i);
+      set.countItem(i);
     }
-    WorkingCopy workingCopy(learner, files, clock, dialogs);
-    RunEnd end(learner, workingCopy, files, clock, dialogs);
+    RunEnd end(learner, files, clock);
     state.ResumeTiming();
     const auto stored =
-        end.closeRun(std::move(tables), set, {1, course, conditions, settings, times, {}});
+        end.saveRunEnd(std::move(tables), set, {1, course, conditions, settings, times, {}},
+                       [](const QStringList&, const QString&) { return false; });
     if (!stored) state.SkipWithError("not stored");
   }
 }

@@ -12,7 +12,7 @@ const QString kindStored = QStringLiteral("stored");
 }  // namespace
 
 bool DamageGuard::isNews(const QString& kind) {
-  const PracticeItem& item = m_state.set.item(m_state.POS);
+  const PracticeItem& item = m_state.shown.item();
   const QString key = kind + stored(item.itemTable) + item.itemEnglish;
   if (m_told.contains(key)) return false;
   m_told.insert(key);
@@ -27,11 +27,11 @@ MarkedText DamageGuard::marked(const QString& text) {
 }
 
 void DamageGuard::guardEmptyRecord(bool FK前問題) {
-  if (m_state.record.小問数 > 0 || !isNews(kindShown)) return;
-  const QString guard = !m_state.record.sentence ? QStringLiteral("Stop32")
+  if (m_state.shown.record().小問数 > 0 || !isNews(kindShown)) return;
+  const QString guard = !m_state.shown.record().sentence ? QStringLiteral("Stop32")
                         : FK前問題               ? QStringLiteral("Stop321")
                                                  : QStringLiteral("Stop31");
-  m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.set.item(m_state.POS).itemEnglish);
+  m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.shown.item().itemEnglish);
 }
 
 QString DamageGuard::memoryUnchanged() {

@@ -11,19 +11,19 @@ ItemWriteBack::ItemWriteBack(Database& database, const CourseChoice& course)
     m_rsTDIC.push_back(database.OpenRecordset(table, {field記憶}));
 }
 
-bool ItemWriteBack::WriteBackItem(PracticeItem& item) {
+bool ItemWriteBack::WriteBackItem(const PracticeItem& item) {
   const ItemState summed =
       itemState(ParseRecord(item.itemRecord, item.itemEnglish, item.itemTable), item.itemEnglish);
   m_complaints += summed.complaints;
-  item.itemMemory = summed.state;
   TableCursor* rows = item.isSentence()
                           ? m_rsBDIC.get()
                           : m_rsTDIC[static_cast<size_t>(placeOf(item.itemTable) - 1)].get();
   if (!rows) return false;
-  return item.isSentence() ? updateSentenceRow(*rows, item) : updateDictionaryRow(*rows, item);
+  return item.isSentence() ? updateSentenceRow(*rows, item, summed.state)
+ : updateDictionaryRow(*rows, item, summed.state);
 }
 
-void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item) {
+void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item, MemoryState state) {
   // The row's own state, not the one that was loaded: so the counts stay those of a survey.
   const QString code = rows.text(field記憶);
   const auto old = code.size() == 1 ? codeOf<MemoryState>(code) : MemoryState::none;
@@ -32,21 +32,21 @@ void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item) {
         (item.isSentence() ? QStringLiteral("Stop37 ") : QStringLiteral("Stop3B ")) +
         item.itemEnglish);
   }
-  m_growth.move(m_COURSE, item.itemTable, item.itemEnglish, old, item.itemMemory);
+  m_growth.move(m_COURSE, item.itemTable, item.itemEnglish, old, state);
 }
 
-bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& item) {
+bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& item, MemoryState state) {
   rows.Seek(SeekOp::Equal, item.itemEnglish);
   if (rows.NoMatch()) return !rows.failed();
-  follow(rows, item);
+  follow(rows, item, state);
   rows.Edit();
-  rows.setValue(field記憶, QString(stored(item.itemMemory)));
+  rows.setValue(field記憶, QString(stored(state)));
   rows.setValue(field回数, digits(item.itemTimes, 2));
   if (!item.damaged) rows.setValue(field問正コ, item.itemRecord);
   return rows.Update();
 }
 
-bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& item) {
+bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& item, MemoryState state) {
   rows.Seek(SeekOp::Equal, item.itemEnglish);
   if (rows.failed()) return false;
   if (rows.NoMatch()) {
@@ -58,10 +58,10 @@ bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& i
     m_complaints.append(QStringLiteral(":%1: not found in rsTDIC").arg(item.itemEnglish));
     return true;
   }
-  follow(rows, item);
+  follow(rows, item, state);
   rows.Edit();
   rows.setValue(fieldレベル, item.itemLevel);
-  rows.setValue(field記憶, QString(stored(item.itemMemory)));
+  rows.setValue(field記憶, QString(stored(state)));
   rows.setValue(field回数, digits(item.itemTimes, 2));
   if (!item.damaged) rows.setValue(field発同日コ, item.itemRecord);
   return rows.Update();

@@ -21,17 +21,19 @@ class ItemWriteBack {
 
   /// Sums the item's state up and stores it with the item's record and count. A row that has gone
   /// is no failure. False when the row could not be written.
-  [[nodiscard]] bool WriteBackItem(PracticeItem& item);
+  [[nodiscard]] bool WriteBackItem(const PracticeItem& item);
 
   const MemoryGrowth& growth() const { return m_growth; }
   /// What was wrong with the items and their rows, a line each.
   const QStringList& complaints() const { return m_complaints; }
 
  private:
-  [[nodiscard]] bool updateSentenceRow(TableCursor& rows, const PracticeItem& item);
-  [[nodiscard]] bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item);
-  /// The row of `item` is about to get the item's state in the place of its own.
-  void follow(const TableCursor& rows, const PracticeItem& item);
+  [[nodiscard]] bool updateSentenceRow(TableCursor& rows, const PracticeItem& item,
+                                       MemoryState state);
+  [[nodiscard]] bool updateDictionaryRow(TableCursor& rows, const PracticeItem& item,
+                                         MemoryState state);
+  /// The row of `item` is about to get `state` in the place of its own.
+  void follow(const TableCursor& rows, const PracticeItem& item, MemoryState state);
 
   Course m_COURSE;
   std::unique_ptr<TableCursor> m_rsBDIC;

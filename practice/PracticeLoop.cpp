@@ -1,6 +1,6 @@
 #include "practice/PracticeLoop.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "practice/PracticeScreen.h"
 #include "practice/VerdictText.h"
@@ -12,8 +12,6 @@ namespace tavoli {
 
 namespace {
 
-constexpr int maxTimes = 99;
-
 QString captionOf(const PracticeConditions& conditions) {
   if (conditions.usesLesson()) return conditions.lessonFile;
   const QString kind =
@@ -24,10 +22,10 @@ QString captionOf(const PracticeConditions& conditions) {
 }  // namespace
 
 PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
-                           PracticeConditions& conditions, RunClock& times,
+                           const PracticeConditions& conditions, RunClock& times,
                            const LoopServices& services)
     : m_state{set, course, conditions,
-              comparisonSettings(conditions.compareMode, conditions.compareFlag)},
+              comparisonSettings(conditions.compareMode, conditions.compareFlag), ShownItem(set)},
       m_screen(services.screen),
       m_restTime(times, services.clock, services.screen),
       m_dialogs(services.dialogs, m_restTime),
@@ -38,8 +36,13 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_answerClock(services.clock, services.screen, services.speaker),
       m_report(services.progress),
       m_reviewRing(conditions.reviewCycle),
-      m_review(m_state, {services.reviewScreen, m_dialogs, services.clock, services.speaker,
-                         m_restTime, [this] { advance(); }, [this] { exitAtOnce(); }}) {}
+      m_review(m_state,
+               {services.reviewScreen, m_dialogs, services.clock, services.speaker, m_restTime,
+                [this] {
+                  m_phase = Phase::asking;
+                  advance();
+                },
+                [this] { exitAtOnce(); }}) {}
 
 void PracticeLoop::start(int timeUpSound) {
   m_restTime.begin();
@@ -54,57 +57,43 @@ void PracticeLoop::start(int timeUpSound) {
   m_screen.showStatus(StatusPanel::Order,
                       conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
   m_screen.showCounts(m_report.counts());
-  m_state.POS = m_state.set.startIndex;
-  goToItem();
+  goToItem(m_state.set.startIndex);
 }
 
-bool PracticeLoop::dispPOS1() {
+bool PracticeLoop::dispPOS1(int POS) {
   const int itemCount = m_state.set.itemCount();
-  if (m_state.POS > itemCount) {
+  ShownItem& shown = m_state.shown;
+  shown.moveTo(POS);
+  if (POS > itemCount) {
     if (!m_dialogs.ask(QStringLiteral("最後まで終了しました。最初から再開しますか。")) &&
         m_dialogs.ask(QStringLiteral("終了しますか？"))) {
       exitAtOnce();
       return false;
     }
-    m_state.POS = m_state.set.startIndex;
+    shown.moveTo(m_state.set.startIndex);
   }
-  PracticeItem& item = m_state.item();
-  m_state.POS1 = 1;
-  m_state.wordShownCount = 0;
-  m_state.answered.reset();
-  m_state.復習する = false;
-  m_state.FK次小問 = false;
-  m_state.repeatsLeft =
-      item.isSentence() ? m_state.conditions.firstRepeatSent : m_state.conditions.firstRepeatWord;
-  item.itemDirty = true;
-  m_state.record = m_state.set.parsed(m_state.POS);
-  const QString position = QStringLiteral("位置=%1／%2").arg(m_state.POS).arg(itemCount);
+  shown.show();
+  m_flow.beginItem();
+  const PracticeItem& item = shown.item();
+  const QString position = QStringLiteral("位置=%1／%2").arg(shown.POS()).arg(itemCount);
   m_screen.showStatus(StatusPanel::Position,
                       item.isSentence() ? position + u' ' + item.itemEnglish : position);
   return true;
 }
 
-void PracticeLoop::goToItem() {
-  if (dispPOS1()) advance();
-}
-
-bool PracticeLoop::fnNextExist() {
-  int& POS1 = m_state.POS1;
-  while (m_state.record.has(POS1) &&
-         !memoryAdmitted(m_state.conditions.memorySelect, m_state.record.記(POS1)))
-    ++POS1;
-  return m_state.record.has(POS1);
+void PracticeLoop::goToItem(int POS) {
+  if (dispPOS1(POS)) advance();
 }
 
 void PracticeLoop::advance() {
-  if (fnNextExist()) {
+  if (m_state.shown.fnNextExist(m_state.conditions.memorySelect)) {
     dispQuestion();
-  } else if (m_state.FK次小問) {
+  } else if (m_flow.attempt().FK次小問) {
     // Left by F2 at its last 小問: neither shown nor counted.
     nextQuestion();
   } else {
     // An item of which nothing was asked is only shown, and what the last one left goes away.
-    if (m_state.wordShownCount > 0) {
+    if (m_state.shown.wordShownCount() > 0) {
       回数カウント();
       showSubQuestion();
     } else {
@@ -128,9 +117,10 @@ void PracticeLoop::after(AnswerFlow::After result) {
 
 double PracticeLoop::targetSeconds() const {
   const PracticeConditions& c = m_state.conditions;
-  const auto length = static_cast<double>(answerOf(m_state.record, m_state.POS1).size());
-  return m_state.record.sentence ? c.targetSentA * length + c.targetSentB
-                                 : c.targetWordA * length + c.targetWordB;
+  const CurrentRecord& record = m_state.shown.record();
+  const auto length = static_cast<double>(answerOf(record, POS1()).size());
+  return record.sentence ? c.targetSentA * length + c.targetSentB
+                         : c.targetWordA * length + c.targetWordB;
 }
 
 void PracticeLoop::activity() {
@@ -138,22 +128,19 @@ void PracticeLoop::activity() {
 }
 
 void PracticeLoop::nextQuestion() {
-  ++m_state.POS;
   m_FK前問題 = false;
-  goToItem();
+  goToItem(POS() + 1);
 }
 
 void PracticeLoop::dispQuestion() {
-  ++m_state.wordShownCount;
-  m_state.tryCount = 0;
-  m_state.answerShown = false;
-  m_state.timeOver = false;
-  m_state.FK次小問 = false;
+  ShownItem& shown = m_state.shown;
+  shown.ask();
+  m_flow.beginSubQuestion();
   m_FK前問題 = false;
-  m_state.speechKeyCount = 0;
-  const PracticeItem& item = m_state.item();
-  const CurrentRecord& record = m_state.record;
-  const SubQuestion& s = m_state.小問();
+  m_speechKeyCount = 0;
+  const PracticeItem& item = shown.item();
+  const CurrentRecord& record = shown.record();
+  const SubQuestion& s = shown.小問();
   m_screen.showSource(sourceLabel(record, item.itemEnglish, item.itemTable, m_state.course.COURSE));
   m_question = m_damage.marked(record.sentence ? record.問題文 : s.日本語);
   m_screen.showQuestion(m_question);
@@ -163,10 +150,10 @@ void PracticeLoop::dispQuestion() {
       QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
   // What was told of the last 小問, its answer perhaps, is not to help with this one.
   m_screen.showFullAnswer(MarkedText());
-  m_screen.setAnswer(answerStart(record, m_state.POS1));
+  m_screen.setAnswer(answerStart(record, POS1()));
   m_flow.ShowMiniTestNotice();
   // A mini test has no time limit.
-  if (m_state.inMiniTest())
+  if (shown.inMiniTest())
     m_answerClock.clear();
   else
     m_answerClock.startAnswerTimer(targetSeconds());
@@ -175,30 +162,30 @@ void PracticeLoop::dispQuestion() {
 
 void PracticeLoop::showSubQuestion() {
   m_screen.showSubQuestion(
-      questionView(m_question, m_state.record, m_state.POS1, m_state.answered));
+      questionView(m_question, m_state.shown.record(), POS1(), m_state.shown.answered()));
 }
 
 void PracticeLoop::dispAnswerFull() {
-  m_確認中 = true;
+  m_phase = Phase::confirming;
   for (const FunctionKey key :
        {FunctionKey::F1, FunctionKey::F2, FunctionKey::F3, FunctionKey::F11})
     m_screen.enableKey(key, false);
   m_answerClock.clear();
   m_screen.showMiniTest(MarkedText());
   m_screen.setAnswer(QString());
-  m_screen.showFullAnswer(m_damage.marked(fullAnswerText(m_state.record)));
+  m_screen.showFullAnswer(m_damage.marked(fullAnswerText(m_state.shown.record())));
   m_speaker.say(spokenAnswer());
   m_screen.awaitConfirmation(true);
 }
 
 QString PracticeLoop::spokenAnswer() const {
-  if (!m_state.record.sentence) return m_state.record.英語;
-  return sentenceAnswerLines(m_state.record).join(u' ');
+  const CurrentRecord& record = m_state.shown.record();
+  return record.sentence ? sentenceAnswerLines(record).join(u' ') : record.英語;
 }
 
 void PracticeLoop::leaveConfirmation() {
-  if (!m_確認中) return;
-  m_確認中 = false;
+  if (!確認中()) return;
+  m_phase = Phase::asking;
   for (const FunctionKey key :
        {FunctionKey::F1, FunctionKey::F2, FunctionKey::F3, FunctionKey::F11})
     m_screen.enableKey(key, true);
@@ -206,18 +193,22 @@ void PracticeLoop::leaveConfirmation() {
 }
 
 void PracticeLoop::leaveFullAnswer() {
-  const bool 復習する = m_state.復習する;
-  const int reviewSlot = m_state.POS;
+  const bool 復習する = m_flow.attempt().復習する;
+  const int reviewSlot = POS();
   leaveConfirmation();
-  ++m_state.POS;
   m_FK前問題 = false;
-  if (!dispPOS1()) return;
-  const std::vector<int> due = 復習する ? m_reviewRing.reviewCheck(reviewSlot) : std::vector<int>();
+  if (!dispPOS1(POS() + 1)) return;
+  std::vector<int> due = 復習する ? m_reviewRing.reviewCheck(reviewSlot) : std::vector<int>();
   // The next item is not shown before the review is over.
   if (due.empty())
     advance();
   else
-    m_review.startReview(due);
+    startReview(std::move(due));
+}
+
+void PracticeLoop::startReview(std::vector<int> items) {
+  m_phase = Phase::reviewing;
+  m_review.startReview(std::move(items));
 }
 
 void PracticeLoop::emptyQuestion() {
@@ -234,54 +225,54 @@ void PracticeLoop::emptyAreas() {
 
 void PracticeLoop::keyPressed() {
   m_screen.showMessage(MarkedText());
-  ++m_state.speechKeyCount;
-  const int stopAt = m_state.inMiniTest() ? 1 : 2;
-  if (m_state.speechKeyCount == stopAt) m_speaker.stop();
+  ++m_speechKeyCount;
+  const int stopAt = m_state.shown.inMiniTest() ? 1 : 2;
+  if (m_speechKeyCount == stopAt) m_speaker.stop();
 }
 
 void PracticeLoop::enter(const QString& typed) {
   activity();
   emptyAreas();
-  if (m_確認中) {
+  if (確認中()) {
     leaveFullAnswer();
     return;
   }
-  const int tried = m_state.tryCount;
+  const int tried = m_flow.attempt().tryCount;
   const AnswerFlow::After result = m_flow.enter(typed);
-  if (m_state.tryCount != tried) m_answerClock.stop();
+  if (m_flow.attempt().tryCount != tried) m_answerClock.stop();
   after(result);
 }
 
 void PracticeLoop::answerBoxClicked(const QString& typed) {
-  if (m_確認中) {
+  if (確認中()) {
     enter(QString());
     return;
   }
-  if (!m_state.record.sentence || typed != answerStart(m_state.record, m_state.POS1)) return;
+  const ShownItem& shown = m_state.shown;
+  if (!shown.record().sentence || typed != answerStart(shown.record(), POS1())) return;
   m_screen.showMessage(MarkedText());
-  if (!m_state.inMiniTest()) m_answerClock.resume(targetSeconds());
+  if (!shown.inMiniTest()) m_answerClock.resume(targetSeconds());
 }
 
 void PracticeLoop::showAnswer() {
   activity();
-  if (m_確認中) return;
+  if (確認中()) return;
   m_flow.showAnswer();
-  if (m_state.answerShown) m_speaker.say(spokenAnswer());
+  if (m_flow.attempt().answerShown) m_speaker.say(spokenAnswer());
   stay();
 }
 
 void PracticeLoop::nextSubQuestion() {
   activity();
-  if (m_確認中) return;
+  if (確認中()) return;
   emptyAreas();
-  ++m_state.POS1;
-  m_state.FK次小問 = true;
+  m_flow.skip();
   advance();
 }
 
 void PracticeLoop::nextItem() {
   activity();
-  if (m_確認中) return;
+  if (確認中()) return;
   emptyAreas();
   nextQuestion();
 }
@@ -290,28 +281,27 @@ void PracticeLoop::previousItem() {
   activity();
   leaveConfirmation();
   emptyAreas();
-  m_state.POS = m_state.POS > 1 ? m_state.POS - 1 : m_state.set.itemCount();
   m_FK前問題 = true;
-  goToItem();
+  goToItem(POS() > 1 ? POS() - 1 : m_state.set.itemCount());
 }
 
-void PracticeLoop::markKnown(bool byButton) {
+void PracticeLoop::markKnown(Pressed pressed) {
   activity();
-  if (m_確認中) return;
+  if (確認中()) return;
   m_answerClock.stop();
-  after(m_flow.KnownKey(byButton));
+  after(m_flow.KnownKey(pressed));
 }
 
 void PracticeLoop::requestPrint() {
-  m_dialogs.show(m_printRequests.request(m_state.item()));
+  m_dialogs.show(m_printRequests.request(m_state.shown.item()));
   m_screen.showMessage(MarkedText());
-  if (!m_確認中) stay();
+  if (!確認中()) stay();
 }
 
 void PracticeLoop::tick() {
   if (!m_answerClock.running()) return;
   m_answerClock.tick(m_state.timeUpSound);
-  m_state.timeOver = m_answerClock.timeOver();
+  m_flow.takeTime(m_answerClock.timeOver());
 }
 
 void PracticeLoop::toggleLog() {
@@ -324,6 +314,14 @@ void PracticeLoop::chooseTimeUpSound(int choice) {
   activity();
   m_state.timeUpSound = choice;
   m_screen.showTimeUpSound(choice);
+}
+
+void PracticeLoop::chooseRepeats(const PracticeConditions& chosen) {
+  PracticeConditions& c = m_state.conditions;
+  c.firstRepeatWord = chosen.firstRepeatWord;
+  c.firstRepeatSent = chosen.firstRepeatSent;
+  c.requiredRepeatWord = chosen.requiredRepeatWord;
+  c.requiredRepeatSent = chosen.requiredRepeatSent;
 }
 
 void PracticeLoop::chooseComparison(int choice) {
@@ -351,13 +349,11 @@ void PracticeLoop::reshuffle() {
   m_reviewRing.clear();
   leaveConfirmation();
   emptyAreas();
-  m_state.POS = m_state.set.startIndex;
-  goToItem();
+  goToItem(m_state.set.startIndex);
 }
 
 void PracticeLoop::回数カウント() {
-  int& times = m_state.item().itemTimes;
-  times = std::min(maxTimes, times + 1);
+  m_state.shown.countItem();
   m_report.finish(m_state);
   m_screen.showCounts(m_report.counts());
   m_screen.showLog(m_report.runLog(), m_logShown);
@@ -381,15 +377,15 @@ void PracticeLoop::requestLessonChange() {
 }
 
 void PracticeLoop::exitRefused() {
-  if (m_確認中)
+  if (確認中())
     enter(QString());
   else
     stay();
 }
 
 void PracticeLoop::exitAtOnce() {
-  if (m_exitConfirmed) return;
-  m_exitConfirmed = true;
+  if (m_phase == Phase::ended) return;
+  m_phase = Phase::ended;
   m_answerClock.stop();
   m_review.stop();
   m_screen.close();

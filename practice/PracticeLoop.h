@@ -35,11 +35,19 @@ struct LoopServices {
   ProgressCounters progress = {};  ///< what was counted before this run
 };
 
+/// What the loop waits for.
+enum class Phase {
+  asking,      ///< an answer
+  confirming,  ///< Enter on the full answer
+  reviewing,   ///< the end of a review of earlier items, to which the keys belong meanwhile
+  ended        ///< nothing more: the run is over
+};
+
 /// Asks one 小問 after the other: shows it, has the answer flow judge what was typed, and walks on
 /// through the items until the learner ends the run.
 class PracticeLoop {
  public:
-  PracticeLoop(PracticeSet& set, const CourseChoice& course, PracticeConditions& conditions,
+  PracticeLoop(PracticeSet& set, const CourseChoice& course, const PracticeConditions& conditions,
                RunClock& times, const LoopServices& services);
 
   /// Shows the first question. `timeUpSound` as in chooseTimeUpSound.
@@ -62,8 +70,8 @@ class PracticeLoop {
   void nextItem();
   /// F4: the item before this one; before the first comes the last.
   void previousItem();
-  /// F11: the learner knows the 小問. `byButton` says that the button was clicked.
-  void markKnown(bool byButton);
+  /// F11: the learner knows the 小問.
+  void markKnown(Pressed pressed);
 
   /// F9: the item is to be printed at the end of the run.
   void requestPrint();
@@ -74,6 +82,8 @@ class PracticeLoop {
   void toggleLog();
   /// 0 no sound at the end of the target time, 1 a beep, 2 the spoken sentence.
   void chooseTimeUpSound(int choice);
+  /// Takes the numbers of repeats over, from now on.
+  void chooseRepeats(const PracticeConditions& chosen);
   /// Compares from now on as the choice says, from 0; the run's conditions keep it.
   void chooseComparison(int choice);
   /// Goes on to the next choice of the four.
@@ -89,23 +99,29 @@ class PracticeLoop {
   /// Ends the run without a question.
   void exitAtOnce();
 
+  Phase phase() const { return m_phase; }
+  bool 確認中() const { return m_phase == Phase::confirming; }
+  bool 復習中() const { return m_phase == Phase::reviewing; }
   /// The run is over, by F6 or F7.
-  bool exitConfirmed() const { return m_exitConfirmed; }
+  bool exitConfirmed() const { return m_phase == Phase::ended; }
   /// It is over by F7: the conditions screen comes back.
   bool backToConditions() const { return m_backToConditions; }
   /// The present item and 小問, from 1.
-  int POS() const { return m_state.POS; }
-  int POS1() const { return m_state.POS1; }
-  bool 確認中() const { return m_確認中; }
+  int POS() const { return m_state.shown.POS(); }
+  int POS1() const { return m_state.shown.POS1(); }
   /// The answer box holds a sentence that is to be corrected.
-  bool correcting() const { return isCorrection(m_state.record); }
+  bool correcting() const { return isCorrection(m_state.shown.record()); }
   const RunState& state() const { return m_state; }
+  const Attempt& attempt() const { return m_flow.attempt(); }
+  /// As they were chosen in the run.
+  const PracticeConditions& conditions() const { return m_state.conditions; }
   const RunReport& report() const { return m_report; }
   /// What is to be printed when the run is over.
   QuestionRequests& printRequests() { return m_printRequests; }
-  /// The review of earlier items. While it goes on the keys belong to it, and the practice waits.
+  /// Asks items of the run, by their numbers, once more; the practice waits.
+  void startReview(std::vector<int> items);
+  /// The review of earlier items.
   ReviewDrill& review() { return m_review; }
-  bool 復習中() const { return m_review.復習中(); }
   bool clockRunning() const { return m_answerClock.running(); }
   int timeUpSound() const { return m_state.timeUpSound; }
 
@@ -121,12 +137,9 @@ class PracticeLoop {
   /// What every key does first: the time since the last one may have been rest.
   void activity();
   /// Makes POS the current item. False when the run has ended instead.
-  bool dispPOS1();
-  /// Goes to POS and shows what is to be asked there.
-  void goToItem();
-  /// Moves POS1 to the next 小問 whose memory state is admitted. False when none is left; POS1 then
-  /// stands behind the last one.
-  bool fnNextExist();
+  bool dispPOS1(int POS);
+  /// Goes to an item and shows what is to be asked there.
+  void goToItem(int POS);
   void nextQuestion();
   void dispQuestion();
   void showSubQuestion();
@@ -159,8 +172,8 @@ class PracticeLoop {
   MarkedText m_question;  ///< as it was last shown
   bool m_logShown = false;
   bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since
-  bool m_確認中 = false;
-  bool m_exitConfirmed = false;
+  Phase m_phase = Phase::asking;
+  int m_speechKeyCount = 0;  ///< keys since the 小問 was shown; the voice stops at one of the first
   bool m_backToConditions = false;
 };
 

@@ -3,15 +3,14 @@
 #include "practice/PracticeScreen.h"
 #include "practice/PracticeSetLoader.h"
 #include "practice/QuestionPrinting.h"
-#include "practice/RunEnd.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
 
 namespace tavoli {
 
 PracticeRun::PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
-                         PracticeConditions& conditions, RunClock& times,
-                         ProgressCounters& progress, const RunServices& services)
+                         const PracticeConditions& conditions, RunClock& times,
+                         const ProgressCounters& progress, const RunServices& services)
     : m_learner(learner),
       m_course(course),
       m_conditions(conditions),
@@ -56,22 +55,21 @@ bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadP
   return true;
 }
 
-bool PracticeRun::close() {
-  if (!m_tables || !m_loop || !m_loop->exitConfirmed()) return false;
+std::optional<StoredRun> PracticeRun::close(const RunEnd::Retry& retry) {
+  if (!m_tables || !m_loop || !m_loop->exitConfirmed()) return std::nullopt;
   m_dictionaries.clear();
   m_reviewDictionaries.clear();
   m_settings.timeUpSound = m_loop->timeUpSound();
-  RunEnd end(m_learner, m_services.workingCopy, m_services.files, m_services.clock,
-             m_services.dialogs);
-  const std::optional<ProgressCounters> stored =
-      end.closeRun(std::move(m_tables), m_set,
-                   {m_loop->POS(), m_course, m_conditions, m_settings, m_times,
-                    m_loop->report().progress(), m_loop->backToConditions()});
-  if (!stored) return false;
-  m_progress = *stored;
-  printRequests(m_loop->printRequests(), m_learner, m_services.paper, m_services.clock,
-                m_services.dialogs);
-  return true;
+  return RunEnd(m_learner, m_services.files, m_services.clock)
+      .saveRunEnd(std::move(m_tables), m_set,
+                  {m_loop->POS(), m_course, m_loop->conditions(), m_settings, m_times,
+                   m_loop->report().progress()},
+                  retry);
+}
+
+QStringList PracticeRun::printRequests() {
+  return tavoli::printRequests(m_loop->printRequests(), m_learner, m_services.paper,
+                               m_services.clock);
 }
 
 }  // namespace tavoli

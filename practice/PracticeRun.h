@@ -10,6 +10,7 @@
 #include "practice/LearningTables.h"
 #include "practice/PracticeLoop.h"
 #include "practice/PracticeSet.h"
+#include "practice/RunEnd.h"
 
 namespace tavoli {
 
@@ -22,7 +23,6 @@ class PracticeScreen;
 class ReviewScreen;
 class Random;
 class Speaker;
-class WorkingCopy;
 
 /// What a run works with.
 struct RunServices {
@@ -32,7 +32,6 @@ struct RunServices {
   Dialogs& dialogs;
   Speaker& speaker;
   Paper& paper;
-  WorkingCopy& workingCopy;
 };
 
 /// One practice run from the opening of the tables to the saving of what it changed, to which the
@@ -40,8 +39,8 @@ struct RunServices {
 class PracticeRun {
  public:
   PracticeRun(const LearnerFiles& learner, const CourseChoice& course,
-              PracticeConditions& conditions, RunClock& times, ProgressCounters& progress,
-              const RunServices& services);
+              const PracticeConditions& conditions, RunClock& times,
+              const ProgressCounters& progress, const RunServices& services);
   ~PracticeRun();
 
   /// Opens the learner's tables. False when that cannot be done; the learner has then been told.
@@ -58,16 +57,18 @@ class PracticeRun {
                           LoadProgress& progress, const QString& startKey);
 
   PracticeLoop& loop() { return *m_loop; }
-  /// Stores the run, once, when its end was confirmed, and prints what was requested. False when
-  /// the learner gave up storing it.
-  [[nodiscard]] bool close();
+  /// Stores the run, once, when its end was confirmed; the dictionaries go. Nothing when it was not
+  /// stored in the end.
+  [[nodiscard]] std::optional<StoredRun> close(const RunEnd::Retry& retry);
+  /// Prints what was requested; returns what the learner is to be told, a box each.
+  [[nodiscard]] QStringList printRequests();
 
  private:
   const LearnerFiles& m_learner;
-  const CourseChoice& m_course;
-  PracticeConditions& m_conditions;
+  CourseChoice m_course;
+  PracticeConditions m_conditions;  ///< as the run began
   RunClock& m_times;
-  ProgressCounters& m_progress;
+  ProgressCounters m_progress;
   RunServices m_services;
   std::unique_ptr<LearningTables> m_tables;
   std::vector<Dictionary> m_dictionaries;

@@ -24,6 +24,9 @@ enum class StatusPanel {
 /// The function keys of the practice; each is a button too.
 enum class FunctionKey { F1 = 1, F2 = 2, F3 = 3, F4 = 4, F6 = 6, F7 = 7, F9 = 9, F11 = 11 };
 
+/// A function key is pressed on the keyboard or as a button.
+enum class Pressed { Key, Button };
+
 /// How many items were finished, by their level: 中学, 高校, 専門.
 struct ItemCounts {
   std::array<int, 3> words{};

@@ -1,5 +1,6 @@
 #include "practice/PracticeSet.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "system/Random.h"
@@ -33,6 +34,11 @@ void PracticeSet::reshuffle(Random& random) {
   }
 }
 
+void PracticeSet::countItem(int i) {
+  int& times = change(i).itemTimes;
+  times = std::min(maxTimes, times + 1);
+}
+
 CurrentRecord PracticeSet::parsed(int i) const {
   const PracticeItem& row = item(i);
   CurrentRecord record = ParseRecord(row.itemRecord, row.itemEnglish, row.itemTable);
@@ -41,7 +47,7 @@ CurrentRecord PracticeSet::parsed(int i) const {
 }
 
 bool PracticeSet::RewriteRecord(int i, const CurrentRecord& record) {
-  if (record.complete) item(i).itemRecord = packRecord(record);
+  if (record.complete) change(i).itemRecord = packRecord(record);
   return record.complete;
 }
 

@@ -11,6 +11,8 @@ namespace tavoli {
 class Random;
 
 inline constexpr int maxItems = 25000;
+/// Counts of practices end here.
+inline constexpr int maxTimes = 99;
 
 /// One question of the run: a copy of a table's row.
 struct PracticeItem {
@@ -32,7 +34,6 @@ struct PracticeItem {
 class PracticeSet {
  public:
   int itemCount() const { return static_cast<int>(m_rows.size()); }
-  PracticeItem& item(int i) { return m_items[rowOf(i)]; }
   const PracticeItem& item(int i) const { return m_items[rowOf(i)]; }
   void append(PracticeItem item);
   /// Lets item i come once more.
@@ -50,6 +51,10 @@ class PracticeSet {
   /// Mixes the items from startIndex on, that one included.
   void reshuffle(Random& random);
 
+  /// Item i has been on the screen: it is stored at the end of the run.
+  void markShown(int i) { change(i).itemDirty = true; }
+  /// Item i was practised once more.
+  void countItem(int i);
   /// The i-th item taken apart.
   CurrentRecord parsed(int i) const;
   /// Packs the record into item i. A record that was damaged leaves the item's text as it is, and
@@ -58,6 +63,8 @@ class PracticeSet {
 
  private:
   void swap(int i, int j);
+  /// Every change of an item goes through here.
+  PracticeItem& change(int i) { return m_items[rowOf(i)]; }
 
   std::vector<PracticeItem> m_items;
   std::vector<size_t> m_rows;  ///< by the order of asking

@@ -6,12 +6,12 @@
 namespace tavoli {
 
 class Clock;
-class Dialogs;
 class Paper;
 
 /// Prints what was requested. Where no printer takes it, it becomes a PDF file in the learner's
-/// folder, and the learner is told where. The requests are gone only when one of the two has them.
-void printRequests(QuestionRequests& requests, const LearnerFiles& learner, Paper& paper,
-                   const Clock& clock, Dialogs& dialogs);
+/// folder. The requests are gone only when one of the two has them. Returns what the learner is to
+/// be told, a box each.
+QStringList printRequests(QuestionRequests& requests, const LearnerFiles& learner, Paper& paper,
+                          const Clock& clock);
 
 }  // namespace tavoli

@@ -24,10 +24,10 @@ ReviewDrill::ReviewDrill(const RunState& run, ReviewServices services)
     : m_run(run),
       m_services(std::move(services)),
       m_screen(m_services.screen),
+      m_judge(m_screen),
       m_answerClock(m_services.clock, m_screen, m_services.speaker) {}
 
 void ReviewDrill::startReview(std::vector<int> reviewList) {
-  m_復習中 = true;
   m_reviewList = std::move(reviewList);
   m_reviewFrom = 0;
   m_screen.beginReview(courseName(m_run.course.COURSE));
@@ -35,7 +35,6 @@ void ReviewDrill::startReview(std::vector<int> reviewList) {
 }
 
 void ReviewDrill::stop() {
-  m_復習中 = false;
   m_answerClock.stop();
 }
 
@@ -54,7 +53,6 @@ void ReviewDrill::nextReviewItem() {
     showReviewQuestion();
     return;
   }
-  m_復習中 = false;
   m_answerClock.clear();
   m_screen.endReview();
   m_services.backToPractice();
@@ -91,7 +89,7 @@ void ReviewDrill::ask() {
 }
 
 void ReviewDrill::askAgain() {
-  m_screen.setAnswer(answerStart(m_record, m_reviewPOS1));
+  m_judge.askAgain(m_record, m_reviewPOS1);
 }
 
 QString ReviewDrill::answer() const {
@@ -119,28 +117,19 @@ void ReviewDrill::enter(const QString& typed) {
     return;
   }
   keyPressed();
-  const QString entry = CleanTypedAnswer(typed);
-  if (addsNothing(m_record, m_reviewPOS1, entry)) {
-    askAgain();
-    return;
-  }
+  const std::optional<Comparison> comparison =
+      m_judge.judge(m_record, m_reviewPOS1, typed, m_run.comparison);
+  if (!comparison) return;
   m_answerClock.stop();
-  const Comparison comparison = COMP(m_record, m_reviewPOS1, entry, m_run.comparison);
-  switch (comparison.ANScomp) {
-    case Verdict::Right:
-      return right(comparison.ANScomp);
-    case Verdict::Variant:
-      if (comparison.accepted) return right(comparison.ANScomp);
-      m_screen.showFullAnswer(toleratedText(comparison, answer()));
-      if (!m_record.sentence) m_screen.lookUp(comparison.typedAnswer);
-      return askAgain();
-    case Verdict::MarkMissing:
-    case Verdict::WrongMark:
-      m_screen.showFullAnswer(slipText(comparison, answer()));
-      return m_screen.setAnswer(comparison.typedAnswer);
-    case Verdict::Wrong:
-      return wrong(comparison);
-  }
+  const Verdict verdict = comparison->ANScomp;
+  if (verdict == Verdict::Right || comparison->accepted) return right(verdict);
+  m_judge.refuse(m_record, m_reviewPOS1, *comparison);
+  if (isSlip(verdict)) return;
+  m_judge.lookUp(m_record, *comparison);
+  if (verdict == Verdict::Wrong)
+    wrong();
+  else
+    askAgain();
 }
 
 void ReviewDrill::right(Verdict verdict) {
@@ -158,10 +147,8 @@ void ReviewDrill::right(Verdict verdict) {
   leaveSubQuestion();
 }
 
-void ReviewDrill::wrong(const Comparison& comparison) {
+void ReviewDrill::wrong() {
   ++m_reviewTries;
-  m_screen.showFullAnswer(wrongText(comparison));
-  if (!m_record.sentence) m_screen.lookUp(comparison.typedAnswer);
   if (m_reviewTries < triesUntilReveal) {
     askAgain();
     return;

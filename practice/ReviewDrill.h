@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "practice/AnswerClock.h"
+#include "practice/EntryJudge.h"
 #include "practice/RunState.h"
 
 namespace tavoli {
@@ -32,8 +33,6 @@ class ReviewDrill {
 
   /// Asks the items, indices in the run's set, one after the other.
   void startReview(std::vector<int> reviewList);
-  /// From the start of a batch until its end, or the end of the run.
-  bool 復習中() const { return m_復習中; }
   /// The run ends: nothing is asked any more.
   void stop();
 
@@ -71,7 +70,7 @@ class ReviewDrill {
   /// Shows that the 小問 `POS1` is asked.
   void showSubQuestion(int POS1);
   void right(Verdict verdict);
-  void wrong(const Comparison& comparison);
+  void wrong();
   /// Done with this 小問: asks the next one, or shows the whole item until Enter.
   void leaveSubQuestion();
   void speakAnswer();
@@ -81,6 +80,7 @@ class ReviewDrill {
   const RunState& m_run;
   ReviewServices m_services;
   ReviewScreen& m_screen;
+  EntryJudge m_judge;
   AnswerClock m_answerClock;
   std::vector<int> m_reviewList;
   size_t m_reviewFrom = 0;  ///< what of the list comes next, from 0
@@ -94,7 +94,6 @@ class ReviewDrill {
   bool m_answerAsked = false;       ///< F1 was used: the answer must be typed again
   bool m_nextDue = false;           ///< the full answer is on show, Enter is awaited
   bool m_reviewStopSpeech = false;  ///< the first key stops the voice
-  bool m_復習中 = false;
 };
 
 }  // namespace tavoli

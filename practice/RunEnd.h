@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QStringList>
+
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "conditions/AutoPlaySettings.h"
 #include "conditions/PracticeConditions.h"
@@ -13,48 +17,50 @@
 namespace tavoli {
 
 class Clock;
-class Dialogs;
 class Files;
-class WorkingCopy;
 
 /// How a run ended.
 struct RunResult {
   int POS;  ///< where
   const CourseChoice& course;
-  PracticeConditions& conditions;
+  PracticeConditions conditions;
   const AutoPlaySettings& settings;
   RunClock& times;
   /// What was counted before the run and in it, without its time and its effect on the memory.
   ProgressCounters counted;
-  /// Another lesson is to follow: the working texts stay.
-  bool backToConditions = false;
 };
 
-/// Stores what a run has changed when it is over.
+/// A run as it was stored.
+struct StoredRun {
+  PracticeConditions conditions;
+  ProgressCounters progress;
+  QStringList notices;  ///< what the learner is to be told, a box each
+};
+
+/// Stores what a run has changed when it is over. It opens no boxes: nobody may be there.
 class RunEnd {
  public:
-  RunEnd(const LearnerFiles& learner, WorkingCopy& workingCopy, Files& files, const Clock& clock,
-         Dialogs& dialogs);
+  /// Asked when the tables cannot be written, with what there is to tell before: whether to try
+  /// again.
+  using Retry = std::function<bool(const QStringList& notices, const QString& question)>;
 
-  /// Stores the run and has the files carried home; gives the learner's
-  /// progress as stored. When the tables cannot be written the learner may try again; nothing when
+  RunEnd(const LearnerFiles& learner, Files& files, const Clock& clock);
+
+  /// Writes all shown items, the conditions, the course, the progress and the settings in one
+  /// transaction, closes the tables, and adds to the history and the past conditions. Nothing when
   /// nothing was stored in the end.
-  [[nodiscard]] std::optional<ProgressCounters> closeRun(std::unique_ptr<LearningTables> tables,
-                                                         PracticeSet& set, const RunResult& run);
+  [[nodiscard]] std::optional<StoredRun> saveRunEnd(std::unique_ptr<LearningTables> tables,
+                                                    const PracticeSet& set, const RunResult& run,
+                                                    const Retry& retry);
 
  private:
-  /// Writes all shown items, the conditions, the course, the progress and the settings in one
-  /// transaction, closes the tables, and adds to the history and the past conditions.
-  [[nodiscard]] std::optional<ProgressCounters> saveRunEnd(std::unique_ptr<LearningTables> tables,
-                                                           PracticeSet& set, const RunResult& run);
-  /// Adds the run's line to the two texts.
-  void appendTexts(const RunResult& run, const QString& progressRecord);
+  /// Adds the run's line to the two texts, and tells where that failed.
+  [[nodiscard]] QStringList appendTexts(const RunResult& run, const PracticeConditions& conditions,
+                                        const QString& progressRecord);
 
   const LearnerFiles& m_learner;
-  WorkingCopy& m_workingCopy;
   Files& m_files;
   const Clock& m_clock;
-  Dialogs& m_dialogs;
 };
 
 }  // namespace tavoli

@@ -7,8 +7,8 @@ namespace tavoli {
 
 void RunReport::finish(const RunState& state) {
   ++m_今回の練習回数;
-  const PracticeItem& item = state.set.item(state.POS);
-  const CurrentRecord& record = state.record;
+  const PracticeItem& item = state.shown.item();
+  const CurrentRecord& record = state.shown.record();
   m_progress.countQuestion(state.course.COURSE, item.itemTable, item.itemEnglish);
 
   QStringList lines = {

@@ -35,24 +35,25 @@ ProgressCounters firstCounters(const Database& database) {
 
 }  // namespace
 
-void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Clock& clock,
-              Dialogs& dialogs) {
+QString bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Clock& clock) {
   RunClock& times = owner.times;
   const QDateTime now = clock.now();
   times.終了時刻 = now;
   const qint64 learnt = times.開始時刻.secsTo(times.終了時刻) - times.休憩時間;
-  if (learnt < 0) {
-    const QString format = QStringLiteral("yyyy/MM/dd HH:mm:ss");
-    dialogs.show(QStringLiteral("DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0\n"
-                                "開始時刻 %1\n休憩時間 %2秒\n現在 %3")
-                     .arg(times.開始時刻.toString(format))
-                     .arg(times.休憩時間)
-                     .arg(now.toString(format)));
-    times.終了時刻 = times.開始時刻;
-    times.休憩時間 = 0;
-  } else {
+  if (learnt >= 0) {
     counters.時間[courseLevel(owner.COURSE)][0] += static_cast<int>(learnt);
+    return {};
   }
+  const QString format = QStringLiteral("yyyy/MM/dd HH:mm:ss");
+  const QString trouble = QStringLiteral(
+                              "DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0\n"
+                              "開始時刻 %1\n休憩時間 %2秒\n現在 %3")
+                              .arg(times.開始時刻.toString(format))
+                              .arg(times.休憩時間)
+                              .arg(now.toString(format));
+  times.終了時刻 = times.開始時刻;
+  times.休憩時間 = 0;
+  return trouble;
 }
 
 bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord) {
@@ -82,7 +83,8 @@ bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& c
     counters.rollOver();
     backupDue = true;
   }
-  bookTime(owner, counters, clock, dialogs);
+  const QString trouble = bookTime(owner, counters, clock);
+  if (!trouble.isEmpty()) dialogs.show(trouble);
   const QString progressRecord = buildProgressRecord(owner.userId, counters, owner.times);
   return database.write([&] { return saveProgressRecord(*rsBDIC, progressRecord); });
 }

@@ -18,9 +18,9 @@ struct ProgressOwner {
 };
 
 /// Ends the run's time now and adds the seconds that were learnt to the course's month. When the
-/// clock was put back the learner is told, and the run adds nothing.
-void bookTime(const ProgressOwner& owner, ProgressCounters& counters, const Clock& clock,
-              Dialogs& dialogs);
+/// clock was put back the run adds nothing, and what the learner is to be told is returned.
+[[nodiscard]] QString bookTime(const ProgressOwner& owner, ProgressCounters& counters,
+                               const Clock& clock);
 
 /// Stores the record in the learner's row, which is made where it is missing. False when it cannot
 /// be stored.

@@ -33,7 +33,9 @@ void replaceWindow(QWidget& hidden, QWidget& shown) {
 }  // namespace
 
 WindowFlow::WindowFlow(Module1& module, const QString& version)
-    : m_module(module), m_workingCopy(module.learner, m_files, m_clock, m_dialogs) {
+    : m_module(module),
+      m_workingCopy(module.learner, m_files, m_clock, m_dialogs),
+      m_end(module, m_workingCopy, m_dialogs) {
   QApplication::setFont(programFont());
   QApplication::setWindowIcon(programIcon());
   m_tavo1 = std::make_unique<TAVO1>(m_module, m_files, m_dialogs, version);
@@ -95,16 +97,16 @@ void WindowFlow::startPractice(const QString& startKey) {
   m_tavo3.reset();
   m_run = std::make_unique<PracticeRun>(
       m_module.learner, m_module.course, m_module.conditions, m_module.clock, m_module.progress,
-      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper, m_workingCopy});
+      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
   if (!m_run->openTables()) {
     m_run.reset();
     return;
   }
-  m_tavo3 = std::make_unique<TAVO3>(m_module.conditions);
+  m_tavo3 = std::make_unique<TAVO3>();
   m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
   for (Dictionary& dictionary : m_run->dictionaries())
     m_tavo3->addLookUp(dictionary.heading, dictionary.lookUp);
-  m_tavo4 = std::make_unique<TAVO4>(m_module.conditions);
+  m_tavo4 = std::make_unique<TAVO4>();
   for (Dictionary& dictionary : m_run->reviewDictionaries())
     m_tavo4->addLookUp(dictionary.heading, dictionary.lookUp);
   TAVO7 progress(m_tavo2.get());
@@ -128,18 +130,18 @@ void WindowFlow::startPractice(const QString& startKey) {
 void WindowFlow::endPractice() {
   m_tavo4->hide();
   QApplication::setOverrideCursor(Qt::WaitCursor);
-  const bool stored = m_run->close();
+  const RunOver over = m_end.endRun(*m_run);
   QApplication::restoreOverrideCursor();
-  if (m_run->loop().backToConditions())
+  if (over.toConditions)
     showConditions();
-  else if (stored)
+  else if (over.stored)
     QApplication::quit();
   else
     leave();
 }
 
 void WindowFlow::leave() {
-  m_workingCopy.leave();
+  m_end.leave();
   QApplication::quit();
 }
 

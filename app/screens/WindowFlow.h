@@ -6,6 +6,7 @@
 
 #include "app/Login.h"
 #include "app/Module1.h"
+#include "app/ProgramEnd.h"
 #include "app/screens/TAVO1.h"
 #include "conditions/screens/TAVO2.h"
 #include "home/WorkingCopy.h"
@@ -46,6 +47,7 @@ class WindowFlow {
   MessageBoxes m_dialogs;
   PagedPaper m_paper;
   WorkingCopy m_workingCopy;
+  ProgramEnd m_end;
   std::unique_ptr<TAVO1> m_tavo1;
   std::unique_ptr<Login> m_login;
   std::unique_ptr<TAVOstate> m_state;

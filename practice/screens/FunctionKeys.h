@@ -8,32 +8,17 @@
 #include <map>
 #include <vector>
 
-#include "practice/PracticeScreen.h"
+#include "practice/DrillKeys.h"
 
 namespace tavoli {
-
-/// A button that is a function key too.
-struct KeyButton {
-  FunctionKey key;
-  int index;  ///< of Command1
-  QString caption;
-  QString tip;
-};
-
-/// The keys of a screen in the order of their row; those of `right` stand apart.
-struct KeyButtons {
-  std::vector<KeyButton> left, right;
-};
-const KeyButtons& practiceKeys();
-const KeyButtons& reviewKeys();
 
 /// The row of function keys of a screen.
 class FunctionKeys final : public QWidget {
   Q_OBJECT
  public:
-  /// `pressed` is called with the key and whether its button was used.
-  using Pressed = std::function<void(FunctionKey key, bool byButton)>;
-  FunctionKeys(const KeyButtons& keys, Pressed pressed, QWidget* parent = nullptr);
+  /// `used` is called with the key that was pressed.
+  using Used = std::function<void(const DrillKey& key, Pressed pressed)>;
+  FunctionKeys(const DrillKeys& keys, Used used, QWidget* parent = nullptr);
 
   void enableKey(FunctionKey key, bool enabled);
   /// Presses what belongs to a key of the keyboard; a key that is held presses once. False when it
@@ -42,10 +27,11 @@ class FunctionKeys final : public QWidget {
 
  private:
   /// A row of buttons on a widget of its own.
-  QBoxLayout* makeRow(const std::vector<KeyButton>& keys);
-  QPushButton* makeButton(const KeyButton& key);
+  QBoxLayout* makeRow(const std::vector<DrillKey>& keys);
+  QPushButton* makeButton(const DrillKey& key);
 
-  Pressed m_pressed;
+  const DrillKeys& m_keys;
+  Used m_used;
   std::map<FunctionKey, QPushButton*> m_buttons;
 };
 

@@ -2,8 +2,6 @@
 
 #include <QActionGroup>
 
-#include "judge/Comparison.h"
-
 namespace tavoli {
 
 namespace {
@@ -25,42 +23,37 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption) {
 
 PracticeMenus::PracticeMenus(QMenuBar& bar) : QObject(&bar) {
   QMenu* questions = addMenu(bar, QStringLiteral("menuQuestions"), QStringLiteral("出題"));
-  connect(add(questions, QStringLiteral("menu1"), QStringLiteral("繰返し回数の設定")),
+  connect(tavoli::add(questions, QStringLiteral("menu1"), QStringLiteral("繰返し回数の設定")),
           &QAction::triggered, this, &PracticeMenus::repeatsWanted);
-  connect(add(questions, QStringLiteral("menu2"), QStringLiteral("順不同出題")),
-          &QAction::triggered, this, &PracticeMenus::reshuffleWanted);
+  add(questions, reshuffleCommand());
 
   QMenu* view = addMenu(bar, QStringLiteral("menuView"), QStringLiteral("表示"));
-  m_log = add(view, QStringLiteral("menu3"), QStringLiteral("練習経過表示"));
+  m_log = add(view, logCommand());
   m_log->setCheckable(true);
-  connect(m_log, &QAction::triggered, this, &PracticeMenus::logToggled);
-  QAction* counts = add(view, QStringLiteral("menu_DispKaisuu"), QStringLiteral("練習回数の表示"));
+  QAction* counts =
+      tavoli::add(view, QStringLiteral("menu_DispKaisuu"), QStringLiteral("練習回数の表示"));
   counts->setCheckable(true);
   connect(counts, &QAction::triggered, this, &PracticeMenus::countsToggled);
 
-  QStringList captions;
-  for (const ComparisonChoice& choice : comparisonChoices()) captions.append(choice.caption);
   m_comparisons = addChoices(addMenu(bar, QStringLiteral("menu4"), QStringLiteral("比較方法")),
-                             QStringLiteral("menu4"), captions, &PracticeMenus::comparisonChosen);
-  m_sounds = addChoices(
-      addMenu(bar, QStringLiteral("menuTimeUp"), QStringLiteral("時間切れの音")),
-      QStringLiteral("menuTimeUp"),
-      {QStringLiteral("音なし"), QStringLiteral("ポン"), QStringLiteral("\"Time is up.\" 発音")},
-      &PracticeMenus::timeUpSoundChosen);
+                             comparisonCommands());
+  m_sounds = addChoices(addMenu(bar, QStringLiteral("menuTimeUp"), QStringLiteral("時間切れの音")),
+                        timeUpCommands());
 }
 
-QList<QAction*> PracticeMenus::addChoices(QMenu* menu, const QString& name,
-                                          const QStringList& captions, Chosen chosen) {
+QAction* PracticeMenus::add(QMenu* menu, const MenuCommand& command) {
+  QAction* action = tavoli::add(menu, command.name, command.caption);
+  connect(action, &QAction::triggered, this, [this, &command] { Q_EMIT chosen(command); });
+  return action;
+}
+
+QList<QAction*> PracticeMenus::addChoices(QMenu* menu, const std::vector<MenuCommand>& commands) {
   QList<QAction*> actions;
   auto* group = new QActionGroup(this);
-  for (const QString& caption : captions) {
-    const auto choice = static_cast<int>(actions.size());
-    QAction* action = add(menu, name + QString::number(choice + 1), caption);
+  for (const MenuCommand& command : commands) {
+    QAction* action = add(menu, command);
     action->setCheckable(true);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, choice, chosen] {
-      Q_EMIT(this->*chosen)(choice);
-    });
     actions.append(action);
   }
   return actions;

@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QMenuBar>
 
+#include "practice/DrillKeys.h"
+
 namespace tavoli {
 
 /// The menus of the practice screen.
@@ -17,17 +19,13 @@ class PracticeMenus final : public QObject {
 
  Q_SIGNALS:
   void repeatsWanted();
-  void reshuffleWanted();
-  void logToggled();
   void countsToggled(bool shown);
-  void comparisonChosen(int choice);
-  void timeUpSoundChosen(int choice);
+  void chosen(const MenuCommand& command);
 
  private:
-  using Chosen = void (PracticeMenus::*)(int);
-  /// A menu of captions of which one is checked; `name` and a number from 1 name the entries.
-  QList<QAction*> addChoices(QMenu* menu, const QString& name, const QStringList& captions,
-                             Chosen chosen);
+  QAction* add(QMenu* menu, const MenuCommand& command);
+  /// A menu of which one entry is checked.
+  QList<QAction*> addChoices(QMenu* menu, const std::vector<MenuCommand>& commands);
 
   QAction* m_log;
   QList<QAction*> m_comparisons;

@@ -20,12 +20,12 @@
 
 namespace tavoli {
 
-TAVO3::TAVO3(PracticeConditions& conditions, QWidget* parent)
-    : AnswerWindow(parent), m_conditions(conditions) {
+TAVO3::TAVO3(QWidget* parent) : AnswerWindow(parent) {
   buildAreas();
   connectAnswer();
   m_keys = new FunctionKeys(
-      practiceKeys(), [this](FunctionKey key, bool byButton) { pressKey(key, byButton); }, this);
+      practiceKeys(), [this](const DrillKey& key, Pressed pressed) { pressKey(key, pressed); },
+      this);
   m_status = new StatusPanels(
       [this] {
         if (loop()) loop()->nextComparison();
@@ -70,19 +70,10 @@ void TAVO3::connectAnswer() {
 void TAVO3::buildMenus() {
   m_menus = new PracticeMenus(*menuBar());
   connect(m_menus, &PracticeMenus::repeatsWanted, this, &TAVO3::setRepeats);
-  connect(m_menus, &PracticeMenus::reshuffleWanted, this, [this] {
-    if (loop()) loop()->reshuffle();
-  });
-  connect(m_menus, &PracticeMenus::logToggled, this, [this] {
-    if (loop()) loop()->toggleLog();
+  connect(m_menus, &PracticeMenus::chosen, this, [this](const MenuCommand& command) {
+    if (loop()) command.press(*loop());
   });
   connect(m_menus, &PracticeMenus::countsToggled, m_counts, &QWidget::setVisible);
-  connect(m_menus, &PracticeMenus::comparisonChosen, this, [this](int choice) {
-    if (loop()) loop()->chooseComparison(choice);
-  });
-  connect(m_menus, &PracticeMenus::timeUpSoundChosen, this, [this](int choice) {
-    if (loop()) loop()->chooseTimeUpSound(choice);
-  });
 }
 
 void TAVO3::arrange() {
@@ -189,28 +180,9 @@ void TAVO3::resizeEvent(QResizeEvent* event) {
   m_counts->setLow(m_areas.low());
 }
 
-void TAVO3::pressKey(FunctionKey key, bool byButton) {
-  PracticeLoop* drill = loop();
-  if (!drill) return;
-  switch (key) {
-    case FunctionKey::F1:
-      return drill->showAnswer();
-    case FunctionKey::F2:
-      return drill->nextSubQuestion();
-    case FunctionKey::F3:
-      return drill->nextItem();
-    case FunctionKey::F4:
-      return drill->previousItem();
-    case FunctionKey::F6:
-      return drill->requestExit();
-    case FunctionKey::F7:
-      return drill->requestLessonChange();
-    case FunctionKey::F9:
-      return drill->requestPrint();
-    case FunctionKey::F11:
-      if (!justReviewed()) drill->markKnown(byButton);
-      return;
-  }
+void TAVO3::pressKey(const DrillKey& key, Pressed pressed) {
+  if (key.key == FunctionKey::F11 && justReviewed()) return;
+  if (loop()) key.press(*loop(), pressed);
 }
 
 void TAVO3::keyPressEvent(QKeyEvent* event) {
@@ -241,7 +213,10 @@ void TAVO3::answerClicked() {
 }
 
 void TAVO3::setRepeats() {
-  TAVO5(m_conditions, this).exec();
+  if (!loop()) return;
+  PracticeConditions chosen = loop()->conditions();
+  TAVO5(chosen, this).exec();
+  if (loop()) loop()->chooseRepeats(chosen);
 }
 
 }  // namespace tavoli

@@ -18,14 +18,13 @@ class MarkedView;
 class PracticeLoop;
 class PracticeMenus;
 class StatusPanels;
-struct PracticeConditions;
+struct DrillKey;
 
 /// The practice screen.
 class TAVO3 final : public AnswerWindow<PracticeScreen> {
   Q_OBJECT
  public:
-  /// The learner changes the numbers of repeats in `conditions` here.
-  explicit TAVO3(PracticeConditions& conditions, QWidget* parent = nullptr);
+  explicit TAVO3(QWidget* parent = nullptr);
 
   /// Keys go to `loop` from now on, and its clock ticks. `closed` is called once, when the end of
   /// the run was confirmed.
@@ -59,12 +58,11 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
   void arrange();
   /// The loop, or nothing when none is connected, its run is over, or a review has the keys.
   PracticeLoop* loop() const;
-  void pressKey(FunctionKey key, bool byButton);
+  void pressKey(const DrillKey& key, Pressed pressed);
   bool justReviewed() const;
   void answerClicked();
   void setRepeats();
 
-  PracticeConditions& m_conditions;
   PracticeLoop* m_loop = nullptr;
   const Clock* m_clock = nullptr;
   QDateTime m_reviewEnd;

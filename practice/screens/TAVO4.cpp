@@ -14,12 +14,15 @@
 
 namespace tavoli {
 
-TAVO4::TAVO4(PracticeConditions& conditions, QWidget* parent)
-    : AnswerWindow(parent), m_conditions(conditions) {
+TAVO4::TAVO4(QWidget* parent) : AnswerWindow(parent) {
   setWindowTitle(tavoli::windowTitle(QStringLiteral("復習")));
   connectAnswer();
   m_keys = new FunctionKeys(
-      reviewKeys(), [this](FunctionKey key, bool) { pressKey(key); }, this);
+      reviewKeys(),
+      [this](const DrillKey& key, Pressed pressed) {
+        if (review()) key.press(*m_loop, pressed);
+      },
+      this);
   buildMenu();
   auto* questionRow = new QHBoxLayout;
   questionRow->addWidget(m_areas.question, 1);
@@ -57,7 +60,7 @@ void TAVO4::buildMenu() {
   settings->setAccessibleName(settings->title());
   QAction* repeats = settings->addAction(QStringLiteral("正解要求時の繰り返し入力回数"));
   repeats->setObjectName(QStringLiteral("menu1"));
-  connect(repeats, &QAction::triggered, this, [this] { TAVO6(m_conditions, this).exec(); });
+  connect(repeats, &QAction::triggered, this, &TAVO4::setRepeats);
 }
 
 void TAVO4::connectTo(PracticeLoop& loop, std::function<void()> begun, std::function<void()> over) {
@@ -96,19 +99,11 @@ void TAVO4::keyPressEvent(QKeyEvent* event) {
   if (!m_keys->press(*event)) QMainWindow::keyPressEvent(event);
 }
 
-void TAVO4::pressKey(FunctionKey key) {
-  ReviewDrill* drill = review();
-  if (!drill) return;
-  switch (key) {
-    case FunctionKey::F1:
-      return drill->showAnswer();
-    case FunctionKey::F6:
-      return drill->requestExit();
-    case FunctionKey::F11:
-      return drill->nextReviewItem();
-    default:
-      break;
-  }
+void TAVO4::setRepeats() {
+  if (!m_loop) return;
+  PracticeConditions chosen = m_loop->conditions();
+  TAVO6(chosen, this).exec();
+  m_loop->chooseRepeats(chosen);
 }
 
 }  // namespace tavoli

@@ -12,14 +12,12 @@ namespace tavoli {
 
 class PracticeLoop;
 class ReviewDrill;
-struct PracticeConditions;
 
 /// The review screen.
 class TAVO4 final : public AnswerWindow<ReviewScreen> {
   Q_OBJECT
  public:
-  /// The learner changes the numbers of retypings in `conditions` here.
-  explicit TAVO4(PracticeConditions& conditions, QWidget* parent = nullptr);
+  explicit TAVO4(QWidget* parent = nullptr);
 
   /// Keys go to the review of `loop` from now on. `begun` is called when the window is to take the
   /// place of the practice, `over` when the practice is to come back.
@@ -36,11 +34,10 @@ class TAVO4 final : public AnswerWindow<ReviewScreen> {
  private:
   void connectAnswer();
   void buildMenu();
+  void setRepeats();
   /// The review, or nothing while none goes on.
   ReviewDrill* review() const;
-  void pressKey(FunctionKey key);
 
-  PracticeConditions& m_conditions;
   PracticeLoop* m_loop = nullptr;
   std::function<void()> m_begun;
   std::function<void()> m_over;

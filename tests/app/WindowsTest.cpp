@@ -59,8 +59,8 @@ TEST(Windows, FitSmallScreensBearTheProgramsNameAndNameTheirControls) {
   ASSERT_TRUE(tavo2.enter());
   auto rows = (store.open(), store.database().OpenRecordset(tableJTDIC));
   LookUp dictionary(*rows);
-  TAVO3 tavo3(module.conditions);
-  TAVO4 tavo4(module.conditions);
+  TAVO3 tavo3;
+  TAVO4 tavo4;
   for (const char16_t* heading : {u"BusinessTOEIC", u"高校DB", u"中学DB"})
     tavo3.addLookUp(QString::fromUtf16(heading), dictionary);
   tavo4.addLookUp(QStringLiteral("中学DB"), dictionary);

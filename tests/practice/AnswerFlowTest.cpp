@@ -112,7 +112,10 @@ TEST(AnswerFlowTest, ADamagedRecordIsToldToKeepItsMemory) {
   }
   // A row that could not be read whole packs back all the same.
   Drill unreadable({wordWith(u'0')});
-  unreadable.set.item(1).damaged = true;
+  PracticeItem damaged = unreadable.set.item(1);
+  damaged.damaged = true;
+  unreadable.set = PracticeSet();
+  unreadable.set.append(damaged);
   unreadable.start();
   unreadable.press("r");
   EXPECT_EQ(unreadable.screen.message, right + kept);
@@ -129,7 +132,7 @@ TEST(AnswerFlowTest, AMiniTestLeavesTheRepeatsToTheNextLearntBlank) {
     drill.start();
     drill.press(keys);
     EXPECT_EQ(drill.loop->POS1(), 3) << keys;
-    EXPECT_EQ(drill.loop->state().repeatsLeft, left) << keys;
+    EXPECT_EQ(drill.loop->attempt().repeatsLeft, left) << keys;
   }
 }
 
@@ -201,13 +204,13 @@ TEST(AnswerFlowTest, AnnouncesAMiniTestAndWithholdsTheAnswer) {
   EXPECT_EQ(drill.screen.miniTest, QString()) << "the notice goes with the entry";
   drill.enter(u"wrong"_s);
   EXPECT_FALSE(drill.screen.disabled.contains(FunctionKey::F1)) << "back in the learning flow";
-  drill.loop->markKnown(true);
-  drill.loop->markKnown(true);
+  drill.loop->markKnown(Pressed::Button);
+  drill.loop->markKnown(Pressed::Button);
   drill.enter(QString());
   EXPECT_EQ(drill.screen.miniTest,
             u"小問Ｎｏ.1\n記憶状態（現在『完全』）を変化させます。\n\n"
             u"１、２回目で正解すれば『完全』を維持、\n２回以上間違えば『全然』に変更します。"_s);
-  drill.loop->markKnown(true);
+  drill.loop->markKnown(Pressed::Button);
   EXPECT_EQ(drill.screen.message, u"「 大きい」：記憶状態の変化なし。"_s);
 }
 
@@ -232,7 +235,7 @@ TEST(AnswerFlowTest, ComparesAsChosenAndRemembersIt) {
   drill.loop->nextComparison();
   drill.enter(u"BIG"_s);
   EXPECT_EQ(drill.screen.fullAnswer, u"BIG は正解ではありません。"_s);
-  EXPECT_EQ(drill.conditions.compareMode, CompareMode::caseMatters);
+  EXPECT_EQ(drill.loop->conditions().compareMode, CompareMode::caseMatters);
 }
 
 TEST(AnswerFlowTest, GuardsACodeThatIsNoState) {

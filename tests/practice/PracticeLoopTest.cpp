@@ -198,9 +198,9 @@ TEST(PracticeLoopTest, KeepsTheAnswersTime) {
     drill.press("3");
     drill.loop->chooseTimeUpSound(sound);
     drill.pass(11);
-    EXPECT_FALSE(drill.loop->state().timeOver) << "a word of three letters has 11.5 seconds";
+    EXPECT_FALSE(drill.loop->attempt().timeOver) << "a word of three letters has 11.5 seconds";
     drill.pass(1);
-    EXPECT_TRUE(drill.loop->state().timeOver) << "without a sound too";
+    EXPECT_TRUE(drill.loop->attempt().timeOver) << "without a sound too";
     EXPECT_EQ(drill.speaker.beeps, 1);
     drill.press("4");
   }
@@ -289,7 +289,7 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       const bool asking = !loop.確認中();
       const int POS = loop.POS();
       const int POS1 = loop.POS1();
-      const MemoryState before = loop.state().record.記(POS1);
+      const MemoryState before = loop.state().shown.record().記(POS1);
       drill.press(key);
       ASSERT_EQ(drill.dialogs.shown, QStringList());
       ASSERT_FALSE(loop.exitConfirmed());
@@ -297,7 +297,7 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       ASSERT_TRUE(indexOf(after) - indexOf(before) <= 1) << "a state climbs one step at a time";
       ASSERT_TRUE(after >= before || (after == MemoryState::全然 && loop.POS1() == POS1))
           << "and a fall asks the same again";
-      const CurrentRecord& record = loop.state().record;
+      const CurrentRecord& record = loop.state().shown.record();
       if (loop.確認中()) {
         ASSERT_FALSE(loop.clockRunning());
         ASSERT_TRUE(drill.screen.awaited);
@@ -313,7 +313,7 @@ TEST(PracticeLoopTest, RandomKeysNeverLoseTheWay) {
       }
       // An item is counted when its full answer comes up after it was asked, and only then.
       ASSERT_EQ(drill.finished() - finished, asking && loop.確認中() &&
-                                                     loop.state().wordShownCount > 0 &&
+                                                     loop.state().shown.wordShownCount() > 0 &&
                                                      key != '3' && key != '4'
                                                  ? 1
                                                  : 0)

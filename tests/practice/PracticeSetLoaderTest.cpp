@@ -193,8 +193,9 @@ TEST(PracticeSetTest, ShufflingOnlyPermutesWhatIsBehindTheStart) {
     test::FakeRandom random(seed);
     PracticeSet set;
     for (int i = 1; i <= 50; ++i) {
-      set.append({});
-      set.item(i).itemTimes = i;
+      PracticeItem item;
+      item.itemTimes = i;
+      set.append(item);
     }
     set.startIndex = 10;
     set.ShufflePracticeSet(random);

@@ -21,11 +21,11 @@ QString item(int number, QChar code) {
 
 class ReviewInPracticeTest : public testing::Test {
  protected:
-  void start(int items, int reviewCycle) {
+  void start(int items, int reviewCycle, MemorySelect memorySelect = MemorySelect::全然) {
     QStringList records;
     for (int i = 1; i <= items; ++i) records.append(item(i, codes.value(i, u'0')));
     drill = std::make_unique<Drill>(records);
-    drill->conditions.memorySelect = MemorySelect::全然;
+    drill->conditions.memorySelect = memorySelect;
     drill->conditions.reviewCycle = reviewCycle;
     drill->start();
   }
@@ -36,7 +36,7 @@ class ReviewInPracticeTest : public testing::Test {
   std::vector<int> reviewed() const {
     std::vector<int> items;
     ReviewDrill& review = drill->loop->review();
-    while (review.復習中()) {
+    while (drill->loop->復習中()) {
       items.push_back(review.reviewPOS());
       review.enter(u"big"_s);
       review.enter(QString());
@@ -83,8 +83,7 @@ TEST_F(ReviewInPracticeTest, TakesOnlyItemsThatWereReallyAnswered) {
 }
 
 TEST_F(ReviewInPracticeTest, ForgetsItemsThatWereMixed) {
-  start(12, 2);
-  drill->conditions.memorySelect = MemorySelect::すべて;
+  start(12, 2, MemorySelect::すべて);
   finish(3);
   drill->loop->reshuffle();
   finish(1);
@@ -127,7 +126,7 @@ TEST_F(ReviewInPracticeTest, RandomKeysLeadBackToWhereThePracticeStood) {
       ASSERT_EQ(loop.確認中(), codes[POS] == u'2');
       ASSERT_EQ(drill->screen.awaited, loop.確認中());
       ASSERT_TRUE(loop.確認中() || loop.POS1() == 1);
-      ASSERT_EQ(loop.state().wordShownCount, loop.確認中() ? 0 : 1);
+      ASSERT_EQ(loop.state().shown.wordShownCount(), loop.確認中() ? 0 : 1);
     }
   }
   EXPECT_GT(reviews, 20);

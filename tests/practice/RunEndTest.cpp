@@ -4,7 +4,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include "home/WorkingCopy.h"
 #include "practice/ItemWriteBack.h"
 #include "practice/PracticeSetLoader.h"
 #include "practice/RunEnd.h"
@@ -68,23 +67,28 @@ class RunEndTest : public testing::Test {
 
   /// Ends a run over everything that the table, or the sentences, hold, after `change` did its part
   /// on each item.
-  std::optional<ProgressCounters> run(const QString& selMethod,
-                                      const std::function<void(PracticeItem&)>& change) {
+  std::optional<StoredRun> run(const QString& selMethod,
+                               const std::function<void(PracticeItem&)>& change) {
     store.close();
     auto tables = LearningTables::open(store.path(), course).tables;
     conditions.selMethod = codeOf<SelMethod>(selMethod);
     conditions.memorySelect = MemorySelect::すべて;
     conditions.startMode = StartMode::first;
     conditions.maxLoadSent = conditions.maxLoadWords = 1000;
-    PracticeSet set = PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
-                          .LoadPracticeSet(startKeyFirst);
-    for (int i = 1; i <= set.itemCount(); ++i) change(set.item(i));
-    dialogs.shown.clear();
+    const PracticeSet loaded =
+        PracticeSetLoader(*tables, course, conditions, files, random, dialogs, load)
+            .LoadPracticeSet(startKeyFirst);
+    PracticeSet set;
+    for (int i = 1; i <= loaded.itemCount(); ++i) {
+      PracticeItem item = loaded.item(i);
+      change(item);
+      set.append(item);
+    }
     clock.time = clock.time.addSecs(60);
-    RunEnd end(learner, copy, files, clock, dialogs);
     const auto stored =
-        end.closeRun(std::move(tables), set,
-                     {1, course, conditions, settings, times, figures, backToConditions});
+        RunEnd(learner, files, clock)
+            .saveRunEnd(std::move(tables), set, {1, course, conditions, settings, times, figures},
+                        [](const QStringList&, const QString&) { return false; });
     store.open();
     return stored;
   }
@@ -114,8 +118,6 @@ class RunEndTest : public testing::Test {
   test::FakeProgress load;
   RunClock times;
   ProgressCounters figures;
-  bool backToConditions = false;
-  WorkingCopy copy{learner, files, clock, dialogs};
 };
 
 TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
@@ -163,14 +165,14 @@ TEST_F(RunEndTest, TheMemoryCountsStayWhatASurveyFinds) {
     });
     ASSERT_TRUE(stored);
     const ProgressCounters found = survey();
-    ASSERT_EQ(stored->記憶単熟, found.記憶単熟)
+    ASSERT_EQ(stored->progress.記憶単熟, found.記憶単熟)
         << qPrintable(courseName(course.COURSE) + selMethod);
-    ASSERT_EQ(stored->記憶文, found.記憶文);
-    EXPECT_EQ(stored->回数単熟, figures.回数単熟);
+    ASSERT_EQ(stored->progress.記憶文, found.記憶文);
+    EXPECT_EQ(stored->progress.回数単熟, figures.回数単熟);
     const auto rows = store.database().OpenRecordset(tableBDIC);
     rows->Seek(SeekOp::Equal, rowProgress);
-    EXPECT_TRUE(parseProgressRecord(rows->text(field問正コ)).counters == *stored);
-    figures = *stored;
+    EXPECT_TRUE(parseProgressRecord(rows->text(field問正コ)).counters == stored->progress);
+    figures = stored->progress;
   }
 }
 
@@ -180,15 +182,15 @@ TEST_F(RunEndTest, WritesALineOfHistory) {
   times.休憩時間 = 20;
   const auto stored = run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; });
   ASSERT_TRUE(stored);
-  EXPECT_EQ(stored->時間[専門][0], 40);
-  EXPECT_EQ(stored->記憶文[専門], (Three{1, 0, 0})) << "below 0 it begins anew";
+  EXPECT_EQ(stored->progress.時間[専門][0], 40);
+  EXPECT_EQ(stored->progress.記憶文[専門], (Three{1, 0, 0})) << "below 0 it begins anew";
   const QStringList lines = QString::fromUtf8(*files.read(learner.historyFileWork)).split(u'\n');
   ASSERT_EQ(lines.size(), 2);
   EXPECT_TRUE(lines[0].startsWith(
       QStringLiteral("000     2BusinessTOE2026/04/0109:002026/04/0109:0100020")));
   EXPECT_EQ(lines[0].mid(55, 336),
             store.stored(tableBDIC, rowProgress, field問正コ).value_or(QString()).mid(9));
-  EXPECT_EQ(lines[0].mid(55 + 336), encodeConditions(conditions).mid(9));
+  EXPECT_EQ(lines[0].mid(55 + 336), encodeConditions(stored->conditions).mid(9));
 }
 
 TEST_F(RunEndTest, WritesAWordsCountAndNoRecordThatCouldNotBeRead) {
@@ -219,36 +221,20 @@ TEST_F(RunEndTest, TellsAboutCodesOutOfRange) {
   store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("7")),
                     codeOf<MemoryState>(u'9'));
   store.addWord(course.specialTable, QStringLiteral("a"), packedCodes(false, QStringLiteral("7")));
-  ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
-  EXPECT_EQ(dialogs.shown,
+  const auto sentence = run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; });
+  ASSERT_TRUE(sentence);
+  EXPECT_EQ(sentence->notices,
             (QStringList{QStringLiteral("Stop34 900010"), QStringLiteral("Stop36 900010"),
                          QStringLiteral("Stop37 900010")}));
-  ASSERT_TRUE(run(QStringLiteral("2"), [&](PracticeItem& item) {
+  const auto word = run(QStringLiteral("2"), [&](PracticeItem& item) {
     item.itemDirty = true;
     item.itemEnglish = QStringLiteral("gone");
-  }));
+  });
+  ASSERT_TRUE(word);
   EXPECT_EQ(
-      dialogs.shown,
+      word->notices,
       (QStringList{QStringLiteral("Stop38 gone"), QStringLiteral("Stop39 gone"),
                    QStringLiteral("Stop3A gone"), QStringLiteral("No Match rsTDIC :##gone##")}));
-}
-
-TEST_F(RunEndTest, KeepsTheWorkingTextsForAnotherLesson) {
-  store.addSentence(QStringLiteral("900010"), packedCodes(true, QStringLiteral("2")));
-  learner.placedElsewhere = true;
-  for (QString* placed :
-       {&learner.dbFilePlaced, &learner.condFilePlaced, &learner.historyFilePlaced})
-    *placed = store.folder() + QStringLiteral("/placed%1").arg(placed - &learner.userId);
-  // A history that another program has begun in the code page 932.
-  EXPECT_EQ(files.write(learner.historyFileWork, "\x97\xFB\x8F\x4B\n"), FileResult::Ok);
-  for (const bool another : {true, false}) {
-    backToConditions = another;
-    ASSERT_TRUE(run(QStringLiteral("4"), [](PracticeItem& item) { item.itemDirty = true; }));
-    EXPECT_EQ(dialogs.shown, QStringList());
-    for (const QString& text : {learner.condFileWork, learner.historyFileWork})
-      EXPECT_EQ(files.exists(text), another) << qPrintable(text);
-    EXPECT_TRUE(files.read(learner.historyFilePlaced)->startsWith("練習\n"));
-  }
 }
 
 }  // namespace

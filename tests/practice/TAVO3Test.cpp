@@ -126,7 +126,7 @@ TEST_F(TAVO3Test, TellsWhichBlankIsAskedAndReadersWhatBecameOfIt) {
 }
 
 TEST_F(TAVO3Test, LeavesTheKeysToAReview) {
-  loop->review().startReview({2});
+  loop->startReview({2});
   type(QStringLiteral("is"));
   press(Qt::Key_F3);
   EXPECT_EQ(loop->POS(), 1) << "what was typed on in haste judges nothing unseen";
@@ -197,7 +197,7 @@ TEST_F(TAVO3Test, ShowsTheNewestLinesOfTheLogAndAnyOtherByItsScrollBar) {
 
 TEST_F(TAVO3Test, MenusReachTheRunAndItsConditions) {
   find<QAction>(u"menu42")->trigger();
-  EXPECT_EQ(conditions.compareMode, CompareMode::caseMatters);
+  EXPECT_EQ(loop->conditions().compareMode, CompareMode::caseMatters);
   QTest::mouseClick(find<QLabel>(u"StatusBar1.Panel3"), Qt::LeftButton);
   EXPECT_TRUE(find<QAction>(u"menu43")->isChecked());
   find<QAction>(u"menuTimeUp2")->trigger();

@@ -30,7 +30,7 @@ class TAVO4Test : public test::AnswerWindow<TAVO4> {
           window.hide();
         });
     loop.start(2);
-    loop.review().startReview({1, 2});
+    loop.startReview({1, 2});
     QApplication::setActiveWindow(&window);
   }
 
@@ -92,7 +92,7 @@ TEST_F(TAVO4Test, SetsTheRetypingsInADialog) {
     QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Command3")), Qt::LeftButton);
   });
   find<QAction>(u"menu1")->trigger();
-  EXPECT_EQ(conditions.requiredRepeatWord, 5);
+  EXPECT_EQ(loop.conditions().requiredRepeatWord, 5);
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ class AnswerWindow : public testing::Test {
   TestStore store;
   std::unique_ptr<TableCursor> cursor = store.database().OpenRecordset(tableJTDIC);
   LookUp dictionary{*cursor};
-  Window window{conditions};
+  Window window;
   QLineEdit* answer = find<QLineEdit>(u"Text2");
   MarkedView* question = find<MarkedView>(u"RichTextBox4");
   MarkedView* fullAnswer = find<MarkedView>(u"RichTextBox2");

@@ -61,7 +61,7 @@ class Drill {
     start();
     std::vector<int> all(set.rowCount());
     std::iota(all.begin(), all.end(), 1);
-    loop->review().startReview(all);
+    loop->startReview(all);
   }
 
   void enter(const QString& typed) const { loop->enter(typed); }
@@ -83,14 +83,14 @@ class Drill {
     if (key == '2') return loop->nextSubQuestion();
     if (key == '3') return loop->nextItem();
     if (key == '4') return loop->previousItem();
-    if (key == 'K') return loop->markKnown(false);
+    if (key == 'K') return loop->markKnown(Pressed::Key);
     if (key == 'c') return loop->answerBoxClicked(screen.answer);
     if (key == 'T') return pass(59);
     if (key == 'x') {
       dialogs.answers = {false};
       return loop->requestExit();
     }
-    const CurrentRecord& record = loop->state().record;
+    const CurrentRecord& record = loop->state().shown.record();
     enter(typedBy(key, answerOf(record, loop->POS1()), record.sentence));
   }
   CurrentRecord stored(int i = 1) const { return set.parsed(i); }
