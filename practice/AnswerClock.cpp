@@ -1,7 +1,5 @@
 #include "practice/AnswerClock.h"
 
-#include <algorithm>
-
 #include "practice/AnswerScreen.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
@@ -12,7 +10,7 @@ AnswerClock::AnswerClock(const Clock& clock, AnswerScreen& screen, Speaker& spea
     : m_clock(clock), m_screen(screen), m_speaker(speaker) {}
 
 void AnswerClock::startAnswerTimer(double targetSeconds) {
-  m_answerClock = m_clock.now();
+  m_answerClock = m_clock.milliseconds();
   m_timeUpArmed = false;
   resume(targetSeconds);
   showTime();
@@ -20,7 +18,7 @@ void AnswerClock::startAnswerTimer(double targetSeconds) {
 
 void AnswerClock::resume(double targetSeconds) {
   m_targetSeconds = targetSeconds;
-  m_running = m_answerClock.isValid();
+  m_running = m_answerClock.has_value();
 }
 
 void AnswerClock::clear() {
@@ -29,10 +27,11 @@ void AnswerClock::clear() {
 }
 
 void AnswerClock::showTime() {
-  const auto elapsed = static_cast<int>(m_answerClock.secsTo(m_clock.now()));
+  constexpr int perSecond = 1000;
+  const auto elapsed = static_cast<int>((m_clock.milliseconds() - *m_answerClock) / perSecond);
   m_timeOver = elapsed >= m_targetSeconds;
-  m_timeUpArmed = m_timeUpArmed || (!m_timeOver && elapsed >= 0);
-  m_screen.showTime({true, elapsed, m_timeOver ? 1.0 : std::max(0.0, elapsed / m_targetSeconds)});
+  m_timeUpArmed = m_timeUpArmed || !m_timeOver;
+  m_screen.showTime({true, elapsed, m_timeOver ? 1.0 : elapsed / m_targetSeconds});
 }
 
 void AnswerClock::tick(int timeUpSound) {

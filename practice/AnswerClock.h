@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QDateTime>
+#include <QtGlobal>
+
+#include <optional>
 
 namespace tavoli {
 
@@ -35,7 +37,7 @@ class AnswerClock {
   const Clock& m_clock;
   AnswerScreen& m_screen;
   Speaker& m_speaker;
-  QDateTime m_answerClock;
+  std::optional<qint64> m_answerClock;  ///< when the answer began, in milliseconds
   double m_targetSeconds = 0;
   bool m_running = false;
   bool m_timeOver = false;

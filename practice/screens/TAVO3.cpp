@@ -96,14 +96,12 @@ void TAVO3::connectTo(PracticeLoop& loop, const Clock& clock, std::function<void
 }
 
 void TAVO3::resumeFromReview() {
-  m_reviewEnd = m_clock->now();
+  m_reviewEnd = m_clock->milliseconds();
 }
 
 bool TAVO3::justReviewed() const {
   constexpr qint64 deafMilliseconds = 700;
-  if (!m_reviewEnd.isValid()) return false;
-  const qint64 since = m_reviewEnd.msecsTo(m_clock->now());
-  return since >= 0 && since < deafMilliseconds;
+  return m_reviewEnd && m_clock->milliseconds() - *m_reviewEnd < deafMilliseconds;
 }
 
 PracticeLoop* TAVO3::loop() const {

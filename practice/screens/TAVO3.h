@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDateTime>
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 #include "practice/PracticeScreen.h"
 #include "practice/screens/AnswerWindow.h"
@@ -65,7 +65,7 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
 
   PracticeLoop* m_loop = nullptr;
   const Clock* m_clock = nullptr;
-  QDateTime m_reviewEnd;
+  std::optional<qint64> m_reviewEnd;  ///< of the last review, in milliseconds
   std::function<void()> m_closed;
   QTimer m_seconds;
 

@@ -18,6 +18,7 @@ namespace tavoli::test {
 class FakeClock final : public Clock {
  public:
   QDateTime now() const override { return time; }
+  qint64 milliseconds() const override { return time.toMSecsSinceEpoch(); }
   QDateTime time{QDate(2026, 4, 1), QTime(9, 0)};
 };
 
