@@ -19,7 +19,7 @@ namespace tavoli {
 namespace {
 
 constexpr char ownCategories[] = "tavoli.";
-constexpr off_t mostBytes = 256 * 1024;
+constexpr off_t mostBytes = 1 << 18;  // 256 KiB
 
 // A message handler is a bare function: what it needs cannot be handed to it.
 QtMessageHandler s_otherMessages = nullptr;

@@ -40,7 +40,7 @@ TEST(LogFileTest, KeepsALineForEachOwnMessageAndAnOlderFile) {
   EXPECT_EQ(modeOf(QFileInfo(path).path()), 0700U);
 
   const QString older = path + QStringLiteral(".1");
-  for (const char text : {'a', 'b', 'c'}) qCWarning(ownLog) << QByteArray(150 * 1024, text);
+  for (const char text : {'a', 'b', 'c'}) qCWarning(ownLog) << QByteArray(150'000, text);
   EXPECT_TRUE(files.read(older).value_or(QByteArray()).contains("bb"));
   EXPECT_EQ(files.read(path).value_or(QByteArray()).count('\n'), 1) << "the last message alone";
   EXPECT_EQ(modeOf(older), 0600U);
