@@ -19,21 +19,21 @@ const QString standardUser = QStringLiteral("000");
 }  // namespace
 
 Login::Login(Module1& module, WorkingCopy& workingCopy, Files& files, const Clock& clock,
-             Dialogs& dialogs, LoginScreen& screen)
+             Dialogs& dialogs)
     : m_module(module),
       m_workingCopy(workingCopy),
       m_files(files),
       m_clock(clock),
-      m_dialogs(dialogs),
-      m_screen(screen) {}
+      m_dialogs(dialogs) {}
 
-bool Login::next(const QString& typedId, const QString& typedPassword) {
+bool Login::next(LoginScreen& screen, const QString& typedId, const QString& typedPassword) {
+  m_screen = &screen;
   const QString id = trimBlanks(typedId);
   if (id.size() > maxIdLength)
     return fail(
         QStringLiteral("ユーザーＩＤ \"%1\" は長すぎます。8文字以下にして下さい。").arg(typedId));
   if (typedId.isEmpty()) {
-    m_screen.setUserId(standardUser);
+    m_screen->setUserId(standardUser);
     return false;
   }
   m_module.learner = learnerFiles(id, m_module.dbPath, m_module.dbPathDefault);
@@ -52,9 +52,9 @@ bool Login::isUnregistered(const QString& id) const {
 }
 
 bool Login::logIn(const QString& typedPassword) {
-  m_screen.setBusy(true);
+  m_screen->setBusy(true);
   const bool fetched = m_workingCopy.fetch();
-  m_screen.setBusy(false);
+  m_screen->setBusy(false);
   if (!fetched) return false;
   const QString& work = m_module.learner.dbFileWork;
   if (!m_files.exists(work))
@@ -77,13 +77,13 @@ std::optional<Database> Login::openWorkingCopy() {
     opened = {std::nullopt, openError::notADatabase};
   if (opened.database) return std::move(opened.database);
   if (opened.errorNumber == openError::engine) {
-    m_screen.showEngineTrouble();
+    m_screen->showEngineTrouble();
   } else {
     m_dialogs.show(
         QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=%2")
             .arg(work, QString::number(opened.errorNumber)));
   }
-  m_screen.focusUserId();
+  m_screen->focusUserId();
   return std::nullopt;
 }
 
@@ -93,7 +93,7 @@ bool Login::checkPassword(const QString& typedPassword) {
   std::unique_ptr<TableCursor> rsBDIC = database->OpenRecordset(tableBDIC);
   if (!rsBDIC) {
     m_dialogs.show(QStringLiteral("Error '91'"));
-    m_screen.showEngineTrouble();
+    m_screen->showEngineTrouble();
     return false;
   }
   rsBDIC->Seek(SeekOp::Equal, rowPassword);
@@ -108,7 +108,7 @@ bool Login::checkPassword(const QString& typedPassword) {
   rsBDIC.reset();
   if (password && *password != typedPassword) {
     m_dialogs.show(QStringLiteral("パスワードを入れ直してください。"));
-    m_screen.focusPassword();
+    m_screen->focusPassword();
     return false;
   }
   m_module.course = readCourse(*database, m_module.course);
@@ -126,7 +126,7 @@ bool Login::loadFigures(Database& database) {
 
 bool Login::setFirstPassword(std::optional<Database>& database, const QString& typedPassword) {
   if (!m_dialogs.ask(QStringLiteral("パスワードは「%1」です。").arg(typedPassword))) {
-    m_screen.focusPassword();
+    m_screen->focusPassword();
     return false;
   }
   const bool stored = database->write([&] {

@@ -33,12 +33,12 @@ class Login {
  public:
   /// `workingCopy` is that of the learner in `module`.
   Login(Module1& module, WorkingCopy& workingCopy, Files& files, const Clock& clock,
-        Dialogs& dialogs, LoginScreen& screen);
+        Dialogs& dialogs);
 
-  /// One press of "次へ" with the texts of the two fields. True when the learner is in; the course
-  /// of the last run then stands in the shared state. False leaves the screen up for another try,
-  /// and the working copy to other programs.
-  bool next(const QString& typedId, const QString& typedPassword);
+  /// One press of "次へ" on `screen` with the texts of the two fields. True when the learner is in;
+  /// the course of the last run then stands in the shared state. False leaves the screen up for
+  /// another try, and the working copy to other programs.
+  bool next(LoginScreen& screen, const QString& typedId, const QString& typedPassword);
 
  private:
   bool isUnregistered(const QString& id) const;
@@ -58,7 +58,7 @@ class Login {
   Files& m_files;
   const Clock& m_clock;
   Dialogs& m_dialogs;
-  LoginScreen& m_screen;
+  LoginScreen* m_screen = nullptr;  ///< of the present press
 };
 
 }  // namespace tavoli

@@ -113,7 +113,7 @@ TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Pa
 
 int TerminalDrill::run() {
   TerminalLogin screen(m_terminal);
-  Login rules(m_module, m_workingCopy, m_files, m_clock, m_dialogs, screen);
+  Login rules(m_module, m_workingCopy, m_files, m_clock, m_dialogs);
   if (!login(rules, screen)) return EXIT_FAILURE;
   showProgress();
   int status = EXIT_SUCCESS;
@@ -128,8 +128,8 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
     screen.userId = *m_options.user;
     const std::optional<QString> given = password();
     // An empty id becomes the standard user at the first press and goes on at the second.
-    return given && (login.next(screen.userId, *given) ||
-                     (m_options.user->isEmpty() && login.next(screen.userId, *given)));
+    return given && (login.next(screen, screen.userId, *given) ||
+                     (m_options.user->isEmpty() && login.next(screen, screen.userId, *given)));
   }
   for (;;) {
     const QString before = screen.userId;
@@ -139,7 +139,7 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
     screen.userId = id->isEmpty() ? before : *id;
     const std::optional<QString> typed = screen.userId.isEmpty() ? QString() : askPassword();
     if (!typed) return false;
-    if (login.next(screen.userId, *typed)) return true;
+    if (login.next(screen, screen.userId, *typed)) return true;
   }
 }
 
@@ -162,12 +162,11 @@ std::optional<QString> TerminalDrill::chooseConditions(int& status) {
                          [this](const QString& table) {
                            recountSpecialTable(m_module.learner.dbFileWork, table,
                                                m_module.progress);
-                         }},
-      m_conditions);
+                         }});
   QString complaint = setCourseByName(m_module.course, m_options.settings);
   if (complaint.isEmpty()) {
     status = EXIT_FAILURE;
-    if (!rules.enter()) return std::nullopt;
+    if (!rules.enter(m_conditions)) return std::nullopt;
     complaint = setByName(rules, m_module.conditions, m_options.settings);
   }
   if (!complaint.isEmpty()) {

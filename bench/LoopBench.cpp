@@ -46,7 +46,7 @@ void keyToNextQuestion(benchmark::State& state) {
   test::RecordingReview review;
   PracticeLoop loop(set, course, conditions, times,
                     {window, review, dialogs, random, clock, speaker});
-  window.connectTo(loop, clock, [] {});
+  window.connectTo(loop, clock);
   loop.start(2);
   window.show();
   QApplication::processEvents();

@@ -167,12 +167,10 @@ void loginToReport(benchmark::State& state) {
   } screen;
   for (auto _ : state) {
     WorkingCopy workingCopy(module.learner, files, clock, dialogs);
-    Login login(module, workingCopy, files, clock, dialogs, screen);
-    if (!login.next(QStringLiteral("000"), QString())) state.SkipWithError("not logged in");
-    TAVOstate report(
-        {module.learner.userId, module.learner.dbFileWork, module.course.COURSE,
-         module.course.specialTable, module.progress, clock, dialogs, paper},
-        [] {}, [] {});
+    Login login(module, workingCopy, files, clock, dialogs);
+    if (!login.next(screen, QStringLiteral("000"), QString())) state.SkipWithError("not logged in");
+    TAVOstate report({module.learner.userId, module.learner.dbFileWork, module.course.COURSE,
+                      module.course.specialTable, module.progress, clock, dialogs, paper});
     report.resize(1024, 768);
     report.show();
     QApplication::processEvents();

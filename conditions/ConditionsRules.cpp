@@ -30,22 +30,21 @@ class Busy {
 }  // namespace
 
 ConditionsRules::ConditionsRules(const LearnerFiles& learner, CourseChoice& course,
-                                 PracticeConditions& conditions, const ConditionsServices& services,
-                                 ConditionsScreen& screen)
+                                 PracticeConditions& conditions, const ConditionsServices& services)
     : m_learner(learner),
       m_course(course),
       m_conditions(conditions),
       m_services(services),
-      m_screen(screen),
       m_lesson(services.files, conditions) {}
 
-bool ConditionsRules::enter() {
+bool ConditionsRules::enter(ConditionsScreen& screen) {
+  m_screen = &screen;
   m_pastConditions = pastConditions(m_services.files, m_learner.condFileWork);
-  m_screen.listPastRuns(listPastConditions(m_pastConditions));
-  m_screen.showFolder(m_services.standardFolder);
+  m_screen->listPastRuns(listPastConditions(m_pastConditions));
+  m_screen->showFolder(m_services.standardFolder);
   Loaded shown = changeCourse(m_course.COURSE);
   if (shown == Loaded::NoTable) shown = changeCourse(Course::高校);
-  if (shown == Loaded::Yes) m_screen.focusNext();
+  if (shown == Loaded::Yes) m_screen->focusNext();
   return shown == Loaded::Yes;
 }
 
@@ -80,7 +79,7 @@ ConditionsRules::Loaded ConditionsRules::switchCourse(Course COURSE) {
     m_course.COURSE = before;
     m_shownTable = tableBefore;
   }
-  m_screen.showCourse(m_course.COURSE, m_shownTable);
+  m_screen->showCourse(m_course.COURSE, m_shownTable);
   return loaded;
 }
 
@@ -109,7 +108,7 @@ ConditionsRules::Loaded ConditionsRules::offerSpecialTables() {
   if (!database) return Loaded::Failed;
   const QStringList tables = specialTables(*database);
   database.reset();
-  const std::optional<QString> chosen = m_screen.chooseSpecialTable(tables, m_shownTable);
+  const std::optional<QString> chosen = m_screen->chooseSpecialTable(tables, m_shownTable);
   if (chosen) return useSpecialTable(*chosen);
   return m_shownTable.isEmpty() ? changeCourse(Course::高校) : Loaded::Yes;
 }
@@ -121,13 +120,13 @@ ConditionsRules::Loaded ConditionsRules::useSpecialTable(const QString& table) {
   if (loaded == Loaded::Yes) {
     showRecord();
     if (m_services.recount) {
-      const Busy busy(m_screen);
+      const Busy busy(*m_screen);
       m_services.recount(table);
     }
     return loaded;
   }
   if (loaded == Loaded::NoTable) m_services.dialogs.show(missingTable(table));
-  m_screen.showCourse(m_course.COURSE, m_shownTable);
+  m_screen->showCourse(m_course.COURSE, m_shownTable);
   return loaded;
 }
 
@@ -135,24 +134,24 @@ void ConditionsRules::showRecord() {
   m_snapshot = m_conditions;
   m_prevSelMethod = m_conditions.selMethod;
   m_startBroken = false;
-  m_screen.showCourse(m_course.COURSE, m_shownTable);
-  m_screen.showPastRun(lastRunCaption, lastRun(m_course, m_conditions));
+  m_screen->showCourse(m_course.COURSE, m_shownTable);
+  m_screen->showPastRun(lastRunCaption, lastRun(m_course, m_conditions));
 
   m_lesson.takeFromConditions();
   m_lesson.dropMissing();
-  m_screen.showFolder(m_conditions.lessonFolder);
-  m_screen.showLessonName(m_lesson.text());
-  m_screen.showLesson(m_lesson.lines(), m_lesson.trouble());
+  m_screen->showFolder(m_conditions.lessonFolder);
+  m_screen->showLessonName(m_lesson.text());
+  m_screen->showLesson(m_lesson.lines(), m_lesson.trouble());
 
-  m_screen.showMethod(m_conditions.selMethod);
-  m_screen.showStartMode(m_conditions.startMode);
-  m_screen.showMemory(m_conditions.memorySelect);
+  m_screen->showMethod(m_conditions.selMethod);
+  m_screen->showStartMode(m_conditions.startMode);
+  m_screen->showMemory(m_conditions.memorySelect);
   showNumbers();
   if (m_conditions.startMode == StartMode::named) {
     fillStarts();
     restoreSpecifiedStart();
   } else {
-    m_screen.listStarts({});
+    m_screen->listStarts({});
     setStart(QString());
   }
 }
@@ -163,13 +162,13 @@ void ConditionsRules::showNumbers() {
 
 void ConditionsRules::chooseMethod(SelMethod selMethod) {
   m_conditions.selMethod = selMethod;
-  m_screen.showMethod(selMethod);
+  m_screen->showMethod(selMethod);
   if (m_conditions.usesLesson()) {
     if (m_conditions.isRandom() && m_conditions.startMode != StartMode::first) {
       m_services.dialogs.show(QStringLiteral("開始英語の指定を「最初から」に設定します。"));
       chooseStartMode(StartMode::first);
     }
-    m_screen.focusLessonName();
+    m_screen->focusLessonName();
     readLesson();
     m_lesson.dropMissing();
   }
@@ -196,7 +195,7 @@ bool ConditionsRules::goesOnFromLastRun() const {
 void ConditionsRules::chooseStartMode(StartMode startMode) {
   m_conditions.startMode = startMode;
   m_startBroken = false;
-  m_screen.showStartMode(startMode);
+  m_screen->showStartMode(startMode);
   if (startMode == StartMode::first) return;
   if (startMode == StartMode::named) {
     fillStarts();
@@ -220,7 +219,7 @@ void ConditionsRules::tellBrokenStart() {
 
 void ConditionsRules::chooseMemory(MemorySelect memorySelect) {
   m_conditions.memorySelect = memorySelect;
-  m_screen.showMemory(memorySelect);
+  m_screen->showMemory(memorySelect);
 }
 
 void ConditionsRules::fillStarts() {
@@ -228,7 +227,7 @@ void ConditionsRules::fillStarts() {
   QStringList starts;
   bool tableMissing = false;
   {
-    const Busy busy(m_screen);
+    const Busy busy(*m_screen);
     if (m_conditions.usesLesson()) {
       starts = lessonStarts(m_lesson.lines());
     } else if (std::optional<Database> database = openStore()) {
@@ -240,7 +239,7 @@ void ConditionsRules::fillStarts() {
         starts = sentenceStarts(*database, m_course.COURSE);
       }
     }
-    m_screen.listStarts(starts);
+    m_screen->listStarts(starts);
   }
   if (tableMissing && m_course.COURSE == Course::専門) {
     m_services.dialogs.show(missingTable(m_course.specialTable));
@@ -252,7 +251,7 @@ void ConditionsRules::fillStarts() {
 
 void ConditionsRules::setStart(const QString& text) {
   m_startText = text;
-  m_screen.showStart(text);
+  m_screen->showStart(text);
 }
 
 void ConditionsRules::restoreSpecifiedStart() {
@@ -268,7 +267,7 @@ void ConditionsRules::typeStart(const QString& text) {
 
 void ConditionsRules::readLesson() {
   m_lesson.read();
-  m_screen.showLesson(m_lesson.lines(), m_lesson.trouble());
+  m_screen->showLesson(m_lesson.lines(), m_lesson.trouble());
 }
 
 void ConditionsRules::pickLesson(const QString& folder, const QString& name) {
@@ -279,9 +278,9 @@ void ConditionsRules::pickLesson(const QString& folder, const QString& name) {
             .arg(pathIn(folder, name)));
     return;
   }
-  m_screen.showLessonName(name);
+  m_screen->showLessonName(name);
   typeLessonName(name, folder);
-  m_screen.focusLessonName();
+  m_screen->focusLessonName();
 }
 
 void ConditionsRules::typeLessonName(const QString& text, const QString& folder) {
@@ -294,11 +293,11 @@ void ConditionsRules::typeLessonName(const QString& text, const QString& folder)
 }
 
 void ConditionsRules::typeNumber(NumberField field, const QString& text) {
-  m_screen.showNumber(field, tavoli::typeNumber(field, text, m_conditions));
+  m_screen->showNumber(field, tavoli::typeNumber(field, text, m_conditions));
 }
 
 void ConditionsRules::leaveNumber(NumberField field) {
-  m_screen.showNumber(field, numberText(field, m_conditions));
+  m_screen->showNumber(field, numberText(field, m_conditions));
 }
 
 void ConditionsRules::stepNumber(NumberField field, int steps) {
@@ -322,8 +321,8 @@ void ConditionsRules::restoreTargets() {
 
 void ConditionsRules::choosePastRun(int index) {
   if (index < 0 || index >= m_pastConditions.size()) return;
-  m_screen.showPastRun(listPastConditions(m_pastConditions)[index],
-                       readConditions(m_pastConditions[index]));
+  m_screen->showPastRun(listPastConditions(m_pastConditions)[index],
+                        readConditions(m_pastConditions[index]));
 }
 
 std::optional<QString> ConditionsRules::next() {
@@ -365,7 +364,7 @@ std::optional<QString> ConditionsRules::specifiedStart() {
     return std::nullopt;
   }
   if (!check.question.isEmpty() && !m_services.dialogs.ask(check.question)) {
-    m_screen.focusStart();
+    m_screen->focusStart();
     return std::nullopt;
   }
   return check.startKey;

@@ -33,11 +33,11 @@ struct ConditionsServices {
 class ConditionsRules {
  public:
   ConditionsRules(const LearnerFiles& learner, CourseChoice& course, PracticeConditions& conditions,
-                  const ConditionsServices& services, ConditionsScreen& screen);
+                  const ConditionsServices& services);
 
   /// The screen is entered, at first or after a run: shows the course's conditions and the past
   /// ones. False when the database cannot be read; the learner has then been told.
-  bool enter();
+  bool enter(ConditionsScreen& screen);
 
   void chooseCourse(Course COURSE);
   /// The learner wants another specialist dictionary.
@@ -96,7 +96,7 @@ class ConditionsRules {
   CourseChoice& m_course;
   PracticeConditions& m_conditions;
   ConditionsServices m_services;
-  ConditionsScreen& m_screen;
+  ConditionsScreen* m_screen = nullptr;  ///< the one that was entered
   LessonChoice m_lesson;
 
   /// The record as it was loaded: the choices of the last run with this course.

@@ -236,9 +236,11 @@ bool TAVO1::keyPressed(const QObject* field, int key) {
 
 void TAVO1::logIn() {
   m_timer1.stop();
-  if (!next(m_text1->text(), m_text2->text())) return;
+  Q_EMIT next(m_text1->text(), m_text2->text());
+}
+
+void TAVO1::letIn() {
   m_loggedIn = true;
-  loggedIn();
   close();
 }
 
@@ -298,7 +300,7 @@ void TAVO1::showEvent(QShowEvent* event) {
 
 void TAVO1::closeEvent(QCloseEvent* event) {
   event->accept();
-  if (!m_loggedIn) finished();
+  if (!m_loggedIn) Q_EMIT left();
 }
 
 }  // namespace tavoli

@@ -3,8 +3,6 @@
 #include <QMainWindow>
 #include <QTimer>
 
-#include <functional>
-
 #include "app/Login.h"
 
 class QFrame;
@@ -19,23 +17,25 @@ class LoginPicture;
 
 /// The login screen.
 class TAVO1 final : public QMainWindow, public LoginScreen {
+  Q_OBJECT
  public:
   /// `version` as "major.minor.revision".
   TAVO1(Module1& module, Files& files, Dialogs& dialogs, const QString& version);
 
-  /// One press of "次へ" with the typed id and password; true lets the learner in.
-  std::function<bool(const QString& id, const QString& password)> next =
-      [](const QString&, const QString&) { return false; };
-  /// The learner is in: brings up the next screen. The login screen closes itself afterwards.
-  std::function<void()> loggedIn = [] {};
-  /// The learner left without a login, by "終了" or by closing the window.
-  std::function<void()> finished = [] {};
+  /// The learner is in: the window closes.
+  void letIn();
 
   void setUserId(const QString& text) override;
   void focusUserId() override;
   void focusPassword() override;
   void setBusy(bool busy) override;
   void showEngineTrouble() override;
+
+ Q_SIGNALS:
+  /// One press of "次へ" with the typed id and password.
+  void next(const QString& id, const QString& password);
+  /// The learner left without a login, by "終了" or by closing the window.
+  void left();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -35,16 +35,22 @@ void replaceWindow(QWidget& hidden, QWidget& shown) {
 WindowFlow::WindowFlow(Module1& module, const QString& version)
     : m_module(module),
       m_workingCopy(module.learner, m_files, m_clock, m_dialogs),
-      m_end(module, m_workingCopy, m_dialogs) {
+      m_end(module, m_workingCopy, m_dialogs),
+      m_login(module, m_workingCopy, m_files, m_clock, m_dialogs),
+      m_conditions(module.learner, module.course, module.conditions,
+                   {m_files, m_dialogs, lessonFolder(module.applicationFolder),
+                    [this](const QString& table) {
+                      recountSpecialTable(m_module.learner.dbFileWork, table, m_module.progress);
+                    }}) {
   QApplication::setFont(programFont());
   QApplication::setWindowIcon(programIcon());
   m_tavo1 = std::make_unique<TAVO1>(m_module, m_files, m_dialogs, version);
-  m_login = std::make_unique<Login>(m_module, m_workingCopy, m_files, m_clock, m_dialogs, *m_tavo1);
-  m_tavo1->next = [this](const QString& id, const QString& password) {
-    return m_login->next(id, password);
-  };
-  m_tavo1->loggedIn = [this] { showState(); };
-  m_tavo1->finished = [] { QApplication::quit(); };
+  QObject::connect(m_tavo1.get(), &TAVO1::next, [this](const QString& id, const QString& password) {
+    if (!m_login.next(*m_tavo1, id, password)) return;
+    showState();
+    m_tavo1->letIn();
+  });
+  QObject::connect(m_tavo1.get(), &TAVO1::left, [] { QApplication::quit(); });
 }
 
 int WindowFlow::run() {
@@ -60,30 +66,26 @@ void WindowFlow::showState() {
   QFont font = programFont();
   font.setPointSizeF(font.pointSizeF() * loginLayout(screen).scale);
   QApplication::setFont(font);
-  m_state = std::make_unique<TAVOstate>(
-      ProgressSources{m_module.learner.userId, m_module.learner.dbFileWork, m_module.course.COURSE,
-                      m_module.course.specialTable, m_module.progress, m_clock, m_dialogs, m_paper},
-      [this] { showConditions(); }, [this] { leave(); });
+  m_state = std::make_unique<TAVOstate>(ProgressSources{
+      m_module.learner.userId, m_module.learner.dbFileWork, m_module.course.COURSE,
+      m_module.course.specialTable, m_module.progress, m_clock, m_dialogs, m_paper});
+  QObject::connect(m_state.get(), &TAVOstate::next, [this] { showConditions(); });
+  QObject::connect(m_state.get(), &TAVOstate::left, [this] { endProgram(); });
   m_state->showMaximized();
   m_tavo1->hide();
 }
 
 void WindowFlow::showConditions() {
   if (!m_tavo2) {
-    m_tavo2 = std::make_unique<TAVO2>(
-        TAVO2::Shared{m_module.learner, m_module.course, m_module.conditions},
-        ConditionsServices{m_files, m_dialogs, lessonFolder(m_module.applicationFolder),
-                           [this](const QString& table) {
-                             recountSpecialTable(m_module.learner.dbFileWork, table,
-                                                 m_module.progress);
-                           }});
-    m_tavo2->next = [this](const QString& startKey) { startPractice(startKey); };
-    m_tavo2->leave = [this] { leave(); };
+    m_tavo2 = std::make_unique<TAVO2>(m_conditions);
+    QObject::connect(m_tavo2.get(), &TAVO2::next,
+                     [this](const QString& startKey) { startPractice(startKey); });
+    QObject::connect(m_tavo2.get(), &TAVO2::left, [this] { endProgram(); });
   }
-  if (!m_tavo2->enter()) {
+  if (!m_conditions.enter(*m_tavo2)) {
     m_dialogs.show(QStringLiteral("%1 の練習条件を読めません。プログラムを終了します。")
                        .arg(m_module.learner.dbFileWork));
-    leave();
+    endProgram();
     return;
   }
   m_tavo2->show();
@@ -93,54 +95,46 @@ void WindowFlow::showConditions() {
 void WindowFlow::startPractice(const QString& startKey) {
   m_module.clock.休憩時間 = 0;
   m_module.clock.restClock = m_clock.now();
-  m_tavo4.reset();
-  m_tavo3.reset();
-  m_run = std::make_unique<PracticeRun>(
-      m_module.learner, m_module.course, m_module.conditions, m_module.clock, m_module.progress,
-      RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
-  if (!m_run->openTables()) {
-    m_run.reset();
-    return;
-  }
-  m_tavo3 = std::make_unique<TAVO3>();
-  m_tavo3->resize(m_tavo2->screen()->availableSize() * 9 / 10);
-  for (Dictionary& dictionary : m_run->dictionaries())
-    m_tavo3->addLookUp(dictionary.heading, dictionary.lookUp);
-  m_tavo4 = std::make_unique<TAVO4>();
-  for (Dictionary& dictionary : m_run->reviewDictionaries())
-    m_tavo4->addLookUp(dictionary.heading, dictionary.lookUp);
+  m_practice.reset();
+  auto stage = std::make_unique<PracticeStage>(
+      m_module, RunServices{m_files, m_clock, m_random, m_dialogs, m_speaker, m_paper});
+  if (!stage->run.openTables()) return;
+  auto& [run, tavo3, tavo4] = *stage;
+  tavo3.resize(m_tavo2->screen()->availableSize() * 9 / 10);
+  for (Dictionary& dictionary : run.dictionaries())
+    tavo3.addLookUp(dictionary.heading, dictionary.lookUp);
+  for (Dictionary& dictionary : run.reviewDictionaries())
+    tavo4.addLookUp(dictionary.heading, dictionary.lookUp);
   TAVO7 progress(m_tavo2.get());
-  if (!m_run->open(*m_tavo3, *m_tavo4, progress, startKey)) {
-    m_tavo4.reset();
-    m_tavo3.reset();
-    m_run.reset();
-    return;
-  }
-  m_tavo3->connectTo(m_run->loop(), m_clock, [this] { endPractice(); });
-  m_tavo4->connectTo(
-      m_run->loop(), [this] { replaceWindow(*m_tavo3, *m_tavo4); },
-      [this] {
-        m_tavo3->resumeFromReview();
-        replaceWindow(*m_tavo4, *m_tavo3);
-      });
-  m_tavo3->show();
+  if (!run.open(tavo3, tavo4, progress, startKey)) return;
+  tavo3.connectTo(run.loop(), m_clock);
+  tavo4.connectTo(run.loop());
+  QObject::connect(&tavo3, &TAVO3::closed, [this] { endPractice(); });
+  QObject::connect(&tavo4, &TAVO4::begun,
+                   [this] { replaceWindow(m_practice->tavo3, m_practice->tavo4); });
+  QObject::connect(&tavo4, &TAVO4::over, [this] {
+    m_practice->tavo3.resumeFromReview();
+    replaceWindow(m_practice->tavo4, m_practice->tavo3);
+  });
+  m_practice = std::move(stage);
+  tavo3.show();
   m_tavo2->hide();
 }
 
 void WindowFlow::endPractice() {
-  m_tavo4->hide();
+  m_practice->tavo4.hide();
   QApplication::setOverrideCursor(Qt::WaitCursor);
-  const RunOver over = m_end.endRun(*m_run);
+  const RunOver over = m_end.endRun(m_practice->run);
   QApplication::restoreOverrideCursor();
   if (over.toConditions)
     showConditions();
   else if (over.stored)
     QApplication::quit();
   else
-    leave();
+    endProgram();
 }
 
-void WindowFlow::leave() {
+void WindowFlow::endProgram() {
   m_end.leave();
   QApplication::quit();
 }

@@ -8,6 +8,7 @@
 #include "app/Module1.h"
 #include "app/ProgramEnd.h"
 #include "app/screens/TAVO1.h"
+#include "conditions/ConditionsRules.h"
 #include "conditions/screens/TAVO2.h"
 #include "home/WorkingCopy.h"
 #include "practice/PracticeRun.h"
@@ -23,6 +24,17 @@
 
 namespace tavoli {
 
+/// A run and its windows.
+struct PracticeStage {
+  PracticeStage(Module1& module, const RunServices& services)
+      : run(module.learner, module.course, module.conditions, module.clock, module.progress,
+            services) {}
+
+  PracticeRun run;
+  TAVO3 tavo3;
+  TAVO4 tavo4;
+};
+
 /// Which window follows which: login, progress, conditions, practice with its reviews, and back or
 /// out.
 class WindowFlow {
@@ -37,7 +49,7 @@ class WindowFlow {
   void showConditions();
   void startPractice(const QString& startKey);
   void endPractice();
-  void leave();
+  void endProgram();
 
   Module1& m_module;
   SystemFiles m_files;
@@ -48,13 +60,13 @@ class WindowFlow {
   PagedPaper m_paper;
   WorkingCopy m_workingCopy;
   ProgramEnd m_end;
+  // Rules stand before their windows, which go first.
+  Login m_login;
+  ConditionsRules m_conditions;
+  std::unique_ptr<PracticeStage> m_practice;
   std::unique_ptr<TAVO1> m_tavo1;
-  std::unique_ptr<Login> m_login;
   std::unique_ptr<TAVOstate> m_state;
   std::unique_ptr<TAVO2> m_tavo2;
-  std::unique_ptr<PracticeRun> m_run;
-  std::unique_ptr<TAVO3> m_tavo3;
-  std::unique_ptr<TAVO4> m_tavo4;
 };
 
 }  // namespace tavoli

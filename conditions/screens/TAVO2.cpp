@@ -30,21 +30,20 @@ QPushButton* makeButton(const QString& name, const QString& caption, QWidget* pa
 
 }  // namespace
 
-TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
-    : m_rules(shared.learner, shared.course, shared.conditions, services, *this) {
+TAVO2::TAVO2(ConditionsRules& rules, QWidget* parent) : QMainWindow(parent) {
   setObjectName(QStringLiteral("TAVO2"));
   setWindowTitle(tavoli::windowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間")));
   auto* centre = new QWidget(this);
   auto* columns = new FoldingRow(this, FoldingRow::Fold::BelowPreferred);
   auto* present = new QGroupBox(QStringLiteral("今回"), columns);
-  m_choices = new ChoicePanel(m_rules, present);
+  m_choices = new ChoicePanel(rules, present);
   auto* details = new QWidget(present);
-  m_lesson = new LessonPanel(m_rules, details);
-  m_numbers = new NumbersPanel(m_rules, details);
-  m_past = new PastPanel(m_rules, columns);
+  m_lesson = new LessonPanel(rules, details);
+  m_numbers = new NumbersPanel(rules, details);
+  m_past = new PastPanel(rules, columns);
   m_command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"), centre);
-  connect(m_command1, &QPushButton::clicked, this, [this] {
-    if (const std::optional<QString> startKey = m_rules.next()) next(*startKey);
+  connect(m_command1, &QPushButton::clicked, this, [this, &rules] {
+    if (const std::optional<QString> startKey = rules.next()) Q_EMIT next(*startKey);
   });
   auto* command5 = makeButton(QStringLiteral("Command5"), QStringLiteral("終了"), centre);
   connect(command5, &QPushButton::clicked, this, &QWidget::close);
@@ -79,8 +78,8 @@ TAVO2::TAVO2(const Shared& shared, const ConditionsServices& services)
 }
 
 TAVO2::~TAVO2() {
-  // A field that is left reports to the rules, which go before the fields do.
-  if (QWidget* focused = focusWidget()) focused->clearFocus();
+  // A field that is left reports to the rules, and they show what it holds.
+  hide();
 }
 
 void TAVO2::showCourse(Course COURSE, const QString& specialTable) {
@@ -169,7 +168,7 @@ void TAVO2::setBusy(bool busy) {
 
 void TAVO2::closeEvent(QCloseEvent* event) {
   event->accept();
-  if (leave) std::exchange(leave, nullptr)();
+  if (!std::exchange(m_left, true)) Q_EMIT left();
 }
 
 }  // namespace tavoli

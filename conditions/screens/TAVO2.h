@@ -3,8 +3,6 @@
 #include <QMainWindow>
 #include <QPushButton>
 
-#include <functional>
-
 #include "conditions/ConditionsRules.h"
 #include "conditions/ConditionsScreen.h"
 
@@ -19,24 +17,9 @@ class PastPanel;
 class TAVO2 final : public QMainWindow, public ConditionsScreen {
   Q_OBJECT
  public:
-  /// What the window works on: the learner's choices in the state that the screens share.
-  struct Shared {
-    const LearnerFiles& learner;
-    CourseChoice& course;
-    PracticeConditions& conditions;
-  };
-
-  TAVO2(const Shared& shared, const ConditionsServices& services);
+  /// The rules are entered before every showing.
+  explicit TAVO2(ConditionsRules& rules, QWidget* parent = nullptr);
   ~TAVO2() override;
-
-  /// Called when Next found everything right, with the key at which the run starts; it starts the
-  /// run, and hides this window if it can.
-  std::function<void(const QString& startKey)> next;
-  /// Called when the learner ends the program here.
-  std::function<void()> leave;
-
-  /// To be called before every showing. False when the database cannot be read.
-  bool enter() { return m_rules.enter(); }
 
   void showCourse(Course COURSE, const QString& specialTable) override;
   void showMethod(SelMethod selMethod) override;
@@ -57,16 +40,22 @@ class TAVO2 final : public QMainWindow, public ConditionsScreen {
   void focusStart() override;
   void setBusy(bool busy) override;
 
+ Q_SIGNALS:
+  /// Next found everything right; the run starts at the key.
+  void next(const QString& startKey);
+  /// The learner ends the program here.
+  void left();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  ConditionsRules m_rules;
   ChoicePanel* m_choices;
   LessonPanel* m_lesson;
   NumbersPanel* m_numbers;
   PastPanel* m_past;
   QPushButton* m_command1;
+  bool m_left = false;
 };
 
 }  // namespace tavoli

@@ -88,10 +88,9 @@ void TAVO3::arrange() {
   m_areas.arrange(questionRow, explanations, m_keys);
 }
 
-void TAVO3::connectTo(PracticeLoop& loop, const Clock& clock, std::function<void()> closed) {
+void TAVO3::connectTo(PracticeLoop& loop, const Clock& clock) {
   m_loop = &loop;
   m_clock = &clock;
-  m_closed = std::move(closed);
   m_seconds.start(std::chrono::seconds(1));
 }
 
@@ -163,7 +162,7 @@ void TAVO3::close() {
       this,
       [this] {
         hide();
-        if (m_closed) std::exchange(m_closed, nullptr)();
+        Q_EMIT closed();
       },
       Qt::QueuedConnection);
 }

@@ -2,7 +2,6 @@
 
 #include <QTimer>
 
-#include <functional>
 #include <optional>
 
 #include "practice/PracticeScreen.h"
@@ -26,9 +25,8 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
  public:
   explicit TAVO3(QWidget* parent = nullptr);
 
-  /// Keys go to `loop` from now on, and its clock ticks. `closed` is called once, when the end of
-  /// the run was confirmed.
-  void connectTo(PracticeLoop& loop, const Clock& clock, std::function<void()> closed);
+  /// Keys go to `loop` from now on, and its clock ticks.
+  void connectTo(PracticeLoop& loop, const Clock& clock);
   /// A review has ended. F11 ends its items too, and once too often it would mark the item that
   /// follows: for a moment it does nothing.
   void resumeFromReview();
@@ -44,6 +42,10 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
   void showStatus(StatusPanel panel, const QString& text) override;
   void awaitConfirmation(bool awaited) override;
   void close() override;
+
+ Q_SIGNALS:
+  /// The end of the run was confirmed, and the window is hidden.
+  void closed();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -66,7 +68,6 @@ class TAVO3 final : public AnswerWindow<PracticeScreen> {
   PracticeLoop* m_loop = nullptr;
   const Clock* m_clock = nullptr;
   std::optional<qint64> m_reviewEnd;  ///< of the last review, in milliseconds
-  std::function<void()> m_closed;
   QTimer m_seconds;
 
   CountsFrame* m_counts;

@@ -6,7 +6,6 @@
 #include <QStatusBar>
 
 #include <chrono>
-#include <utility>
 
 #include "conditions/screens/TAVO6.h"
 #include "practice/PracticeLoop.h"
@@ -63,12 +62,6 @@ void TAVO4::buildMenu() {
   connect(repeats, &QAction::triggered, this, &TAVO4::setRepeats);
 }
 
-void TAVO4::connectTo(PracticeLoop& loop, std::function<void()> begun, std::function<void()> over) {
-  m_loop = &loop;
-  m_begun = std::move(begun);
-  m_over = std::move(over);
-}
-
 ReviewDrill* TAVO4::review() const {
   return m_loop && m_loop->復習中() ? &m_loop->review() : nullptr;
 }
@@ -76,12 +69,12 @@ ReviewDrill* TAVO4::review() const {
 void TAVO4::beginReview(const QString& course) {
   m_areas.heading->setText(QStringLiteral("復習　") + course);
   m_seconds.start(std::chrono::seconds(1));
-  if (m_begun) m_begun();
+  Q_EMIT begun();
 }
 
 void TAVO4::endReview() {
   m_seconds.stop();
-  if (m_over) m_over();
+  Q_EMIT over();
 }
 
 void TAVO4::awaitConfirmation(bool awaited) {

@@ -2,8 +2,6 @@
 
 #include <QTimer>
 
-#include <functional>
-
 #include "practice/ReviewScreen.h"
 #include "practice/screens/AnswerWindow.h"
 #include "practice/screens/FunctionKeys.h"
@@ -19,13 +17,18 @@ class TAVO4 final : public AnswerWindow<ReviewScreen> {
  public:
   explicit TAVO4(QWidget* parent = nullptr);
 
-  /// Keys go to the review of `loop` from now on. `begun` is called when the window is to take the
-  /// place of the practice, `over` when the practice is to come back.
-  void connectTo(PracticeLoop& loop, std::function<void()> begun, std::function<void()> over);
+  /// Keys go to the review of `loop` from now on.
+  void connectTo(PracticeLoop& loop) { m_loop = &loop; }
 
   void beginReview(const QString& course) override;
   void endReview() override;
   void awaitConfirmation(bool awaited) override;
+
+ Q_SIGNALS:
+  /// The window is to take the place of the practice.
+  void begun();
+  /// The practice is to come back.
+  void over();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -39,8 +42,6 @@ class TAVO4 final : public AnswerWindow<ReviewScreen> {
   ReviewDrill* review() const;
 
   PracticeLoop* m_loop = nullptr;
-  std::function<void()> m_begun;
-  std::function<void()> m_over;
   QTimer m_seconds;
 
   FunctionKeys* m_keys;

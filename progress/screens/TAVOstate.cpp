@@ -42,8 +42,7 @@ QString noteOf(Level level) {
 
 }  // namespace
 
-TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
-                     std::function<void()> leave, QWidget* parent)
+TAVOstate::TAVOstate(const ProgressSources& sources, QWidget* parent)
     : QMainWindow(parent),
       m_sources(sources),
       m_report(sources.counters),
@@ -51,9 +50,7 @@ TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
       m_tabs(new QTabWidget(this)),
       m_tablesPage(new TablesPage),
       m_command1(makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"))),
-      m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("終了"))),
-      m_next(std::move(next)),
-      m_leave(std::move(leave)) {
+      m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("終了"))) {
   setWindowTitle(tavoli::windowTitle(QStringLiteral("先月までの状況と今月の状況")));
   choosePdf = [this] {
     QFileDialog dialog(this, tavoli::windowTitle(QStringLiteral("PDFファイルに保存")),
@@ -87,8 +84,7 @@ TAVOstate::TAVOstate(const ProgressSources& sources, std::function<void()> next,
   makeMenus();
 
   connect(m_command1, &QPushButton::clicked, this, [this] {
-    m_leave = nullptr;
-    if (m_next) std::exchange(m_next, nullptr)();
+    if (!std::exchange(m_gone, true)) Q_EMIT next();
   });
   connect(m_command2, &QPushButton::clicked, this, &QWidget::close);
   m_tabs->setCurrentIndex(static_cast<int>(courseLevel(m_sources.COURSE)));
@@ -184,8 +180,7 @@ void TAVOstate::showEvent(QShowEvent* event) {
 
 void TAVOstate::closeEvent(QCloseEvent* event) {
   event->accept();
-  m_next = nullptr;
-  if (m_leave) std::exchange(m_leave, nullptr)();
+  if (!std::exchange(m_gone, true)) Q_EMIT left();
 }
 
 }  // namespace tavoli

@@ -34,12 +34,16 @@ struct ProgressSources {
 class TAVOstate final : public QMainWindow, private SurveyScreen {
   Q_OBJECT
  public:
-  /// `next` is called when the learner goes on, `leave` when the window is closed instead.
-  TAVOstate(const ProgressSources& sources, std::function<void()> next, std::function<void()> leave,
-            QWidget* parent = nullptr);
+  explicit TAVOstate(const ProgressSources& sources, QWidget* parent = nullptr);
 
   /// Asks where the PDF file of a report is to lie; an empty answer prints nothing.
   std::function<QString()> choosePdf;
+
+ Q_SIGNALS:
+  /// The learner goes on.
+  void next();
+  /// The window was closed instead.
+  void left();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -66,8 +70,7 @@ class TAVOstate final : public QMainWindow, private SurveyScreen {
   QPushButton* m_command1;
   QPushButton* m_command2;
   std::array<bool, levelCount + 1> m_stale{};
-  std::function<void()> m_next;
-  std::function<void()> m_leave;
+  bool m_gone = false;  ///< the learner went on, or left
 };
 
 }  // namespace tavoli

@@ -54,10 +54,10 @@ class LoginTest : public testing::Test {
 
   bool login(const QString& id, const QString& password = QString()) {
     WorkingCopy copy(module.learner, files, clock, dialogs);
-    Login rules(module, copy, files, clock, dialogs, screen);
+    Login rules(module, copy, files, clock, dialogs);
     dialogs.shown.clear();
     dialogs.asked.clear();
-    const bool in = rules.next(id, password);
+    const bool in = rules.next(screen, id, password);
     if (in) copy.leave();
     return in;
   }
@@ -132,8 +132,8 @@ TEST_F(LoginTest, SetsThePasswordOnceAndThenAsksForIt) {
     EXPECT_EQ(dialogs.shown, QStringList{QStringLiteral("パスワードを入れ直してください。")});
   }
   WorkingCopy copy(module.learner, files, clock, dialogs);
-  Login rules(module, copy, files, clock, dialogs, screen);
-  EXPECT_FALSE(rules.next(QStringLiteral("000"), QString()));
+  Login rules(module, copy, files, clock, dialogs);
+  EXPECT_FALSE(rules.next(screen, QStringLiteral("000"), QString()));
   EXPECT_FALSE(files.exists(work() + QStringLiteral(".lock"))) << "let go";
   EXPECT_TRUE(login(QStringLiteral("000"), QStringLiteral(" Ab ")));
 }
@@ -176,7 +176,7 @@ TEST_F(LoginTest, ACopyAsDeliveredGivesWayInSilence) {
 TEST_F(LoginTest, OneProgramAtATimeWorksOnACopy) {
   WorkingCopy copy(module.learner, files, clock, dialogs);
   ASSERT_TRUE(
-      Login(module, copy, files, clock, dialogs, screen).next(QStringLiteral("000"), QString()));
+      Login(module, copy, files, clock, dialogs).next(screen, QStringLiteral("000"), QString()));
   const auto before = files.read(work());
   EXPECT_FALSE(login(QStringLiteral("000")));
   EXPECT_EQ(dialogs.shown, QStringList{work() + QStringLiteral(" が誤って使用中になっています。")});

@@ -23,12 +23,13 @@ namespace {
 class TAVO1Test : public testing::Test {
  protected:
   TAVO1Test() {
-    window.next = [this](const QString& id, const QString& password) {
+    QObject::connect(&window, &TAVO1::next, [this](const QString& id, const QString& password) {
       typed = {id, password};
-      return id == QStringLiteral("000");
-    };
-    window.loggedIn = [this] { ++logins; };
-    window.finished = [this] { ++ends; };
+      if (id != QStringLiteral("000")) return;
+      ++logins;
+      window.letIn();
+    });
+    QObject::connect(&window, &TAVO1::left, [this] { ++ends; });
     window.show();
     window.activateWindow();
     QApplication::processEvents();

@@ -53,10 +53,11 @@ TEST(Windows, FitSmallScreensBearTheProgramsNameAndNameTheirControls) {
                           paper};
 
   TAVO1 tavo1(module, files, dialogs, QStringLiteral("1.2.3"));
-  TAVOstate state(sources, {}, {});
-  TAVO2 tavo2({module.learner, module.course, module.conditions},
-              {files, dialogs, store.folder(), {}});
-  ASSERT_TRUE(tavo2.enter());
+  TAVOstate state(sources);
+  ConditionsRules rules(module.learner, module.course, module.conditions,
+                        {files, dialogs, store.folder(), {}});
+  TAVO2 tavo2(rules);
+  ASSERT_TRUE(rules.enter(tavo2));
   auto rows = (store.open(), store.database().OpenRecordset(tableJTDIC));
   LookUp dictionary(*rows);
   TAVO3 tavo3;

@@ -81,7 +81,7 @@ TEST_F(ConditionsRulesTest, ASpecialistDictionaryHasToBeThere) {
   }
   course = {Course::専門, vanished};
   screen.choices = {vanished};
-  ASSERT_TRUE(rules.enter());
+  ASSERT_TRUE(rules.enter(screen));
   EXPECT_EQ(course.COURSE, Course::高校) << "the screen opens with a dictionary that is there";
   EXPECT_EQ(screen.lesson.size(), 4);
 }
@@ -92,7 +92,7 @@ TEST_F(ConditionsRulesTest, WithoutAnySpecialistDictionaryNoRunStarts) {
   for (const QString& table : {tableBDIC, tableJTDIC, tableSTDIC})
     EXPECT_TRUE(made->createTable(table));
   made.reset();
-  ASSERT_TRUE(rules.enter());
+  ASSERT_TRUE(rules.enter(screen));
   screen.choices = {QString()};
   rules.chooseCourse(Course::専門);
   EXPECT_EQ(screen.offered, QStringList{u">"_s});
@@ -114,7 +114,7 @@ TEST_F(ConditionsRulesTest, AnUnreadableDatabaseChangesNothing) {
   EXPECT_EQ(dialogs.shown, QStringList({trouble, trouble}));
   EXPECT_EQ(rules.next(), std::nullopt);
   EXPECT_EQ(dialogs.shown.last(), store.path() + u" : not found"_s);
-  EXPECT_FALSE(rules.enter());
+  EXPECT_FALSE(rules.enter(screen));
 }
 
 /// Clicks: m a method, s a start mode, p picks the other lesson file, P the same one again, t types
@@ -187,7 +187,7 @@ TEST_F(ConditionsRulesTest, ClicksLeadToTheRecordTheMessagesAndTheStart) {
 }
 
 TEST_F(ConditionsRulesTest, AFirstRunHasNoPlaceToGoOnFrom) {
-  ASSERT_TRUE(rules.enter());
+  ASSERT_TRUE(rules.enter(screen));
   rules.chooseStartMode(StartMode::whereEnded);
   EXPECT_EQ(rules.next(), startKeyFirst);
   EXPECT_TRUE(dialogs.shown.isEmpty());

@@ -34,9 +34,9 @@ class TAVO2Test : public testing::Test {
     EXPECT_EQ(files.write(lessons + QStringLiteral("/verbs/other.doc"), "no lesson"),
               FileResult::Ok);
     store.close();
-    window.next = [this](const QString& key) { startKey = key; };
-    window.leave = [this] { ++ends; };
-    EXPECT_TRUE(window.enter());
+    QObject::connect(&window, &TAVO2::next, [this](const QString& key) { startKey = key; });
+    QObject::connect(&window, &TAVO2::left, [this] { ++ends; });
+    EXPECT_TRUE(rules.enter(window));
     window.show();
     window.activateWindow();
     QApplication::processEvents();
@@ -70,7 +70,8 @@ class TAVO2Test : public testing::Test {
   LearnerFiles learner{QStringLiteral("taro"), {}, store.path(), {}, {}, {}, {}, {}, false};
   CourseChoice course;
   PracticeConditions conditions;
-  TAVO2 window{{learner, course, conditions}, {files, dialogs, lessons, {}}};
+  ConditionsRules rules{learner, course, conditions, {files, dialogs, lessons, {}}};
+  TAVO2 window{rules};
   QString startKey;
   int ends = 0;
 };
@@ -144,8 +145,9 @@ TEST_F(TAVO2Test, ALessonIsPickedInTheFoldersAndPreviewed) {
 
 TEST_F(TAVO2Test, AMissingFolderLeavesAPickerToWorkWith) {
   QDir(lessons).removeRecursively();
-  TAVO2 fresh{{learner, course, conditions}, {files, dialogs, lessons, {}}};
-  EXPECT_TRUE(fresh.enter());
+  ConditionsRules anew(learner, course, conditions, {files, dialogs, lessons, {}});
+  TAVO2 fresh(anew);
+  EXPECT_TRUE(anew.enter(fresh));
   EXPECT_TRUE(fresh.findChild<QTreeView*>(QStringLiteral("Dir1"))->currentIndex().isValid());
 }
 
@@ -215,7 +217,7 @@ TEST_F(TAVO2Test, ComesBackWithWhatWasChosen) {
   store.open();
   ASSERT_TRUE(saveConditions(*store.database().OpenRecordset(tableSTDIC), conditions));
   store.close();
-  ASSERT_TRUE(window.enter());
+  ASSERT_TRUE(rules.enter(window));
   window.show();
   QApplication::processEvents();
   EXPECT_EQ(file->text(), QStringLiteral("動詞.TAV"));

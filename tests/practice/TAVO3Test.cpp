@@ -33,7 +33,8 @@ class TAVO3Test : public test::AnswerWindow<TAVO3> {
     loop = std::make_unique<PracticeLoop>(
         set, course, conditions, times,
         LoopServices{window, review, dialogs, random, clock, speaker});
-    window.connectTo(*loop, clock, [this] { ++closed; });
+    window.connectTo(*loop, clock);
+    QObject::connect(&window, &TAVO3::closed, [this] { ++closed; });
     loop->start(2);
     window.show();
     QApplication::setActiveWindow(&window);

@@ -23,12 +23,12 @@ class TAVO4Test : public test::AnswerWindow<TAVO4> {
     conditions.reviewCycle = 0;
     store.addWord(tableJTDIC, QStringLiteral("bug"), test::wordRecord({QStringLiteral("虫")}));
     window.addLookUp(QStringLiteral("中学DB"), dictionary);
-    window.connectTo(
-        loop, [this] { window.show(); },
-        [this] {
-          ++over;
-          window.hide();
-        });
+    window.connectTo(loop);
+    QObject::connect(&window, &TAVO4::begun, &window, &QWidget::show);
+    QObject::connect(&window, &TAVO4::over, [this] {
+      ++over;
+      window.hide();
+    });
     loop.start(2);
     loop.startReview({1, 2});
     QApplication::setActiveWindow(&window);

@@ -32,8 +32,9 @@ class TAVOstateTest : public testing::Test {
 
   void open(Course COURSE) {
     window = std::make_unique<TAVOstate>(
-        ProgressSources{userId, dbFileWork, COURSE, specialTable, counters, clock, dialogs, paper},
-        [this] { ++next; }, [this] { ++left; });
+        ProgressSources{userId, dbFileWork, COURSE, specialTable, counters, clock, dialogs, paper});
+    QObject::connect(window.get(), &TAVOstate::next, [this] { ++next; });
+    QObject::connect(window.get(), &TAVOstate::left, [this] { ++left; });
     window->choosePdf = [this] { return pdf; };
     window->show();
     QApplication::setActiveWindow(window.get());
@@ -149,8 +150,8 @@ TEST_F(TAVOstateTest, PrintsOnePageOrWritesIt) {
 }
 
 TEST_F(TAVOstateTest, APdfGetsItsEnding) {
-  TAVOstate plain({userId, dbFileWork, Course::中学, specialTable, counters, clock, dialogs, paper},
-                  {}, {});
+  TAVOstate plain(
+      {userId, dbFileWork, Course::中学, specialTable, counters, clock, dialogs, paper});
   QTimer::singleShot(0, &plain, [this] {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     dialog->setDirectory(store.folder());

@@ -42,7 +42,7 @@ class ConditionsOverStore : public testing::Test {
   /// Stores `last` as the record of 高校 and enters.
   void enter() {
     remember(tableSTDIC, last);
-    ASSERT_TRUE(rules.enter());
+    ASSERT_TRUE(rules.enter(screen));
   }
   void pick(const char16_t* name) { rules.pickLesson(store.folder(), QString::fromUtf16(name)); }
 
@@ -58,8 +58,7 @@ class ConditionsOverStore : public testing::Test {
   QStringList recounted;
   ConditionsRules rules{learner, course, conditions,
                         ConditionsServices{files, dialogs, store.folder(),
-                                           [this](const QString& t) { recounted.append(t); }},
-                        screen};
+                                           [this](const QString& t) { recounted.append(t); }}};
 };
 
 }  // namespace tavoli::test
