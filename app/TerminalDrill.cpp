@@ -92,7 +92,7 @@ void pressOneOf(const LineKeys& keys, const QStringList& others, Terminal& termi
 }
 
 /// What a line leaves in the answer box. In a window the learner types on behind the given start;
-/// here the start may be repeated, and a sentence to correct is written anew.
+/// here the start may be repeated, and a sentence to correct is written again.
 QString entryOf(QString line, const QString& answerStart, bool correcting) {
   if (line.startsWith(u':')) line.remove(0, 1);
   line.replace(u'~', u'～');

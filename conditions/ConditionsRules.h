@@ -23,12 +23,12 @@ struct ConditionsServices {
   const Files& files;
   Dialogs& dialogs;
   QString standardFolder;  ///< the standard place of lesson files
-  /// Counts a specialist dictionary's memory states anew after it was chosen, given its name. The
+  /// Counts a specialist dictionary's memory states again after it was chosen, given its name. The
   /// database is closed when it is called. May be left empty.
   std::function<void(const QString& table)> recount;
 };
 
-/// What every doing on the conditions screen means, and what has to be right before a run starts.
+/// What every action on the conditions screen means, and what has to be right before a run starts.
 /// The record that it works on belongs to the table of the course on show.
 class ConditionsRules {
  public:

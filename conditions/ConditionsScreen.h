@@ -12,7 +12,7 @@
 namespace tavoli {
 
 /// What the rules of the conditions screen ask of whatever shows it. What is shown is never
-/// reported back as a doing of the learner.
+/// reported back as an action of the learner.
 class ConditionsScreen {
  public:
   virtual ~ConditionsScreen() = default;

@@ -13,7 +13,7 @@ class Files;
 // The conditions of the last hundred runs, one line of fixed positions each, oldest first, in the
 // learner's file TavoCond<id> (UTF-8; older files in code page 932 are read too).
 
-/// What is told of an earlier run.
+/// What is shown of an earlier run.
 struct PastRun {
   QString date;  ///< yyyy/mm/dd
   Course COURSE{};

@@ -27,9 +27,9 @@ StartCheck checkLessonStart(const QString& named, const PracticeConditions& cond
 StartCheck checkTableStart(const QString& named, const PracticeConditions& conditions,
                            const CourseChoice& course, const Files& files, const QString& path);
 
-/// What is told when the database file cannot be opened.
+/// The message when the database file cannot be opened.
 QString openTrouble(const QString& path, int errorNumber);
-/// What is told when a specialist dictionary is not in the database.
+/// The message when a specialist dictionary is not in the database.
 QString missingTable(const QString& specialTable);
 
 }  // namespace tavoli

@@ -33,7 +33,7 @@ ContentNotes makeNotes(const std::vector<SourceFile>& files,
 /// None for a database that was made without.
 ContentNotes notesIn(Database& database);
 
-/// Which content it is; it rises with every delivery. 0 for content that bears none.
+/// Which content it is; it rises with every delivery. 0 for content that has none.
 int contentNumber(const ContentNotes& notes);
 
 /// Old keys and numbers with those that have taken their place.

@@ -127,7 +127,7 @@ Problems ContentTool::dump(const QString& database, const QString& folder, bool 
   }
   for (const SourceFile& source : sources) {
     const QString path = place.filePath(source.name);
-    // Where there is no folder there is no file either, and that is told.
+    // Where there is no folder there is no file either, and the learner reads so.
     static_cast<void>(m_files.makeFolder(QFileInfo(path).path()));
     if (m_files.write(path, source.bytes) != FileResult::Ok) problems.push_back(unwritable(path));
   }

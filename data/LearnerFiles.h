@@ -21,7 +21,7 @@ struct LearnerFiles {
 /// Whether two paths lead to the same folder, links resolved.
 bool isSameFolder(const QString& a, const QString& b);
 
-/// The names of the files of learner `userId`. The database bears no extension when such a file is
+/// The names of the files of learner `userId`. The database has no extension when such a file is
 /// in the placed folder, else ".mdb".
 LearnerFiles learnerFiles(const QString& userId, const QString& dbPath,
                           const QString& dbPathDefault);

@@ -35,7 +35,7 @@ QString fixedWidth(QStringView text, int width);
 /// A sentence's number in six places, blanks in front where it is shorter.
 QString sentencePlaces(QStringView 文番);
 
-/// A lesson or start entry that names a sentence bears the sentence mark at position 7.
+/// A lesson or start entry that names a sentence has the sentence mark at position 7.
 bool isSentenceEntry(QStringView entry);
 
 /// What an input method types for the wave dash and the minus sign, as the stored texts spell them.

@@ -30,7 +30,7 @@ std::optional<QString> keepAside(Files& files, const QString& path, const QDateT
 
 void takeBackHalfWritten(const Files& files, const QString& path) {
   if (!files.exists(path + journalEnding)) return;
-  // What cannot be opened is told by whoever opens it for its content.
+  // Whoever opens it for its content reports what cannot be opened.
   static_cast<void>(openDatabase(path));
 }
 

@@ -9,7 +9,7 @@ namespace tavoli {
 
 class Files;
 
-/// What a database's journal bears behind the database's name.
+/// What a database's journal has behind the database's name.
 inline const QString journalEnding = QStringLiteral("-journal");
 
 /// A name beside a file's own that is not taken, with the time behind it.

@@ -13,7 +13,7 @@ QString defaultDataFolder(const QString& applicationFolder);
 QString lessonFolder(const QString& applicationFolder);
 
 /// The placed folder that TavoAlloc.txt in the application's folder names. A file that is missing,
-/// unreadable or shorter than two characters is made anew with the default folder.
+/// unreadable or shorter than two characters is made again with the default folder.
 QString readPlacement(Files& files, const QString& applicationFolder);
 
 /// The application's folder, where the program's own data lie. Beside a program in its build folder

@@ -17,7 +17,7 @@ struct LearnerFiles;
 /// holds is ever lost: what is newer or of a descent of its own is kept under a dated name.
 class WorkingCopy {
  public:
-  /// Whether the working texts are still wanted; if not, the next login fetches them anew.
+  /// Whether the working texts are still wanted; if not, the next login fetches them again.
   enum class Texts { Stay, Go };
 
   WorkingCopy(const LearnerFiles& learner, Files& files, const Clock& clock, Dialogs& dialogs);

@@ -6,7 +6,7 @@
 #include "data/Courses.h"
 #include "data/CurrentRecord.h"
 
-// The texts that a question is shown with. Those with display marks are told.
+// The texts that a question is shown with. Each says whether it has display marks.
 namespace tavoli {
 
 /// What the answer box begins with for the k-th 小問: the given characters, or for a sentence that

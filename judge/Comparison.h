@@ -30,7 +30,7 @@ const std::vector<ComparisonChoice>& comparisonChoices();
 /// Where settings stand among the choices, from 0.
 int comparisonChoiceOf(const ComparisonSettings& settings);
 
-/// The verdicts, with the numbers that the messages of the drill go by.
+/// The verdicts, with the numbers that the messages of the drill use.
 enum class Verdict {
   Right = 1,        ///< equal to the answer
   Variant = 2,      ///< equal to a variant of a sentence or a synonym of a word

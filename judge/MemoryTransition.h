@@ -5,7 +5,7 @@
 #include "data/Codes.h"
 #include "judge/Comparison.h"
 
-// How a 小問 moves among 全然, うろ覚え and 完全. Both flows of the answer key go by this one
+// How a 小問 moves among 全然, うろ覚え and 完全. Both flows of the answer key use this one
 // function.
 namespace tavoli {
 

@@ -15,7 +15,7 @@ class AnswerClock {
  public:
   AnswerClock(const Clock& clock, AnswerScreen& screen, Speaker& speaker);
 
-  /// Begins anew; the answer has `targetSeconds`.
+  /// Begins again; the answer has `targetSeconds`.
   void startAnswerTimer(double targetSeconds);
   /// Goes on from the last start, towards another target.
   void resume(double targetSeconds);

@@ -83,7 +83,7 @@ AnswerFlow::After AnswerFlow::moveOn(const MemoryTransition& transition, Verdict
     m_shown.countMeaning();
     if (learnt) m_attempt.repeatsLeft = 1;
   } else if (learnt || (verdict == Verdict::Variant && m_attempt.tryCount <= 1)) {
-    // Of the right entries of a mini test, a variant alone sets the repeats anew.
+    // Of the right entries of a mini test, a variant alone sets the repeats again.
     m_attempt.repeatsLeft = m_state.conditions.firstRepeatSent;
   }
   remember(transition.state, transition.message, praise(verdict));

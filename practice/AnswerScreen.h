@@ -25,7 +25,7 @@ class AnswerScreen {
   /// Puts a text into the answer box with the caret behind it.
   virtual void setAnswer(const QString& text) = 0;
   virtual void focusAnswer() = 0;
-  /// The full answer, or what a wrong answer is told.
+  /// The full answer, or what is said of a wrong answer.
   virtual void showFullAnswer(const MarkedText& text) = 0;
   virtual void showMessage(const MarkedText& text) = 0;
   /// Puts a text into the look-up boxes.

@@ -24,7 +24,7 @@ class DamageGuard {
   QString memoryUnchanged();
 
  private:
-  /// Whether a kind of damage of the present item is to be told: the first time only.
+  /// Whether a kind of damage of the present item is news: the first time only.
   bool isNews(const QString& kind);
 
   const RunState& m_state;

@@ -148,7 +148,7 @@ void PracticeLoop::dispQuestion() {
   m_screen.showStatus(
       StatusPanel::Times,
       QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
-  // What was told of the last 小問, its answer perhaps, is not to help with this one.
+  // The message about the last 小問, perhaps with its answer, is not to help with this one.
   m_screen.showFullAnswer(MarkedText());
   m_screen.setAnswer(answerStart(record, POS1()));
   m_flow.ShowMiniTestNotice();

@@ -53,7 +53,7 @@ class PracticeLoop {
   /// Shows the first question. `timeUpSound` as in chooseTimeUpSound.
   void start(int timeUpSound);
 
-  /// Any key in the answer box: what the last entry was told goes away.
+  /// Any key in the answer box: the messages about the last entry disappear.
   void keyPressed();
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);

@@ -36,7 +36,7 @@ class ReviewDrill {
   /// The run ends: nothing is asked any more.
   void stop();
 
-  /// Any key in the answer box: what the last entry was told goes away.
+  /// Any key in the answer box: the messages about the last entry disappear.
   void keyPressed();
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);

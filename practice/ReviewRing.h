@@ -16,7 +16,7 @@ class ReviewRing {
   /// set, from 1.
   std::vector<int> reviewCheck(int reviewSlot);
 
-  /// Begins anew. For when the indices stand for other items.
+  /// Begins again. For when the indices stand for other items.
   void clear();
 
  private:

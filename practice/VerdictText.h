@@ -5,7 +5,7 @@
 #include "itemtext/MarkedText.h"
 #include "judge/Comparison.h"
 
-// What an entry is told, whichever drill judged it.
+// The messages about an entry, whichever drill judged it.
 namespace tavoli {
 
 /// What is to be typed for the k-th 小問: 正 of a sentence, 英語 of a word.

@@ -17,7 +17,7 @@ class SurveyScreen {
   virtual ~SurveyScreen() = default;
   /// A table is being counted, or no longer.
   virtual void setBusy(bool busy) = 0;
-  /// Shows the figures anew.
+  /// Shows the figures again.
   virtual void DispAchieve() = 0;
   /// Brings the page with the tables over all courses to the front.
   virtual void showTables() = 0;
@@ -25,7 +25,7 @@ class SurveyScreen {
   virtual std::optional<QString> chooseSpecialTable(const QStringList& tables) = 0;
 };
 
-/// Counts the tables of the learner's database anew on request. The figures are stored with the
+/// Counts the tables of the learner's database again on request. The figures are stored with the
 /// next run.
 class MemorySurvey {
  public:

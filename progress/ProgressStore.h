@@ -33,7 +33,7 @@ struct ProgressOwner {
 [[nodiscard]] bool loadProgress(Database& database, const ProgressOwner& owner, const Clock& clock,
                                 Dialogs& dialogs, ProgressCounters& counters, bool& backupDue);
 
-/// Counts the memory figures of the learner's row anew; all else in the row stays. A learner
+/// Counts the memory figures of the learner's row again; all else in the row stays. A learner
 /// without a row has it counted at the first use. False when it could not be read or stored.
 [[nodiscard]] bool recountMemory(Database& database);
 

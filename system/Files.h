@@ -25,7 +25,7 @@ class Files {
   /// The content, or nothing when the file is missing or cannot be read.
   [[nodiscard]] virtual std::optional<QByteArray> read(const QString& path) const = 0;
   virtual FileResult write(const QString& path, const QByteArray& content) = 0;
-  /// Replaces `to` by a copy of `from`, which bears the original's time and, where it is new, the
+  /// Replaces `to` by a copy of `from`, which keeps the original's time and, where it is new, the
   /// original's mode.
   virtual FileResult copy(const QString& from, const QString& to) = 0;
   /// Adds to a file, which is made where it is missing; all of `content` or, on failure, nothing.

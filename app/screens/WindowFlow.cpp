@@ -61,7 +61,7 @@ int WindowFlow::run() {
 }
 
 void WindowFlow::showState() {
-  // The login enlarges itself on large screens; the other windows go by the program's font.
+  // The login enlarges itself on large screens; the other windows use the program's font.
   const QSize screen = m_tavo1->screen()->size();
   QFont font = programFont();
   font.setPointSizeF(font.pointSizeF() * loginLayout(screen).scale);

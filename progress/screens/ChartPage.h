@@ -18,7 +18,7 @@ class ChartPage final : public QWidget {
   void showCharts(std::vector<BarChart> charts);
 
  protected:
-  /// Charts take their colours and type when they are drawn, so that they are drawn anew.
+  /// Charts take their colours and type when they are drawn, so that they are drawn again.
   void changeEvent(QEvent* event) override;
 
  private:

@@ -2,7 +2,7 @@
 
 namespace tavoli {
 
-/// Measures of the progress screen that go by the height of the screen in pixels.
+/// Measures of the progress screen that depend on the height of the screen in pixels.
 struct ProgressLayout {
   int buttonHeight;     ///< in pixels
   int tablesTopMargin;  ///< in pixels
