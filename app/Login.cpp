@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/Login.h"
 
 #include "conditions/ConditionsStore.h"
@@ -9,12 +11,14 @@
 #include "system/Dialogs.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
 constexpr int maxIdLength = 8;
-const QString standardUser = QStringLiteral("000");
+const QString standardUser = u"000"_s;
 
 }  // namespace
 
@@ -30,14 +34,13 @@ bool Login::next(LoginScreen& screen, const QString& typedId, const QString& typ
   m_screen = &screen;
   const QString id = trimBlanks(typedId);
   if (id.size() > maxIdLength)
-    return fail(
-        QStringLiteral("ユーザーＩＤ \"%1\" は長すぎます。8文字以下にして下さい。").arg(typedId));
+    return fail(u"ユーザーＩＤ \"%1\" は長すぎます。8文字以下にして下さい。"_s.arg(typedId));
   if (typedId.isEmpty()) {
     m_screen->setUserId(standardUser);
     return false;
   }
   m_module.learner = learnerFiles(id, m_module.dbPath, m_module.dbPathDefault);
-  if (isUnregistered(id)) return fail(QStringLiteral("ユーザーID \"%1\" は未登録です。").arg(id));
+  if (isUnregistered(id)) return fail(u"ユーザーID \"%1\" は未登録です。"_s.arg(id));
   if (logIn(typedPassword)) return true;
   m_workingCopy.letGo();
   return false;
@@ -46,7 +49,7 @@ bool Login::next(LoginScreen& screen, const QString& typedId, const QString& typ
 bool Login::isUnregistered(const QString& id) const {
   if (id.contains(u'/') || id.contains(u'\\')) return true;
   // These would be the backup, or the file, of another learner.
-  for (const QString& ending : {QStringLiteral("BackUp"), QStringLiteral(".mdb")})
+  for (const QString& ending : {u"BackUp"_s, u".mdb"_s})
     if (id.endsWith(ending, Qt::CaseInsensitive)) return true;
   return m_module.learner.placedElsewhere && !m_files.exists(m_module.learner.dbFilePlaced);
 }
@@ -58,7 +61,7 @@ bool Login::logIn(const QString& typedPassword) {
   if (!fetched) return false;
   const QString& work = m_module.learner.dbFileWork;
   if (!m_files.exists(work))
-    return fail(QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found").arg(work));
+    return fail(u"ユーザーIDを入れ直してください。\n%1 : not found"_s.arg(work));
   if (!checkPassword(typedPassword)) return false;
   m_workingCopy.fetchTexts();
   backUp();
@@ -79,9 +82,8 @@ std::optional<Database> Login::openWorkingCopy() {
   if (opened.errorNumber == openError::engine) {
     m_screen->showEngineTrouble();
   } else {
-    m_dialogs.show(
-        QStringLiteral("ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=%2")
-            .arg(work, QString::number(opened.errorNumber)));
+    m_dialogs.show(u"ユーザーIDを入れ直してください。\n%1 : not found    Err.Number=%2"_s.arg(
+        work, QString::number(opened.errorNumber)));
   }
   m_screen->focusUserId();
   return std::nullopt;
@@ -92,7 +94,7 @@ bool Login::checkPassword(const QString& typedPassword) {
   if (!database) return false;
   std::unique_ptr<TableCursor> rsBDIC = database->OpenRecordset(tableBDIC);
   if (!rsBDIC) {
-    m_dialogs.show(QStringLiteral("Error '91'"));
+    m_dialogs.show(u"Error '91'"_s);
     m_screen->showEngineTrouble();
     return false;
   }
@@ -101,13 +103,13 @@ bool Login::checkPassword(const QString& typedPassword) {
     rsBDIC.reset();
     if (!setFirstPassword(database, typedPassword)) return false;
     rsBDIC = database ? database->OpenRecordset(tableBDIC) : nullptr;
-    if (!rsBDIC) return fail(QStringLiteral("Error '91'"));
+    if (!rsBDIC) return fail(u"Error '91'"_s);
     rsBDIC->Seek(SeekOp::Equal, rowPassword);
   }
   const Field password = rsBDIC->value(field問正コ);
   rsBDIC.reset();
   if (password && *password != typedPassword) {
-    m_dialogs.show(QStringLiteral("パスワードを入れ直してください。"));
+    m_dialogs.show(u"パスワードを入れ直してください。"_s);
     m_screen->focusPassword();
     return false;
   }
@@ -119,13 +121,13 @@ bool Login::loadFigures(Database& database) {
   const ProgressOwner owner{m_module.learner.userId, m_module.course.COURSE, m_module.clock};
   m_module.backupDue = false;
   return loadProgress(database, owner, m_clock, m_dialogs, m_module.progress, m_module.backupDue) ||
-         fail(QStringLiteral("%1 に学習の進捗を書き込めません。空き容量とフォルダを確かめてから"
-                             "入れ直してください。")
-                  .arg(m_module.learner.dbFileWork));
+         fail(
+             u"%1 に学習の進捗を書き込めません。空き容量とフォルダを確かめてから"
+             "入れ直してください。"_s.arg(m_module.learner.dbFileWork));
 }
 
 bool Login::setFirstPassword(std::optional<Database>& database, const QString& typedPassword) {
-  if (!m_dialogs.ask(QStringLiteral("パスワードは「%1」です。").arg(typedPassword))) {
+  if (!m_dialogs.ask(u"パスワードは「%1」です。"_s.arg(typedPassword))) {
     m_screen->focusPassword();
     return false;
   }
@@ -135,19 +137,18 @@ bool Login::setFirstPassword(std::optional<Database>& database, const QString& t
     rows->AddNew();
     rows->setValue(field文番, rowPassword);
     if (!typedPassword.isEmpty()) rows->setValue(field問正コ, typedPassword);
-    rows->setValue(field記憶, QStringLiteral("0"));
-    rows->setValue(field回数, QStringLiteral("00"));
+    rows->setValue(field記憶, u"0"_s);
+    rows->setValue(field回数, u"00"_s);
     return rows->Update();
   });
   const LearnerFiles& learner = m_module.learner;
-  if (!stored)
-    return fail(QStringLiteral("%1 にパスワードを書き込めません。").arg(learner.dbFileWork));
+  if (!stored) return fail(u"%1 にパスワードを書き込めません。"_s.arg(learner.dbFileWork));
   if (!learner.placedElsewhere) return true;
   database.reset();
   if (!m_workingCopy.carryDatabaseHome()) {
     m_dialogs.show(
-        QStringLiteral("%1 にパスワードを保存できませんでした。練習の終了時にもう一度保存します。")
-            .arg(learner.dbFilePlaced));
+        u"%1 にパスワードを保存できませんでした。練習の終了時にもう一度保存します。"_s.arg(
+            learner.dbFilePlaced));
   }
   database = openWorkingCopy();
   return database.has_value();
@@ -157,9 +158,8 @@ void Login::backUp() {
   const LearnerFiles& learner = m_module.learner;
   if (m_files.exists(learner.backupFile) && !m_module.backupDue) return;
   if (m_files.copy(learner.dbFilePlaced, learner.backupFile) != FileResult::Ok) {
-    m_dialogs.show(
-        QStringLiteral("個人データベースの控え %1 を作れませんでした。学習は続けられます。")
-            .arg(learner.backupFile));
+    m_dialogs.show(u"個人データベースの控え %1 を作れませんでした。学習は続けられます。"_s.arg(
+        learner.backupFile));
   }
 }
 

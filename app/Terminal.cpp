@@ -1,20 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/Terminal.h"
 
 #include <termios.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString areaBox = QStringLiteral("箱");
-const QString areaAnswer = QStringLiteral("回答");
-const QString areaQuestion = QStringLiteral("問題");
-const QString areaSubQuestion = QStringLiteral("小問");
-const QString areaFullAnswer = QStringLiteral("正解");
-const QString areaMessage = QStringLiteral("表示");
-const QString areaConfirmation = QStringLiteral("確認");
-const QString areaReview = QStringLiteral("復習");
+const QString areaBox = u"箱"_s;
+const QString areaAnswer = u"回答"_s;
+const QString areaQuestion = u"問題"_s;
+const QString areaSubQuestion = u"小問"_s;
+const QString areaFullAnswer = u"正解"_s;
+const QString areaMessage = u"表示"_s;
+const QString areaConfirmation = u"確認"_s;
+const QString areaReview = u"復習"_s;
 
 /// The text with its marks written out as the sources spell them.
 QString withMarks(const MarkedText& marked) {
@@ -43,7 +47,7 @@ void Terminal::show(const QString& area, const QString& text) {
 
 void Terminal::print(const QString& area, const QString& text) {
   QString lines = text.endsWith(u'\n') ? text.chopped(1) : text;
-  lines.replace(u'\n', QStringLiteral("\n    "));
+  lines.replace(u'\n', u"\n    "_s);
   if (!lines.isEmpty()) lines.prepend(u' ');
   m_out << u'[' << area << u']' << lines << Qt::endl;
 }
@@ -72,21 +76,21 @@ std::optional<QString> Terminal::readHiddenLine() {
 }
 
 void TerminalDialogs::show(const QString& text) {
-  m_terminal.show(areaBox, text + QStringLiteral("（空の行でOK）"));
+  m_terminal.show(areaBox, text + u"（空の行でOK）"_s);
   while (const std::optional<QString> line = m_terminal.readLine()) {
     if (line->isEmpty() || *line == u":ok") break;
-    m_terminal.print(areaBox, QStringLiteral("先に空の行を入れてください。"));
+    m_terminal.print(areaBox, u"先に空の行を入れてください。"_s);
   }
   m_terminal.show(areaBox, QString());
 }
 
 bool TerminalDialogs::ask(const QString& text) {
-  m_terminal.show(areaBox, text + QStringLiteral("（:yes / :no）"));
+  m_terminal.show(areaBox, text + u"（:yes / :no）"_s);
   bool yes = false;
   while (const std::optional<QString> line = m_terminal.readLine()) {
     yes = *line == u":yes";
     if (yes || *line == u":no") break;
-    m_terminal.print(areaBox, QStringLiteral("先に :yes か :no を入れてください。"));
+    m_terminal.print(areaBox, u"先に :yes か :no を入れてください。"_s);
   }
   m_terminal.show(areaBox, QString());
   return yes;
@@ -94,12 +98,11 @@ bool TerminalDialogs::ask(const QString& text) {
 
 void TerminalLogin::setUserId(const QString& text) {
   userId = text;
-  m_terminal.show(QStringLiteral("ユーザーID"), text);
+  m_terminal.show(u"ユーザーID"_s, text);
 }
 
 void TerminalLogin::showEngineTrouble() {
-  m_terminal.show(areaBox,
-                  QStringLiteral("データベースを使えません。Tavoli を入れ直してください。"));
+  m_terminal.show(areaBox, u"データベースを使えません。Tavoli を入れ直してください。"_s);
 }
 
 template <class Screen>
@@ -138,50 +141,47 @@ void TerminalAnswers<Screen>::lookUp(const QString& text) {
 
 template <class Screen>
 void TerminalAnswers<Screen>::showTime(const AnswerTime& time) {
-  m_terminal.show(QStringLiteral("時間"),
-                  time.used >= 1 ? QStringLiteral("%1秒　時間切れ").arg(time.seconds) : QString());
+  m_terminal.show(u"時間"_s, time.used >= 1 ? u"%1秒　時間切れ"_s.arg(time.seconds) : QString());
 }
 
 template <class Screen>
 void TerminalAnswers<Screen>::awaitConfirmation(bool awaited) {
-  m_terminal.show(areaConfirmation, awaited ? QStringLiteral("空の行で次に進みます。") : QString());
+  m_terminal.show(areaConfirmation, awaited ? u"空の行で次に進みます。"_s : QString());
 }
 
 template class TerminalAnswers<PracticeScreen>;
 template class TerminalAnswers<ReviewScreen>;
 
 void TerminalPractice::showCaption(const QString& text) {
-  m_terminal.show(QStringLiteral("見出し"), text);
+  m_terminal.show(u"見出し"_s, text);
 }
 
 void TerminalPractice::showSource(const QString& text) {
-  m_terminal.show(QStringLiteral("出典"), text);
+  m_terminal.show(u"出典"_s, text);
 }
 
 void TerminalPractice::showMiniTest(const MarkedText& text) {
-  m_terminal.show(QStringLiteral("小試験"), withMarks(text));
+  m_terminal.show(u"小試験"_s, withMarks(text));
 }
 
 void TerminalPractice::showLog(const QStringList& runLog, bool shown) {
-  m_terminal.show(QStringLiteral("経過"), shown ? runLog.join(u'\n') : QString());
+  m_terminal.show(u"経過"_s, shown ? runLog.join(u'\n') : QString());
 }
 
 void TerminalPractice::showCounts(const RunCounts& counts) {
   QStringList parts;
-  const QStringList levels = {QStringLiteral("中学"), QStringLiteral("高校"),
-                              QStringLiteral("専門")};
+  const QStringList levels = {u"中学"_s, u"高校"_s, u"専門"_s};
   for (size_t i = 0; i < counts.run.words.size(); ++i) {
     if (counts.run.words[i] + counts.run.sentences[i] > 0)
-      parts.append(QStringLiteral("%1 単語・熟語 %2 例文 %3")
-                       .arg(levels[static_cast<qsizetype>(i)])
+      parts.append(u"%1 単語・熟語 %2 例文 %3"_s.arg(levels[static_cast<qsizetype>(i)])
                        .arg(counts.run.words[i])
                        .arg(counts.run.sentences[i]));
   }
-  m_terminal.show(QStringLiteral("回数"), parts.join(QStringLiteral("、")));
+  m_terminal.show(u"回数"_s, parts.join(u"、"_s));
 }
 
 void TerminalPractice::showStatus(StatusPanel panel, const QString& text) {
-  m_terminal.show(QStringLiteral("状態%1").arg(static_cast<int>(panel)), text);
+  m_terminal.show(u"状態%1"_s.arg(static_cast<int>(panel)), text);
 }
 
 void TerminalPractice::begin(int loadTotal) {
@@ -189,7 +189,7 @@ void TerminalPractice::begin(int loadTotal) {
 }
 
 bool TerminalPractice::reached(int loadDone) {
-  m_terminal.show(QStringLiteral("読込"), QStringLiteral("%1／%2").arg(loadDone).arg(m_loadTotal));
+  m_terminal.show(u"読込"_s, u"%1／%2"_s.arg(loadDone).arg(m_loadTotal));
   return true;
 }
 

@@ -1,12 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/TerminalConditions.h"
 
 #include "conditions/ConditionsText.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
 namespace {
 
-const QString areaBox = QStringLiteral("箱");
+const QString areaBox = u"箱"_s;
 
 QString textOf(const ConditionLines& lines) {
   QStringList texts;
@@ -18,12 +22,12 @@ QString textOf(const ConditionLines& lines) {
 
 void TerminalConditions::showPresent(const CourseChoice& course,
                                      const PracticeConditions& conditions) {
-  m_terminal.print(QStringLiteral("条件"), textOf(describeConditions(course, conditions)));
+  m_terminal.print(u"条件"_s, textOf(describeConditions(course, conditions)));
 }
 
 void TerminalConditions::showAll(const CourseChoice& course, const PracticeConditions& conditions) {
   showPresent(course, conditions);
-  m_terminal.print(QStringLiteral("前回"), textOf(describePastRun(m_past)));
+  m_terminal.print(u"前回"_s, textOf(describePastRun(m_past)));
 }
 
 void TerminalConditions::showPastRun(const QString&, const PastRun& run) {
@@ -33,17 +37,16 @@ void TerminalConditions::showPastRun(const QString&, const PastRun& run) {
 std::optional<QString> TerminalConditions::chooseSpecialTable(const QStringList& tables,
                                                               const QString& present) {
   const QString first = present.isEmpty() ? tables.value(0) : present;
-  m_terminal.show(
-      areaBox,
-      QStringLiteral("専門ＤＢを選択して下さい。（名前、空の行で %1、:no でキャンセル）\n%2")
-          .arg(first, tables.join(u'\n')));
+  m_terminal.show(areaBox,
+                  u"専門ＤＢを選択して下さい。（名前、空の行で %1、:no でキャンセル）\n%2"_s.arg(
+                      first, tables.join(u'\n')));
   std::optional<QString> chosen;
   while (const std::optional<QString> line = m_terminal.readLine()) {
     if (*line == u":no") break;
     if (line->isEmpty()) chosen = first;
     if (tables.contains(*line)) chosen = *line;
     if (chosen) break;
-    m_terminal.print(areaBox, *line + QStringLiteral(" はありません。"));
+    m_terminal.print(areaBox, *line + u" はありません。"_s);
   }
   m_terminal.show(areaBox, QString());
   return chosen;

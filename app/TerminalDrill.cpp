@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/TerminalDrill.h"
 
 #include <cstdlib>
@@ -11,6 +13,8 @@
 #include "practice/PracticeRun.h"
 #include "progress/ProgressReport.h"
 #include "progress/TableSurvey.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -30,7 +34,7 @@ using LineKeys = std::vector<LineKey>;
 LineKeys linesOf(const DrillKeys& keys, void (*keyPressed)(PracticeLoop&)) {
   LineKeys lines;
   for (const DrillKey& key : keys.inOrder())
-    lines.push_back({QStringLiteral(":F%1").arg(static_cast<int>(key.key)), key.name,
+    lines.push_back({u":F%1"_s.arg(static_cast<int>(key.key)), key.name,
                      [keyPressed, press = key.press](PracticeLoop& loop) {
                        keyPressed(loop);
                        press(loop, Pressed::Key);
@@ -42,7 +46,7 @@ LineKey lineOf(const MenuCommand& command) {
   return {u':' + command.name, command.caption, command.press};
 }
 
-const LineKey quit{QStringLiteral(":quit"), QStringLiteral("すぐ終了"), &PracticeLoop::exitAtOnce};
+const LineKey quit{u":quit"_s, u"すぐ終了"_s, &PracticeLoop::exitAtOnce};
 
 const LineKeys& practiceLines() {
   static const LineKeys lines = [] {
@@ -73,12 +77,12 @@ const LineKeys& reviewLines() {
 template <class Screen>
 void pressOneOf(const LineKeys& keys, const QStringList& others, Terminal& terminal,
                 PracticeLoop& loop, Screen& screen, const QString& key) {
-  const QString look = QStringLiteral(":look ");
+  const QString look = u":look "_s;
   if (key.startsWith(look)) {
     screen.lookUp(key.sliced(look.size()));
     return;
   }
-  QStringList help = QStringList{QStringLiteral(":look 語 辞書を引く")} + others;
+  QStringList help = QStringList{u":look 語 辞書を引く"_s} + others;
   for (const LineKey& known : keys) {
     if (known.line == key) {
       known.press(loop);
@@ -86,9 +90,7 @@ void pressOneOf(const LineKeys& keys, const QStringList& others, Terminal& termi
     }
     help.append(known.line + u' ' + known.word);
   }
-  terminal.show(
-      QStringLiteral("表示"),
-      QStringLiteral("%1 というキーはありません。%2").arg(key, help.join(QStringLiteral("、"))));
+  terminal.show(u"表示"_s, u"%1 というキーはありません。%2"_s.arg(key, help.join(u"、"_s)));
 }
 
 /// What a line leaves in the answer box. In a window the learner types on behind the given start;
@@ -133,7 +135,7 @@ bool TerminalDrill::login(Login& login, TerminalLogin& screen) {
   }
   for (;;) {
     const QString before = screen.userId;
-    m_terminal.print(QStringLiteral("入力"), QStringLiteral("ユーザーID："));
+    m_terminal.print(u"入力"_s, u"ユーザーID："_s);
     const std::optional<QString> id = m_terminal.readLine();
     if (!id) return false;
     screen.userId = id->isEmpty() ? before : *id;
@@ -151,7 +153,7 @@ std::optional<QString> TerminalDrill::password() {
 }
 
 std::optional<QString> TerminalDrill::askPassword() {
-  m_terminal.print(QStringLiteral("入力"), QStringLiteral("パスワード："));
+  m_terminal.print(u"入力"_s, u"パスワード："_s);
   return m_terminal.readHiddenLine();
 }
 
@@ -182,12 +184,12 @@ void TerminalDrill::showProgress() {
   QStringList lines;
   for (const NumberTable& table : ProgressReport(m_module.progress).tables()) {
     const auto line = [&](const QString& title, const QStringList& cells) {
-      lines.append(title.trimmed() + u'：' + cells.join(QStringLiteral(" / ")));
+      lines.append(title.trimmed() + u'：' + cells.join(u" / "_s));
     };
     line(table.title, table.columns);
     for (int row = 0; row < table.rows.size(); ++row) line(table.rows[row], table.cells[row]);
   }
-  m_terminal.show(QStringLiteral("進捗"), lines.join(u'\n'));
+  m_terminal.show(u"進捗"_s, lines.join(u'\n'));
 }
 
 int TerminalDrill::practise(const QString& startKey) {
@@ -229,8 +231,7 @@ void TerminalDrill::pressInPractice(PracticeLoop& loop, TerminalPractice& screen
     m_conditions.showAll(m_module.course, loop.conditions());
     return;
   }
-  pressOneOf(practiceLines(), {QStringLiteral(":conditions 練習条件")}, m_terminal, loop, screen,
-             key);
+  pressOneOf(practiceLines(), {u":conditions 練習条件"_s}, m_terminal, loop, screen, key);
 }
 
 void TerminalDrill::pressInReview(PracticeLoop& loop, TerminalReview& screen, const QString& key) {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QApplication>
 #include <QDir>
 #include <QLibraryInfo>
@@ -12,6 +14,8 @@
 #include "home/Placement.h"
 #include "system/LogFile.h"
 #include "system/screens/PagedPaper.h"
+
+using namespace Qt::StringLiterals;
 
 using namespace tavoli;
 
@@ -73,7 +77,7 @@ int main(int argc, char** argv) {
     std::fputs("tavoli: 画面がありません。端末では tavoli --terminal で練習できます。\n", stderr);
     return badArguments;
   }
-  QCoreApplication::setApplicationName(QStringLiteral("tavoli"));
+  QCoreApplication::setApplicationName(u"tavoli"_s);
   QCoreApplication::setApplicationVersion(QStringLiteral(TAVOLI_VERSION));
   if (line.terminal) {
     // Printing needs fonts, and fonts need an application with a screen, if only an imagined one.
@@ -84,8 +88,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   // Qt's own texts: the buttons of boxes and the folder dialog.
   QTranslator japanese;
-  if (japanese.load(QStringLiteral("qtbase_ja"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+  if (japanese.load(u"qtbase_ja"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QCoreApplication::installTranslator(&japanese);
   return start(line);
 }

@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/AutoPlaySettings.h"
 
 #include <algorithm>
 
 #include "data/Schema.h"
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -24,9 +28,7 @@ AutoPlaySettings readAutoPlaySettings(TableCursor& rsBDIC) {
 }
 
 bool saveAutoPlaySettings(TableCursor& rsBDIC, const AutoPlaySettings& settings) {
-  if (!rsBDIC.EditOrAddNew(rowAutoPlay,
-                           {{field回数, QStringLiteral("67")}, {field記憶, QStringLiteral("2")}}))
-    return false;
+  if (!rsBDIC.EditOrAddNew(rowAutoPlay, {{field回数, u"67"_s}, {field記憶, u"2"_s}})) return false;
   rsBDIC.setValue(field問正コ, digits(settings.autoCount, 4) + digits(settings.autoKeyTime, 4) +
                                    digits(settings.autoEnterTime, 5) +
                                    digits(settings.timeUpSound, 1));

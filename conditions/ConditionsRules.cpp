@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/ConditionsRules.h"
 
 #include "conditions/ConditionsStore.h"
@@ -9,11 +11,13 @@
 #include "system/Dialogs.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString lastRunCaption = QStringLiteral("前回（中学／高校／専門別）");
+const QString lastRunCaption = u"前回（中学／高校／専門別）"_s;
 
 /// Shows the wait cursor as long as it lives.
 class Busy {
@@ -165,7 +169,7 @@ void ConditionsRules::chooseMethod(SelMethod selMethod) {
   m_screen->showMethod(selMethod);
   if (m_conditions.usesLesson()) {
     if (m_conditions.isRandom() && m_conditions.startMode != StartMode::first) {
-      m_services.dialogs.show(QStringLiteral("開始英語の指定を「最初から」に設定します。"));
+      m_services.dialogs.show(u"開始英語の指定を「最初から」に設定します。"_s);
       chooseStartMode(StartMode::first);
     }
     m_screen->focusLessonName();
@@ -208,12 +212,10 @@ void ConditionsRules::chooseStartMode(StartMode startMode) {
 void ConditionsRules::tellBrokenStart() {
   m_startBroken = true;
   QStringList lines = {
-      QStringLiteral("開始英語の指定が"),
-      QStringLiteral("「・前回と同じ英語から」、「・前回の最後に続けて」の場合は"),
-      QStringLiteral(
-          "前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 ")};
+      u"開始英語の指定が"_s, u"「・前回と同じ英語から」、「・前回の最後に続けて」の場合は"_s,
+      u"前回と「同じレッスンファイル」、「同じ練習対象の選択方法」でなければなりません。 "_s};
   if (sameMethodAsLastRun()) lines.append(m_snapshot.lessonFile + u'≠' + m_conditions.lessonFile);
-  lines.append(QStringLiteral("今回は最初から実行します。"));
+  lines.append(u"今回は最初から実行します。"_s);
   m_services.dialogs.show(lines.join(u'\n'));
 }
 
@@ -274,8 +276,7 @@ void ConditionsRules::pickLesson(const QString& folder, const QString& name) {
   // The record keeps both in one text, with "|" between them.
   if (folder.contains(fieldMark) || (folder + name).contains(u'\n')) {
     m_services.dialogs.show(
-        QStringLiteral("%1 は名前に使えない文字（| や改行）を含むので、選べません。")
-            .arg(pathIn(folder, name)));
+        u"%1 は名前に使えない文字（| や改行）を含むので、選べません。"_s.arg(pathIn(folder, name)));
     return;
   }
   m_screen->showLessonName(name);
@@ -327,13 +328,12 @@ void ConditionsRules::choosePastRun(int index) {
 
 std::optional<QString> ConditionsRules::next() {
   if (m_course.COURSE == Course::専門 && trimBlanks(m_course.specialTable).isEmpty()) {
-    m_services.dialogs.show(QStringLiteral("専門辞書の指定ができていません。"));
+    m_services.dialogs.show(u"専門辞書の指定ができていません。"_s);
     return std::nullopt;
   }
   if (m_conditions.usesLesson()) {
-    const QString trouble = m_lesson.exists()
-                                ? m_lesson.trouble()
-                                : m_lesson.path() + QStringLiteral("は見つかりません。");
+    const QString trouble =
+        m_lesson.exists() ? m_lesson.trouble() : m_lesson.path() + u"は見つかりません。"_s;
     if (!trouble.isEmpty()) {
       m_services.dialogs.show(trouble);
       return std::nullopt;

@@ -1,7 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/ConditionsStore.h"
 
 #include "data/Schema.h"
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -15,7 +19,7 @@ CourseChoice readCourse(Database& database, const CourseChoice& before) {
     rsBDIC->AddNew();
     rsBDIC->setValue(field文番, rowCourse);
     rsBDIC->setValue(field記憶, QString(stored(course.COURSE)));
-    rsBDIC->setValue(field回数, QStringLiteral("00"));
+    rsBDIC->setValue(field回数, u"00"_s);
     rsBDIC->setValue(field問正コ, QString());
     // Standard values count without being stored.
     static_cast<void>(rsBDIC->Update());
@@ -29,7 +33,7 @@ CourseChoice readCourse(Database& database, const CourseChoice& before) {
 }
 
 bool saveCourse(TableCursor& rsBDIC, const CourseChoice& course) {
-  if (!rsBDIC.EditOrAddNew(rowCourse, {{field回数, QStringLiteral("00")}})) return false;
+  if (!rsBDIC.EditOrAddNew(rowCourse, {{field回数, u"00"_s}})) return false;
   rsBDIC.setValue(field記憶, QString(stored(course.COURSE)));
   if (course.COURSE == Course::専門) rsBDIC.setValue(field問正コ, trimBlanks(course.specialTable));
   return rsBDIC.Update();
@@ -45,9 +49,9 @@ PracticeConditions loadConditions(TableCursor& rsTDIC, const QString& userId,
     rsTDIC.AddNew();
     rsTDIC.setValue(field英語, rowConditions);
     rsTDIC.setValue(field発同日コ, encodeConditions(conditions));
-    rsTDIC.setValue(fieldレベル, QStringLiteral("00"));
+    rsTDIC.setValue(fieldレベル, u"00"_s);
     rsTDIC.setValue(field記憶, QString(stored(MemoryState::全然)));
-    rsTDIC.setValue(field回数, QStringLiteral("00"));
+    rsTDIC.setValue(field回数, u"00"_s);
     static_cast<void>(rsTDIC.Update());  // as for the course
     return conditions;
   }

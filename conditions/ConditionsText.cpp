@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/ConditionsText.h"
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -17,7 +21,7 @@ QString courseText(Course COURSE, const QString& specialTable) {
 }
 
 QString levelText(const QString& from, const QString& to) {
-  return QStringLiteral("%1 ～ %2").arg(numberOf(from)).arg(numberOf(to));
+  return u"%1 ～ %2"_s.arg(numberOf(from)).arg(numberOf(to));
 }
 
 /// The fields that the present and a past run have in common.
@@ -30,49 +34,44 @@ struct Common {
 };
 
 ConditionLines linesOf(const Common& c) {
-  ConditionLines lines = {{QStringLiteral("コース"), c.course},
-                          {QStringLiteral("練習対象"), methodName(c.selMethod)}};
+  ConditionLines lines = {{u"コース"_s, c.course}, {u"練習対象"_s, methodName(c.selMethod)}};
   if (materialOf(c.selMethod) == Material::lesson)
-    lines.append({QStringLiteral("レッスンファイル"), c.lessonFile});
-  lines.append({QStringLiteral("開始英語"), c.startMode == StartMode::named
-                                                ? startModeName(c.startMode) + u' ' + c.startEnglish
-                                                : startModeName(c.startMode)});
-  lines.append({QStringLiteral("前回の最初と最後"),
-                trimBlanks(c.firstEnglish) + QStringLiteral(" ～ ") + trimBlanks(c.lastEnglish)});
-  lines.append({QStringLiteral("記憶状態"), memorySelectName(c.memorySelect)});
-  lines.append({QStringLiteral("レベル"), c.levels});
+    lines.append({u"レッスンファイル"_s, c.lessonFile});
+  lines.append({u"開始英語"_s, c.startMode == StartMode::named
+                                   ? startModeName(c.startMode) + u' ' + c.startEnglish
+                                   : startModeName(c.startMode)});
+  lines.append(
+      {u"前回の最初と最後"_s, trimBlanks(c.firstEnglish) + u" ～ "_s + trimBlanks(c.lastEnglish)});
+  lines.append({u"記憶状態"_s, memorySelectName(c.memorySelect)});
+  lines.append({u"レベル"_s, c.levels});
   return lines;
 }
 
 }  // namespace
 
 QString methodName(SelMethod selMethod) {
-  return nameOf(
-      selMethod,
-      {QStringLiteral("レッスンファイル　順に"), QStringLiteral("レッスンファイル　ランダムに"),
-       QStringLiteral("単語熟語　順に"), QStringLiteral("単語熟語　ランダムに"),
-       QStringLiteral("例文　順に"), QStringLiteral("例文　ランダムに")});
+  return nameOf(selMethod, {u"レッスンファイル　順に"_s, u"レッスンファイル　ランダムに"_s,
+                            u"単語熟語　順に"_s, u"単語熟語　ランダムに"_s, u"例文　順に"_s,
+                            u"例文　ランダムに"_s});
 }
 
 QString startModeName(StartMode startMode) {
-  return nameOf(startMode, {QStringLiteral("前回と同じ英語から"), QStringLiteral("最初から"),
-                            QStringLiteral("前回の最後に続けて"), QStringLiteral("指定する")});
+  return nameOf(startMode,
+                {u"前回と同じ英語から"_s, u"最初から"_s, u"前回の最後に続けて"_s, u"指定する"_s});
 }
 
 QString memorySelectName(MemorySelect memorySelect) {
-  return nameOf(memorySelect, {QStringLiteral("「全然」"), QStringLiteral("「全然」と「うろ覚え」"),
-                               QStringLiteral("「うろ覚え」"), QStringLiteral("「完全」"),
-                               QStringLiteral("「完全」と「うろ覚え」"),
-                               QStringLiteral("「完全」と「うろ覚え」と「全然」")});
+  return nameOf(memorySelect,
+                {u"「全然」"_s, u"「全然」と「うろ覚え」"_s, u"「うろ覚え」"_s, u"「完全」"_s,
+                 u"「完全」と「うろ覚え」"_s, u"「完全」と「うろ覚え」と「全然」"_s});
 }
 
 ConditionLines describeConditions(const CourseChoice& course, const PracticeConditions& c) {
   ConditionLines lines = linesOf({courseText(course.COURSE, course.specialTable), c.selMethod,
                                   c.startMode, c.memorySelect, c.startEnglish, c.firstEnglish,
                                   c.lastEnglish, levelText(c.levelFrom, c.levelTo), c.lessonFile});
-  lines.append({QStringLiteral("最大読込数"),
-                QStringLiteral("単語熟語 %1　例文 %2").arg(c.maxLoadWords).arg(c.maxLoadSent)});
-  lines.append({QStringLiteral("復習周期"), QString::number(c.reviewCycle)});
+  lines.append({u"最大読込数"_s, u"単語熟語 %1　例文 %2"_s.arg(c.maxLoadWords).arg(c.maxLoadSent)});
+  lines.append({u"復習周期"_s, QString::number(c.reviewCycle)});
   return lines;
 }
 

@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/LessonChoice.h"
 
 #include "data/LessonFile.h"
 #include "data/Text.h"
 #include "system/Files.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -27,9 +31,9 @@ void LessonChoice::read() {
   const auto lines = readLessonLines(m_files, path());
   m_lines = lines.value_or(QStringList()).mid(0, maxLessonLines);
   if (!lines)
-    m_trouble = QStringLiteral(
-                    "%1 は読めません。レッスンファイル（文字だけのファイル）を選び直してください。")
-                    .arg(path());
+    m_trouble =
+        u"%1 は読めません。レッスンファイル（文字だけのファイル）を選び直してください。"_s.arg(
+            path());
 }
 
 void LessonChoice::dropMissing() {

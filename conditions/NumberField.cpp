@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/NumberField.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -158,8 +162,8 @@ void stepNumber(NumberField field, int steps, PracticeConditions& conditions) {
 
 QString numberBounds(NumberField field) {
   const auto [least, most] = boundsOf(field);
-  return (isRate(field) ? QStringLiteral("%1 から %2 までの数にしてください。")
-                        : QStringLiteral("%1 から %2 までの整数にしてください。"))
+  return (isRate(field) ? u"%1 から %2 までの数にしてください。"_s
+                        : u"%1 から %2 までの整数にしてください。"_s)
       .arg(least)
       .arg(most);
 }

@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/PastConditions.h"
 
 #include "data/LearnerFiles.h"
 #include "data/Text.h"
 #include "data/TextFile.h"
 #include "system/Files.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -18,9 +22,8 @@ QChar characterAt(const QString& line, qsizetype position) {
 QString pastConditionsLine(QDate date, const CourseChoice& course, const PracticeConditions& c) {
   // From here on the line is the record of the tables with other things before and behind.
   const QString record = encodeConditions(c);
-  return date.toString(QStringLiteral("yyyy/MM/dd")) + stored(course.COURSE) +
-         cut(record, 10, 174) + fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark +
-         c.lessonFile;
+  return date.toString(u"yyyy/MM/dd"_s) + stored(course.COURSE) + cut(record, 10, 174) +
+         fixedWidth(course.specialTable, 25) + c.lessonFolder + fieldMark + c.lessonFile;
 }
 
 PastRun lastRun(const CourseChoice& course, const PracticeConditions& c) {
@@ -61,7 +64,7 @@ QStringList listPastConditions(const QStringList& lines) {
   for (int n = 0; n < lines.size(); ++n) {
     const auto course = codeOf<Course>(characterAt(lines[n], 11));
     if (isCourse(course)) letter = factsOf(course).letter;
-    entries.append(digits(n + 1, 3) + QStringLiteral("　") + cut(lines[n], 1, 10) + letter);
+    entries.append(digits(n + 1, 3) + u"　"_s + cut(lines[n], 1, 10) + letter);
   }
   return entries;
 }

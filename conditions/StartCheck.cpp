@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/StartCheck.h"
 
 #include <algorithm>
@@ -7,13 +9,15 @@
 #include "data/Text.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
 constexpr int sentenceKeyWidth = 6;
 
-const QString goOn = QStringLiteral("\n無視して続けますか。");
+const QString goOn = u"\n無視して続けますか。"_s;
 
 bool namesSentence(const QString& key) {
   return !key.isEmpty() && key[0] >= u'0' && key[0] <= u'9';
@@ -32,8 +36,8 @@ StartCheck checkLessonStart(const QString& named, const PracticeConditions& cond
                     : trimBlanks(line) == named;
   });
   if (!found)
-    check.question = QStringLiteral("指定開始英語の ") + check.startKey + QStringLiteral(" は ") +
-                     conditions.lessonFile + QStringLiteral(" の中にありません。") + goOn;
+    check.question = u"指定開始英語の "_s + check.startKey + u" は "_s + conditions.lessonFile +
+                     u" の中にありません。"_s + goOn;
   return check;
 }
 
@@ -41,7 +45,7 @@ StartCheck checkTableStart(const QString& named, const PracticeConditions& condi
                            const CourseChoice& course, const Files& files, const QString& path) {
   StartCheck check{named, {}, {}};
   if (!files.exists(path)) {
-    check.trouble = path + QStringLiteral(" : not found");
+    check.trouble = path + u" : not found"_s;
     return check;
   }
   OpenedDatabase opened = openDatabase(path);
@@ -60,19 +64,17 @@ StartCheck checkTableStart(const QString& named, const PracticeConditions& condi
   }
   rows->Seek(SeekOp::Equal, words ? named : named.left(sentenceKeyWidth));
   if (rows->NoMatch())
-    check.question = QStringLiteral("指定開始英語の ") + named +
-                     QStringLiteral(" はデータベース中にありません。") + goOn;
+    check.question = u"指定開始英語の "_s + named + u" はデータベース中にありません。"_s + goOn;
   return check;
 }
 
 QString openTrouble(const QString& path, int errorNumber) {
-  return path + QStringLiteral(" : OpenDatabase error    Err.Number=") +
-         QString::number(errorNumber);
+  return path + u" : OpenDatabase error    Err.Number="_s + QString::number(errorNumber);
 }
 
 QString missingTable(const QString& specialTable) {
-  return QStringLiteral("専門単熟DB ") + specialTable +
-         QStringLiteral(" が見つかりません。「中学／高校／専門の選択」で指定し直してください。");
+  return u"専門単熟DB "_s + specialTable +
+         u" が見つかりません。「中学／高校／専門の選択」で指定し直してください。"_s;
 }
 
 }  // namespace tavoli

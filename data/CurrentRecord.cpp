@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/CurrentRecord.h"
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -120,15 +124,14 @@ QString BuildPronunciationText(const QString& 発音, const QString& shownBefore
   for (qsizetype i = 1; i < s.size(); ++i) {
     if (s[i] == u'′' || s[i] == u'’') {
       const QChar stressed = s[i - 1];
-      s.replace(i - 1, 2, QStringLiteral("{%1}").arg(stressed));
+      s.replace(i - 1, 2, u"{%1}"_s.arg(stressed));
       ++i;
     }
   }
   QString warning;
-  if (s[0] == u'ァ') warning = QStringLiteral("  {アクセント注意}");
-  if (s[0] == u'発') warning = QStringLiteral("  {発音注意}");
-  return warning + QStringLiteral("［ ") + (warning.isEmpty() ? s : s.sliced(1)) +
-         QStringLiteral(" ］");
+  if (s[0] == u'ァ') warning = u"  {アクセント注意}"_s;
+  if (s[0] == u'発') warning = u"  {発音注意}"_s;
+  return warning + u"［ "_s + (warning.isEmpty() ? s : s.sliced(1)) + u" ］"_s;
 }
 
 }  // namespace tavoli

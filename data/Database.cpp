@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/Database.h"
 
 #include <QFile>
@@ -10,6 +12,8 @@
 #include "data/Descent.h"
 #include "data/Schema.h"
 #include "data/StoreLog.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -82,8 +86,8 @@ bool Database::scanCodes(const QString& table, const QString& field,
   try {
     if (!m_connection->tableExists(table.toStdString())) return false;
     const QString key = keyField(table);
-    const QString sql = QStringLiteral("SELECT %1,%2 FROM %3 ORDER BY %4,%1,rowid")
-                            .arg(key, field, schema::quoted(table), schema::orderColumn);
+    const QString sql = u"SELECT %1,%2 FROM %3 ORDER BY %4,%1,rowid"_s.arg(
+        key, field, schema::quoted(table), schema::orderColumn);
     SQLite::Statement rows(*m_connection, sql.toStdString());
     while (rows.executeStep()) {
       const char* keyText = rows.getColumn(0).getText();

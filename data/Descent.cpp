@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/Descent.h"
 
 #include <QFileInfo>
@@ -8,6 +10,8 @@
 #include "data/Machine.h"
 #include "data/Schema.h"
 #include "data/StoreLog.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -36,9 +40,7 @@ bool countChange(SQLite::Database& database) {
   }
   Change& last = descent[machine];
   last = {last.number + 1, randomId(tokenDigits)};
-  if (!rows.EditOrAddNew(rowDescent,
-                         {{field記憶, QStringLiteral("0")}, {field回数, QStringLiteral("00")}}))
-    return false;
+  if (!rows.EditOrAddNew(rowDescent, {{field記憶, u"0"_s}, {field回数, u"00"_s}})) return false;
   rows.setValue(field問正コ, packDescent(descent));
   return rows.Update();
 }

@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/LearnerFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -18,19 +22,19 @@ bool isSameFolder(const QString& a, const QString& b) {
 LearnerFiles learnerFiles(const QString& userId, const QString& dbPath,
                           const QString& dbPathDefault) {
   const QString id = trimBlanks(userId);
-  const QString bareName = QStringLiteral("/TavoDB") + id;
+  const QString bareName = u"/TavoDB"_s + id;
   const bool bare = QFileInfo(dbPath + bareName).isFile();
-  const QString name = bare ? bareName : bareName + QStringLiteral(".mdb");
+  const QString name = bare ? bareName : bareName + u".mdb"_s;
 
   LearnerFiles files;
   files.userId = id;
   files.dbFilePlaced = dbPath + name;
   files.dbFileWork = dbPathDefault + name;
-  files.condFilePlaced = dbPath + QStringLiteral("/TavoCond") + id;
-  files.condFileWork = dbPathDefault + QStringLiteral("/TavoCond") + id;
-  files.historyFilePlaced = dbPath + QStringLiteral("/TavoHistory") + id;
-  files.historyFileWork = dbPathDefault + QStringLiteral("/TavoHistory") + id;
-  files.backupFile = dbPath + bareName + QStringLiteral("BackUp");
+  files.condFilePlaced = dbPath + u"/TavoCond"_s + id;
+  files.condFileWork = dbPathDefault + u"/TavoCond"_s + id;
+  files.historyFilePlaced = dbPath + u"/TavoHistory"_s + id;
+  files.historyFileWork = dbPathDefault + u"/TavoHistory"_s + id;
+  files.backupFile = dbPath + bareName + u"BackUp"_s;
   files.placedElsewhere = !isSameFolder(dbPath, dbPathDefault);
   return files;
 }

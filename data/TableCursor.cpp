@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/TableCursor.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -6,6 +8,8 @@
 #include "data/Descent.h"
 #include "data/Schema.h"
 #include "data/StoreLog.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -16,8 +20,7 @@ using schema::quoted;
 TableCursor::TableCursor(SQLite::Database& database, const QString& table,
                          const QStringList& fields)
     : m_database(database), m_table(table), m_keyField(keyField(table)), m_fields(m_keyField) {
-  SQLite::Statement columns(
-      database, QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table)).toStdString());
+  SQLite::Statement columns(database, u"PRAGMA table_info(%1)"_s.arg(quoted(table)).toStdString());
   while (columns.executeStep()) {
     const QString field = QString::fromUtf8(columns.getColumn("name").getText());
     if (field != m_keyField && (fields.isEmpty() || fields.contains(field))) m_fields.append(field);
@@ -28,12 +31,11 @@ TableCursor::TableCursor(SQLite::Database& database, const QString& table,
 TableCursor::~TableCursor() = default;
 
 QString TableCursor::sqlOf(Query query) const {
-  const QString key = keyOrder(QStringLiteral("?1"));
-  const QString ascending = QStringLiteral("%1,%2,rowid").arg(orderColumn, m_keyField);
-  const QString descending =
-      QStringLiteral("%1 DESC,%2 DESC,rowid DESC").arg(orderColumn, m_keyField);
-  const QString keyIs = QStringLiteral("WHERE %1%2%3");
-  const QString rowIs = QStringLiteral("WHERE (%1,%2,rowid)%3(%4,?1,?2)");
+  const QString key = keyOrder(u"?1"_s);
+  const QString ascending = u"%1,%2,rowid"_s.arg(orderColumn, m_keyField);
+  const QString descending = u"%1 DESC,%2 DESC,rowid DESC"_s.arg(orderColumn, m_keyField);
+  const QString keyIs = u"WHERE %1%2%3"_s;
+  const QString rowIs = u"WHERE (%1,%2,rowid)%3(%4,?1,?2)"_s;
 
   QString where;
   QString order = ascending;
@@ -44,31 +46,30 @@ QString TableCursor::sqlOf(Query query) const {
       order = descending;
       break;
     case Query::Exact:
-      where = keyIs.arg(orderColumn, QStringLiteral("="), key) +
-              QStringLiteral(" AND %1=?1").arg(m_keyField);
+      where = keyIs.arg(orderColumn, u"="_s, key) + u" AND %1=?1"_s.arg(m_keyField);
       break;
     case Query::Equal:
-      where = keyIs.arg(orderColumn, QStringLiteral("="), key);
+      where = keyIs.arg(orderColumn, u"="_s, key);
       break;
     case Query::AtOrAfter:
-      where = keyIs.arg(orderColumn, QStringLiteral(">="), key);
+      where = keyIs.arg(orderColumn, u">="_s, key);
       break;
     case Query::AtOrBefore:
-      where = keyIs.arg(orderColumn, QStringLiteral("<="), key);
+      where = keyIs.arg(orderColumn, u"<="_s, key);
       order = descending;
       break;
     case Query::After:
-      where = rowIs.arg(orderColumn, m_keyField, QStringLiteral(">"), key);
+      where = rowIs.arg(orderColumn, m_keyField, u">"_s, key);
       break;
     case Query::Before:
-      where = rowIs.arg(orderColumn, m_keyField, QStringLiteral("<"), key);
+      where = rowIs.arg(orderColumn, m_keyField, u"<"_s, key);
       order = descending;
       break;
   }
   QStringList columns;
   for (const QString& field : m_fields) columns.append(quoted(field));
-  return QStringLiteral("SELECT rowid,%1 FROM %2 %3 ORDER BY %4")
-      .arg(columns.join(u','), quoted(m_table), where, order);
+  return u"SELECT rowid,%1 FROM %2 %3 ORDER BY %4"_s.arg(columns.join(u','), quoted(m_table), where,
+                                                         order);
 }
 
 SQLite::Statement& TableCursor::prepared(Query query) {
@@ -197,9 +198,9 @@ bool TableCursor::isDamaged(const QString& field) const {
   const Field& read = value(field);
   if (!read || !read->contains(QChar(QChar::ReplacementCharacter))) return false;
   try {
-    SQLite::Statement stored(m_database, QStringLiteral("SELECT %1 FROM %2 WHERE rowid=?")
-                                             .arg(quoted(field), quoted(m_table))
-                                             .toStdString());
+    SQLite::Statement stored(
+        m_database,
+        u"SELECT %1 FROM %2 WHERE rowid=?"_s.arg(quoted(field), quoted(m_table)).toStdString());
     stored.bind(1, static_cast<int64_t>(m_rowId));
     if (!stored.executeStep()) return true;
     const SQLite::Column column = stored.getColumn(0);
@@ -249,9 +250,9 @@ SQLite::Statement& TableCursor::preparedUpdate() {
   if (!m_update || m_updateFields != m_changedFields) {
     QStringList assignments;
     for (const QString& field : std::as_const(m_changedFields))
-      assignments.append(quoted(field) + QStringLiteral("=?"));
-    const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid=?")
-                            .arg(quoted(m_table), assignments.join(u','));
+      assignments.append(quoted(field) + u"=?"_s);
+    const QString sql =
+        u"UPDATE %1 SET %2 WHERE rowid=?"_s.arg(quoted(m_table), assignments.join(u','));
     m_update = std::make_unique<SQLite::Statement>(m_database, sql.toStdString());
     m_updateFields = m_changedFields;
   }
@@ -301,8 +302,8 @@ bool TableCursor::store(Pending pending) {
     } else {
       QStringList names;
       for (const QString& field : std::as_const(m_changedFields)) names.append(quoted(field));
-      const QString marks = QStringList(places, QStringLiteral("?")).join(u',');
-      SQLite::Statement statement(m_database, QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+      const QString marks = QStringList(places, u"?"_s).join(u',');
+      SQLite::Statement statement(m_database, u"INSERT INTO %1 (%2) VALUES (%3)"_s
                                                   .arg(quoted(m_table), names.join(u','), marks)
                                                   .toStdString());
       bindChanges(statement);

@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "data/TextFile.h"
 
 #include <QStringDecoder>
 
 #include "system/Files.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -34,7 +38,7 @@ FileResult appendLine(Files& files, const QString& path, const QString& line) {
 
 QStringList splitLines(const QString& text) {
   QString unified = text;
-  unified.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  unified.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   QStringList lines = unified.split(u'\n');
   if (lines.last().isEmpty()) lines.removeLast();
   return lines;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "home/KeptCopies.h"
 
 #include "data/Database.h"
@@ -6,10 +8,12 @@
 #include "home/LineTexts.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 QString datedName(const Files& files, const QString& path, const QDateTime& time) {
-  const QString dated = path + time.toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+  const QString dated = path + time.toString(u"-yyyyMMdd-HHmmss"_s);
   QString name = dated;
   for (int n = 2; files.exists(name); ++n) name = dated + u'-' + QString::number(n);
   return name;

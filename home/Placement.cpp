@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "home/Placement.h"
 
 #include <QDir>
@@ -7,16 +9,18 @@
 #include "data/TextFile.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString dataFolderName = QStringLiteral("TavoliPersonalData");
-const QString lessonFolderName = QStringLiteral("Tavoliﾚｯｽﾝ");
+const QString dataFolderName = u"TavoliPersonalData"_s;
+const QString lessonFolderName = u"Tavoliﾚｯｽﾝ"_s;
 
 /// In the build folder the originals lie beside `bin`; installed, in `share`.
 QString buildOriginals(const QString& programFolder) {
-  return programFolder + QStringLiteral("/../app-originals");
+  return programFolder + u"/../app-originals"_s;
 }
 
 }  // namespace
@@ -30,7 +34,7 @@ QString lessonFolder(const QString& applicationFolder) {
 }
 
 QString readPlacement(Files& files, const QString& applicationFolder) {
-  const QString path = applicationFolder + QStringLiteral("/TavoAlloc.txt");
+  const QString path = applicationFolder + u"/TavoAlloc.txt"_s;
   const std::optional<QByteArray> bytes = files.read(path);
   const std::optional<QString> text = bytes ? decodeText(*bytes) : std::nullopt;
   const QStringList lines = text ? splitLines(*text) : QStringList();
@@ -43,14 +47,14 @@ QString readPlacement(Files& files, const QString& applicationFolder) {
 
 QString applicationFolderFor(const QString& programFolder) {
   if (QDir(buildOriginals(programFolder)).exists())
-    return QDir::cleanPath(programFolder + QStringLiteral("/../app"));
+    return QDir::cleanPath(programFolder + u"/../app"_s);
   return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
 bool fillApplicationFolder(Files& files, const QString& programFolder,
                            const QString& applicationFolder) {
   QString originals = buildOriginals(programFolder);
-  if (!QDir(originals).exists()) originals = programFolder + QStringLiteral("/../share/tavoli");
+  if (!QDir(originals).exists()) originals = programFolder + u"/../share/tavoli"_s;
   const QString dataFolder = defaultDataFolder(applicationFolder);
   const QString lessons = lessonFolder(applicationFolder);
   bool filled =
@@ -62,8 +66,8 @@ bool fillApplicationFolder(Files& files, const QString& programFolder,
         filled = files.copy(file.canonicalFilePath(), target) == FileResult::Ok && filled;
     }
   };
-  deliver(originals, QStringLiteral("TavoDB*.mdb"), dataFolder);
-  deliver(originals + u'/' + lessonFolderName, QStringLiteral("*"), lessons);
+  deliver(originals, u"TavoDB*.mdb"_s, dataFolder);
+  deliver(originals + u'/' + lessonFolderName, u"*"_s, lessons);
   return filled;
 }
 

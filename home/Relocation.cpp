@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "home/Relocation.h"
 
 #include <QDir>
@@ -8,12 +10,14 @@
 #include "home/Placement.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString accessPassword = QStringLiteral("8642097531B");
-const QString accessPasswordLower = QStringLiteral("8642097531b");
+const QString accessPassword = u"8642097531B"_s;
+const QString accessPasswordLower = u"8642097531b"_s;
 
 /// The path with links resolved as far down as it exists.
 QString resolved(const QString& path) {
@@ -49,10 +53,9 @@ Relocation::Result Relocation::place(const QString& chosenFolder) {
 
   const QByteArray line = to.toUtf8() + '\n';
   // Only people read the history: without it the files can be placed all the same.
-  static_cast<void>(
-      m_files.append(m_applicationFolder + QStringLiteral("/TavoAllocHisto.txt"), line));
+  static_cast<void>(m_files.append(m_applicationFolder + u"/TavoAllocHisto.txt"_s, line));
   if (!copyFolder(present, to)) return Result::CopyFailed;
-  const QString allocation = m_applicationFolder + QStringLiteral("/TavoAlloc.txt");
+  const QString allocation = m_applicationFolder + u"/TavoAlloc.txt"_s;
   return m_files.write(allocation, line) == FileResult::Ok ? Result::Placed : Result::NotRecorded;
 }
 
@@ -62,8 +65,7 @@ bool Relocation::copyFolder(const QString& from, const QString& to) {
   if (m_files.makeFolder(to) != FileResult::Ok) return false;
   // By name, so that a database comes before the journal that belongs to it.
   for (const QFileInfo& file : source.entryInfoList(QDir::Files | QDir::Hidden, QDir::Name)) {
-    if (file.fileName().endsWith(QStringLiteral(".lock")) || file.fileName() == machineFileName)
-      continue;
+    if (file.fileName().endsWith(u".lock"_s) || file.fileName() == machineFileName) continue;
     takeBackHalfWritten(m_files, file.filePath());
     if (!m_files.exists(file.filePath())) continue;  // a journal whose changes were taken back
     if (!copyFile(file.filePath(), QDir(to).filePath(file.fileName()))) return false;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "home/WorkingCopy.h"
 
 #include <QFileInfo>
@@ -11,20 +13,22 @@
 #include "system/Dialogs.h"
 #include "system/Files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString inUse = QStringLiteral(" が誤って使用中になっています。");
+const QString inUse = u" が誤って使用中になっています。"_s;
 
 QString holderText(const FileLock::Holder& holder) {
-  const QString since = holder.since.toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+  const QString since = holder.since.toString(u"yyyy/MM/dd HH:mm"_s);
   const QString who =
       holder.program.isEmpty()
-          ? QStringLiteral("どのプログラムのロックか分かりません（%1 から）。").arg(since)
-          : QStringLiteral("パソコン %1 の %2（プロセス番号 %3）が %4 から使用中です。")
-                .arg(holder.host, holder.program, QString::number(holder.processId), since);
-  return who + QStringLiteral("\nロックファイル：") + holder.lockPath;
+          ? u"どのプログラムのロックか分かりません（%1 から）。"_s.arg(since)
+          : u"パソコン %1 の %2（プロセス番号 %3）が %4 から使用中です。"_s.arg(
+                holder.host, holder.program, QString::number(holder.processId), since);
+  return who + u"\nロックファイル："_s + holder.lockPath;
 }
 
 QByteArray textOf(const QStringList& lines) {
@@ -44,8 +48,7 @@ bool WorkingCopy::fail(const QString& message) {
 
 bool WorkingCopy::isLink(const QString& placed) {
   if (!QFileInfo(placed).isSymLink()) return false;
-  m_dialogs.show(
-      QStringLiteral("%1 はリンクなので使いません。本物のファイルに替えてください。").arg(placed));
+  m_dialogs.show(u"%1 はリンクなので使いません。本物のファイルに替えてください。"_s.arg(placed));
   return true;
 }
 
@@ -55,9 +58,9 @@ bool WorkingCopy::fetch() {
   if (!keepForThisProgram()) return false;
   const QString folder = QFileInfo(m_learner.dbFileWork).path();
   if (!makeMachine(m_files, folder)) {
-    m_dialogs.show(QStringLiteral("%1 を作れないので、別の機械での学習と区別できないことが"
-                                  "あります。学習は続けられます。")
-                       .arg(folder + u'/' + machineFileName));
+    m_dialogs.show(
+        u"%1 を作れないので、別の機械での学習と区別できないことが"
+        "あります。学習は続けられます。"_s.arg(folder + u'/' + machineFileName));
   }
   return !m_learner.placedElsewhere || fetchDatabase();
 }
@@ -68,7 +71,7 @@ bool WorkingCopy::keepForThisProgram() {
     case FileLock::Result::Taken:
       return true;
     case FileLock::Result::TakenFromDeadProgram:
-      m_dialogs.show(work + inUse + QStringLiteral("消去しました。\n学習結果は消えていません。"));
+      m_dialogs.show(work + inUse + u"消去しました。\n学習結果は消えていません。"_s);
       return true;
     case FileLock::Result::HeldByLiveProgram:
       return fail(work + inUse);
@@ -78,8 +81,7 @@ bool WorkingCopy::keepForThisProgram() {
       break;
   }
   return fail(
-      QStringLiteral("%1 のフォルダに書き込めません。書き込めるようにしてから入れ直してください。")
-          .arg(work));
+      u"%1 のフォルダに書き込めません。書き込めるようにしてから入れ直してください。"_s.arg(work));
 }
 
 bool WorkingCopy::offerToTakeOver() {
@@ -87,8 +89,8 @@ bool WorkingCopy::offerToTakeOver() {
   const QString text = m_learner.dbFileWork + inUse + u'\n' + holderText(holder);
   const bool fresh = holder.since.addDays(1) > m_clock.now();
   if (fresh && !holder.program.isEmpty()) return fail(text);
-  if (!m_dialogs.ask(text + QStringLiteral("\n使用中でないことが確かなら、ロックを外せます。"
-                                           "外して続けますか。")))
+  if (!m_dialogs.ask(text + u"\n使用中でないことが確かなら、ロックを外せます。"
+                            "外して続けますか。"_s))
     return false;
   // Where it stays it cannot be taken either.
   static_cast<void>(m_files.remove(holder.lockPath));
@@ -101,8 +103,8 @@ bool WorkingCopy::fetchDatabase() {
   const QString& placed = m_learner.dbFilePlaced;
   if (isLink(placed)) return false;
   const QString notFetched =
-      QStringLiteral("%1 を %2 に写せません。空き容量とフォルダを確かめてから入れ直してください。")
-          .arg(placed, work);
+      u"%1 を %2 に写せません。空き容量とフォルダを確かめてから入れ直してください。"_s.arg(placed,
+                                                                                           work);
   if (!QFileInfo(placed).isReadable()) return fail(notFetched);
   if (m_files.exists(work)) {
     takeBackHalfWritten(m_files, work);
@@ -128,14 +130,13 @@ CopyRelation WorkingCopy::relation() const {
 bool WorkingCopy::keepNewerWork(CopyRelation relation) {
   const std::optional<QString> kept = keepAside(m_files, m_learner.dbFileWork, m_clock.now());
   if (!kept) {
-    return fail(
-        QStringLiteral("配置場所より新しい %1 を別名で保存できません。何も変更していません。")
-            .arg(m_learner.dbFileWork));
+    return fail(u"配置場所より新しい %1 を別名で保存できません。何も変更していません。"_s.arg(
+        m_learner.dbFileWork));
   }
   QString message =
-      QStringLiteral("配置場所に戻されていない学習結果があったので %1 に保存しました。").arg(*kept);
+      u"配置場所に戻されていない学習結果があったので %1 に保存しました。"_s.arg(*kept);
   if (relation == CopyRelation::Diverged)
-    message += QStringLiteral("\n配置場所のデータにも別の変更があります。両方とも残してあります。");
+    message += u"\n配置場所のデータにも別の変更があります。両方とも残してあります。"_s;
   m_dialogs.show(message);
   return true;
 }
@@ -175,8 +176,8 @@ bool WorkingCopy::keepChangedPlacedCopy() {
     return true;
   const QString kept = datedName(m_files, placed, m_clock.now());
   if (m_files.copy(placed, kept) != FileResult::Ok) return false;
-  m_dialogs.show(QStringLiteral("配置場所の %1 は別の機械で変更されていたので %2 に保存しました。")
-                     .arg(placed, kept));
+  m_dialogs.show(
+      u"配置場所の %1 は別の機械で変更されていたので %2 に保存しました。"_s.arg(placed, kept));
   return true;
 }
 
@@ -184,9 +185,8 @@ void WorkingCopy::carryHome(Texts texts) {
   if (!m_learner.placedElsewhere) return;
   const bool databaseHome = carryDatabaseHome();
   if (carryTextsHome(texts) && databaseHome) return;
-  m_dialogs.show(
-      QStringLiteral("練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。")
-          .arg(QFileInfo(m_learner.dbFileWork).path()));
+  m_dialogs.show(u"練習結果を配置場所に戻せなかったので、この機械の %1 に残してあります。"_s.arg(
+      QFileInfo(m_learner.dbFileWork).path()));
 }
 
 bool WorkingCopy::carryTextsHome(Texts texts) {

@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "itemtext/LineBreaking.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -42,7 +46,7 @@ bool isOpening(QChar c) {
 }
 
 bool isClosing(QChar c) {
-  static const QString marks = QStringLiteral("。、．，.,)!?！？：；:;・ー｡､･ｰﾞﾟ");
+  static const QString marks = u"。、．，.,)!?！？：；:;・ー｡､･ｰﾞﾟ"_s;
   return marks.contains(c) || c.category() == QChar::Punctuation_Close ||
          c.category() == QChar::Punctuation_FinalQuote;
 }

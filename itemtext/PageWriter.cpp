@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "itemtext/PageWriter.h"
 
 #include <utility>
 
 #include "itemtext/LineBreaking.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -74,7 +78,7 @@ void PageWriter::beginPage() {
 
 void PageWriter::writeHead() {
   m_line = 0;
-  const QString number = QStringLiteral("ページ %1").arg(++m_pageNumber);
+  const QString number = u"ページ %1"_s.arg(++m_pageNumber);
   m_page.drawText(m_layout.sideMargin, y(), m_head);
   m_page.drawText(right() - m_page.textWidth(number), y(), number);
   m_line = headLines;

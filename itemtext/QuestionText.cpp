@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "itemtext/QuestionText.h"
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -12,12 +16,12 @@ constexpr qsizetype correctionSearchFrom = 12;
 constexpr qsizetype correctionDefault = 14;
 
 QString withoutMarks(QString text) {
-  for (const QChar mark : QStringLiteral("[]{}")) text.remove(mark);
+  for (const QChar mark : u"[]{}"_s) text.remove(mark);
   return text;
 }
 
 QString sentenceToCorrect(const QString& 問題文) {
-  qsizetype at = 問題文.indexOf(QStringLiteral("％％"), correctionSearchFrom - 1);
+  qsizetype at = 問題文.indexOf(u"％％"_s, correctionSearchFrom - 1);
   if (at < 0) at = 問題文.indexOf(lineMark, correctionSearchFrom - 1);
   if (at < 0) at = correctionDefault - 1;
   while (at < 問題文.size() && 問題文[at] == lineMark) ++at;
@@ -27,8 +31,7 @@ QString sentenceToCorrect(const QString& 問題文) {
 }  // namespace
 
 bool isCorrection(const CurrentRecord& record) {
-  return record.sentence &&
-         record.問題文.startsWith(QStringLiteral("次の英文に誤りがあれば訂正しなさい"));
+  return record.sentence && record.問題文.startsWith(u"次の英文に誤りがあれば訂正しなさい"_s);
 }
 
 QString answerStart(const CurrentRecord& record, int k) {
@@ -58,10 +61,9 @@ QString answerLine(const CurrentRecord& record, int k) {
 
 QStringList wordAnswerLines(const CurrentRecord& record) {
   QStringList lines;
-  if (!record.同.isEmpty())
-    lines.append(QStringLiteral(" (%1 )").arg(record.同.join(QStringLiteral(" ＝ "))));
+  if (!record.同.isEmpty()) lines.append(u" (%1 )"_s.arg(record.同.join(u" ＝ "_s)));
   QString meanings;
-  for (int k = 1; k <= record.小問数; ++k) meanings += record.at(k).日本語 + QStringLiteral("  ");
+  for (int k = 1; k <= record.小問数; ++k) meanings += record.at(k).日本語 + u"  "_s;
   lines.append(meanings);
   return lines;
 }
@@ -81,12 +83,12 @@ QString sourceLabel(const CurrentRecord& record, const QString& key, TableCode i
                     Course COURSE) {
   if (record.sentence) {
     const std::optional<Course> course = courseOfSentence(key.isEmpty() ? QChar() : key[0]);
-    return QStringLiteral("問題　") + courseName(course.value_or(Course::専門));
+    return u"問題　"_s + courseName(course.value_or(Course::専門));
   }
   const auto& dictionaries = factsOf(COURSE).dictionaries;
   const int place = placeOf(itemTable);
   if (place < 1 || place > static_cast<int>(dictionaries.size())) return {};
-  return QStringLiteral("問題　%1DB").arg(courseName(dictionaryAt(COURSE, itemTable)));
+  return u"問題　%1DB"_s.arg(courseName(dictionaryAt(COURSE, itemTable)));
 }
 
 }  // namespace tavoli

@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "judge/Comparison.h"
 
 #include <algorithm>
 
 #include "data/Expansion.h"
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -145,18 +149,14 @@ ComparisonSettings comparisonSettings(CompareMode compareMode, bool compareFlag)
 
 const std::vector<ComparisonChoice>& comparisonChoices() {
   static const std::vector<ComparisonChoice> choices = {
-      {{CompareMode::caseIgnored, false, false},
-       QStringLiteral("大文字＝小文字"),
-       QStringLiteral("比較方法 ABCDE＝abcde")},
-      {{CompareMode::caseMatters, false, false},
-       QStringLiteral("大文字≠小文字"),
-       QStringLiteral("比較方法 ABCDE≠abcde")},
+      {{CompareMode::caseIgnored, false, false}, u"大文字＝小文字"_s, u"比較方法 ABCDE＝abcde"_s},
+      {{CompareMode::caseMatters, false, false}, u"大文字≠小文字"_s, u"比較方法 ABCDE≠abcde"_s},
       {{CompareMode::caseIgnored, true, true},
-       QStringLiteral("スペースと「-」を無視し、大文字＝小文字"),
-       QStringLiteral("比較方法 A-BCDE＝ab  c  de")},
+       u"スペースと「-」を無視し、大文字＝小文字"_s,
+       u"比較方法 A-BCDE＝ab  c  de"_s},
       {{CompareMode::caseMatters, true, true},
-       QStringLiteral("スペースと「-」を無視し、大文字≠小文字"),
-       QStringLiteral("比較方法 A-BCDE＝AB  C  DE")},
+       u"スペースと「-」を無視し、大文字≠小文字"_s,
+       u"比較方法 A-BCDE＝AB  C  DE"_s},
   };
   return choices;
 }

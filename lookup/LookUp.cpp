@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "lookup/LookUp.h"
 
 #include <algorithm>
@@ -7,6 +9,8 @@
 #include "data/CurrentRecord.h"
 #include "data/Schema.h"
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -53,7 +57,7 @@ std::optional<MarkedText> LookUp::find(const QString& text) {
   m_dictionary.Seek(SeekOp::Equal, key);
   if (m_dictionary.NoMatch() && !m_dictionary.failed()) m_dictionary.Seek(SeekOp::AtOrAfter, key);
   leaveReservedRows();
-  const MarkedText notFound = plainText(text + QStringLiteral("：Not found."));
+  const MarkedText notFound = plainText(text + u"：Not found."_s);
   return shown().value_or(notFound);
 }
 
@@ -70,7 +74,7 @@ std::optional<MarkedText> LookUp::next() {
 
 std::optional<MarkedText> LookUp::previous() {
   if (m_fromEnd || !returnToEntry())
-    m_dictionary.Seek(SeekOp::AtOrBefore, QStringLiteral("zzz"));
+    m_dictionary.Seek(SeekOp::AtOrBefore, u"zzz"_s);
   else
     m_dictionary.MovePrevious();
   m_fromEnd = false;
@@ -97,21 +101,19 @@ std::optional<MarkedText> LookUp::shown() {
     return showEntry();
   }
   if (!m_dictionary.failed()) return std::nullopt;
-  return plainText(QStringLiteral(
-      "辞書を読めませんでした。記録は変わっていません。練習を終えて、もう一度始めて下さい。"));
+  return plainText(
+      u"辞書を読めませんでした。記録は変わっていません。練習を終えて、もう一度始めて下さい。"_s);
 }
 
 MarkedText LookUp::showEntry() const {
   const CurrentRecord record =
       ParseRecord(m_dictionary.text(field発同日コ), m_dictionary.key(), TableCode::first);
   const QString code = m_dictionary.text(field記憶);
-  QString text = record.英語 + QStringLiteral("　（ ") + memoryName(codeOf<MemoryState>(code)) +
-                 u'　' + m_dictionary.text(field回数) + QStringLiteral("　ﾚﾍﾞﾙ ") +
-                 digits(numberOf(m_dictionary.text(fieldレベル)), 2) + QStringLiteral(" ）\n");
-  if (!record.同.isEmpty())
-    text +=
-        QStringLiteral("   (") + record.同.join(QStringLiteral(" ＝ ")) + QStringLiteral(" )\n");
-  for (int k = 1; k <= record.小問数; ++k) text += record.text(k) + QStringLiteral("  ");
+  QString text = record.英語 + u"　（ "_s + memoryName(codeOf<MemoryState>(code)) + u'　' +
+                 m_dictionary.text(field回数) + u"　ﾚﾍﾞﾙ "_s +
+                 digits(numberOf(m_dictionary.text(fieldレベル)), 2) + u" ）\n"_s;
+  if (!record.同.isEmpty()) text += u"   ("_s + record.同.join(u" ＝ "_s) + u" )\n"_s;
+  for (int k = 1; k <= record.小問数; ++k) text += record.text(k) + u"  "_s;
   return parseMarks(text + u'\n' + record.コメント);
 }
 

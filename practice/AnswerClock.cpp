@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/AnswerClock.h"
 
 #include "practice/AnswerScreen.h"
 #include "speech/Speaker.h"
 #include "system/Clock.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -40,7 +44,7 @@ void AnswerClock::tick(int timeUpSound) {
   if (!m_timeOver || !m_timeUpArmed) return;
   m_timeUpArmed = false;
   if (timeUpSound == 1) m_speaker.beep();
-  if (timeUpSound == 2) m_speaker.say(QStringLiteral("Time is up."));
+  if (timeUpSound == 2) m_speaker.say(u"Time is up."_s);
 }
 
 }  // namespace tavoli

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/AnswerFlow.h"
 
 #include "itemtext/QuestionText.h"
@@ -132,18 +134,17 @@ void AnswerFlow::guardMemoryCode() const {
   const MemoryState code = m_shown.小問().記;
   if (code == MemoryState::うろ覚え || code == MemoryState::完全) return;
   const bool first = m_attempt.tryCount <= 1;
-  const QString place = !first                    ? QStringLiteral("２=")
-                        : m_shown.record().sentence ? QStringLiteral("=")
-                                                  : QStringLiteral("１=");
-  m_dialogs.show(QStringLiteral("MiniTest 記(POS1)") + place + stored(code));
+  const QString place = !first ? u"２="_s : m_shown.record().sentence ? u"="_s : u"１="_s;
+  m_dialogs.show(u"MiniTest 記(POS1)"_s + place + stored(code));
 }
 
 AnswerFlow::After AnswerFlow::KnownKey(Pressed pressed) {
   const QString text = m_shown.record().text(m_shown.POS1());
   const MemoryState before = m_shown.小問().記;
   const MemoryState known = knownTransition(before);
-  const QString kept = (pressed == Pressed::Button ? u"「 "_s + text + u"」"_s : u"『 "_s + text + u"』"_s) +
-                       u"：記憶状態の変化なし。"_s;
+  const QString kept =
+      (pressed == Pressed::Button ? u"「 "_s + text + u"」"_s : u"『 "_s + text + u"』"_s) +
+      u"：記憶状態の変化なし。"_s;
   const QString changed = u"『うろ覚え』にしました。"_s +
                           (m_shown.record().sentence ? QString() : u"『 "_s + text + u" 』"_s);
   remember(known, known == before ? kept : changed, QString());
@@ -155,8 +156,7 @@ AnswerFlow::After AnswerFlow::KnownKey(Pressed pressed) {
 void AnswerFlow::showAnswer() {
   if (m_shown.inMiniTest()) return;
   m_attempt.answerShown = true;
-  m_screen.showFullAnswer(
-      plainText(QStringLiteral("正解：") + answerLine(m_shown.record(), m_shown.POS1())));
+  m_screen.showFullAnswer(plainText(u"正解："_s + answerLine(m_shown.record(), m_shown.POS1())));
 }
 
 void AnswerFlow::ShowMiniTestNotice() {
@@ -168,15 +168,13 @@ void AnswerFlow::ShowMiniTestNotice() {
     return;
   }
   const QString rules =
-      うろ覚え
-          ? QStringLiteral("１回目で正解すれば『完全』記憶に変更、％２回目で正解すれば不変、％")
-          : QStringLiteral("１、２回目で正解すれば『完全』を維持、％");
+      うろ覚え ? u"１回目で正解すれば『完全』記憶に変更、％２回目で正解すれば不変、％"_s
+               : u"１、２回目で正解すれば『完全』を維持、％"_s;
   m_screen.enableKey(FunctionKey::F1, false);
   m_screen.showMiniTest(
-      parseMarks(QStringLiteral("小問Ｎｏ.{%1}％記憶状態（現在『{%2}』）を変化させます。％％%3")
-                     .arg(QString::number(m_shown.POS1()),
-                          うろ覚え ? QStringLiteral("うろ") : QStringLiteral("完全"), rules) +
-                 QStringLiteral("２回以上間違えば『全然』に変更します。")));
+      parseMarks(u"小問Ｎｏ.{%1}％記憶状態（現在『{%2}』）を変化させます。％％%3"_s.arg(
+                     QString::number(m_shown.POS1()), うろ覚え ? u"うろ"_s : u"完全"_s, rules) +
+                 u"２回以上間違えば『全然』に変更します。"_s));
 }
 
 }  // namespace tavoli

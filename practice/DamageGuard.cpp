@@ -1,13 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/DamageGuard.h"
 
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
 namespace {
 
-const QString kindShown = QStringLiteral("shown");
-const QString kindStored = QStringLiteral("stored");
+const QString kindShown = u"shown"_s;
+const QString kindStored = u"stored"_s;
 
 }  // namespace
 
@@ -21,22 +25,21 @@ bool DamageGuard::isNews(const QString& kind) {
 
 MarkedText DamageGuard::marked(const QString& text) {
   MarkedText result = parseMarks(text);
-  if (result.unpaired && isNews(kindShown))
-    m_dialogs.show(QStringLiteral("下線高輝度エラー：dispComment"));
+  if (result.unpaired && isNews(kindShown)) m_dialogs.show(u"下線高輝度エラー：dispComment"_s);
   return result;
 }
 
 void DamageGuard::guardEmptyRecord(bool FK前問題) {
   if (m_state.shown.record().小問数 > 0 || !isNews(kindShown)) return;
-  const QString guard = !m_state.shown.record().sentence ? QStringLiteral("Stop32")
-                        : FK前問題               ? QStringLiteral("Stop321")
-                                                 : QStringLiteral("Stop31");
-  m_dialogs.show(guard + QStringLiteral(" ﾃﾞｰﾀｴﾗｰ:") + m_state.shown.item().itemEnglish);
+  const QString guard = !m_state.shown.record().sentence ? u"Stop32"_s
+                        : FK前問題                       ? u"Stop321"_s
+                                                         : u"Stop31"_s;
+  m_dialogs.show(guard + u" ﾃﾞｰﾀｴﾗｰ:"_s + m_state.shown.item().itemEnglish);
 }
 
 QString DamageGuard::memoryUnchanged() {
   if (!isNews(kindStored)) return {};
-  return QStringLiteral("この項目のデータに誤りがあるため、記憶状態は変更しません。");
+  return u"この項目のデータに誤りがあるため、記憶状態は変更しません。"_s;
 }
 
 }  // namespace tavoli

@@ -1,7 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/ItemWriteBack.h"
 
 #include "data/Schema.h"
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -20,7 +24,7 @@ bool ItemWriteBack::WriteBackItem(const PracticeItem& item) {
                           : m_rsTDIC[static_cast<size_t>(placeOf(item.itemTable) - 1)].get();
   if (!rows) return false;
   return item.isSentence() ? updateSentenceRow(*rows, item, summed.state)
- : updateDictionaryRow(*rows, item, summed.state);
+                           : updateDictionaryRow(*rows, item, summed.state);
 }
 
 void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item, MemoryState state) {
@@ -28,14 +32,13 @@ void ItemWriteBack::follow(const TableCursor& rows, const PracticeItem& item, Me
   const QString code = rows.text(field記憶);
   const auto old = code.size() == 1 ? codeOf<MemoryState>(code) : MemoryState::none;
   if (!memoryPlace(old)) {
-    m_complaints.append(
-        (item.isSentence() ? QStringLiteral("Stop37 ") : QStringLiteral("Stop3B ")) +
-        item.itemEnglish);
+    m_complaints.append((item.isSentence() ? u"Stop37 "_s : u"Stop3B "_s) + item.itemEnglish);
   }
   m_growth.move(m_COURSE, item.itemTable, item.itemEnglish, old, state);
 }
 
-bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& item, MemoryState state) {
+bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& item,
+                                      MemoryState state) {
   rows.Seek(SeekOp::Equal, item.itemEnglish);
   if (rows.NoMatch()) return !rows.failed();
   follow(rows, item, state);
@@ -46,16 +49,17 @@ bool ItemWriteBack::updateSentenceRow(TableCursor& rows, const PracticeItem& ite
   return rows.Update();
 }
 
-bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& item, MemoryState state) {
+bool ItemWriteBack::updateDictionaryRow(TableCursor& rows, const PracticeItem& item,
+                                        MemoryState state) {
   rows.Seek(SeekOp::Equal, item.itemEnglish);
   if (rows.failed()) return false;
   if (rows.NoMatch()) {
-    m_complaints.append(QStringLiteral("No Match rsTDIC :##%1##").arg(item.itemEnglish));
+    m_complaints.append(u"No Match rsTDIC :##%1##"_s.arg(item.itemEnglish));
     return true;
   }
   // Seek lands on the exactly equal row wherever there is one.
   if (rows.key() != item.itemEnglish) {
-    m_complaints.append(QStringLiteral(":%1: not found in rsTDIC").arg(item.itemEnglish));
+    m_complaints.append(u":%1: not found in rsTDIC"_s.arg(item.itemEnglish));
     return true;
   }
   follow(rows, item, state);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/PracticeLoop.h"
 
 #include <utility>
@@ -8,15 +10,16 @@
 #include "system/Dialogs.h"
 #include "system/Random.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
 QString captionOf(const PracticeConditions& conditions) {
   if (conditions.usesLesson()) return conditions.lessonFile;
-  const QString kind =
-      conditions.usesWords() ? QStringLiteral("単語熟語　") : QStringLiteral("例文　");
-  return kind + (conditions.isRandom() ? QStringLiteral("ランダムに") : QStringLiteral("順に"));
+  const QString kind = conditions.usesWords() ? u"単語熟語　"_s : u"例文　"_s;
+  return kind + (conditions.isRandom() ? u"ランダムに"_s : u"順に"_s);
 }
 
 }  // namespace
@@ -48,14 +51,12 @@ void PracticeLoop::start(int timeUpSound) {
   m_restTime.begin();
   const PracticeConditions& conditions = m_state.conditions;
   m_screen.showCaption(captionOf(conditions));
-  m_screen.showStatus(StatusPanel::Review,
-                      conditions.reviewCycle == 0
-                          ? QStringLiteral("復習なし")
-                          : QStringLiteral("復習は%1問ごとに").arg(conditions.reviewCycle));
+  m_screen.showStatus(StatusPanel::Review, conditions.reviewCycle == 0
+                                               ? u"復習なし"_s
+                                               : u"復習は%1問ごとに"_s.arg(conditions.reviewCycle));
   chooseComparison(comparisonChoiceOf(m_state.comparison));
   chooseTimeUpSound(timeUpSound);
-  m_screen.showStatus(StatusPanel::Order,
-                      conditions.isRandom() ? QStringLiteral("ランダム出題 ") : QString());
+  m_screen.showStatus(StatusPanel::Order, conditions.isRandom() ? u"ランダム出題 "_s : QString());
   m_screen.showCounts(m_report.counts());
   goToItem(m_state.set.startIndex);
 }
@@ -65,8 +66,8 @@ bool PracticeLoop::dispPOS1(int POS) {
   ShownItem& shown = m_state.shown;
   shown.moveTo(POS);
   if (POS > itemCount) {
-    if (!m_dialogs.ask(QStringLiteral("最後まで終了しました。最初から再開しますか。")) &&
-        m_dialogs.ask(QStringLiteral("終了しますか？"))) {
+    if (!m_dialogs.ask(u"最後まで終了しました。最初から再開しますか。"_s) &&
+        m_dialogs.ask(u"終了しますか？"_s)) {
       exitAtOnce();
       return false;
     }
@@ -75,7 +76,7 @@ bool PracticeLoop::dispPOS1(int POS) {
   shown.show();
   m_flow.beginItem();
   const PracticeItem& item = shown.item();
-  const QString position = QStringLiteral("位置=%1／%2").arg(shown.POS()).arg(itemCount);
+  const QString position = u"位置=%1／%2"_s.arg(shown.POS()).arg(itemCount);
   m_screen.showStatus(StatusPanel::Position,
                       item.isSentence() ? position + u' ' + item.itemEnglish : position);
   return true;
@@ -145,9 +146,8 @@ void PracticeLoop::dispQuestion() {
   m_question = m_damage.marked(record.sentence ? record.問題文 : s.日本語);
   m_screen.showQuestion(m_question);
   showSubQuestion();
-  m_screen.showStatus(
-      StatusPanel::Times,
-      QStringLiteral("練習回数 = %1").arg(record.sentence ? item.itemTimes : s.小問回数));
+  m_screen.showStatus(StatusPanel::Times,
+                      u"練習回数 = %1"_s.arg(record.sentence ? item.itemTimes : s.小問回数));
   // The message about the last 小問, perhaps with its answer, is not to help with this one.
   m_screen.showFullAnswer(MarkedText());
   m_screen.setAnswer(answerStart(record, POS1()));
@@ -340,10 +340,10 @@ void PracticeLoop::nextComparison() {
 }
 
 void PracticeLoop::reshuffle() {
-  const bool wanted = m_dialogs.ask(QStringLiteral("問題の出題を順不同にしますか？"));
+  const bool wanted = m_dialogs.ask(u"問題の出題を順不同にしますか？"_s);
   m_random.reseed();
   if (!wanted) return;
-  m_screen.showStatus(StatusPanel::Order, QStringLiteral("順不同出題"));
+  m_screen.showStatus(StatusPanel::Order, u"順不同出題"_s);
   if (m_state.set.startIndex == m_state.set.itemCount()) return;
   m_state.set.reshuffle(m_random);
   m_reviewRing.clear();
@@ -360,15 +360,14 @@ void PracticeLoop::回数カウント() {
 }
 
 void PracticeLoop::requestExit() {
-  if (m_dialogs.ask(QStringLiteral("終了しますか？")))
+  if (m_dialogs.ask(u"終了しますか？"_s))
     exitAtOnce();
   else
     exitRefused();
 }
 
 void PracticeLoop::requestLessonChange() {
-  if (m_dialogs.ask(
-          QStringLiteral("このレッスンファイルを終了して別のレッスンファイルに変更しますか"))) {
+  if (m_dialogs.ask(u"このレッスンファイルを終了して別のレッスンファイルに変更しますか"_s)) {
     m_backToConditions = true;
     exitAtOnce();
   } else {

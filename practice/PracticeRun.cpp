@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/PracticeRun.h"
 
 #include "practice/PracticeScreen.h"
@@ -5,6 +7,8 @@
 #include "practice/QuestionPrinting.h"
 #include "system/Clock.h"
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -24,8 +28,7 @@ bool PracticeRun::openTables() {
   LearningTables::Opened opened = LearningTables::open(m_learner.dbFileWork, m_course);
   m_tables = std::move(opened.tables);
   if (!m_tables) {
-    m_services.dialogs.show(m_learner.dbFileWork +
-                            QStringLiteral(" : OpenDatabase error    Err.Number=") +
+    m_services.dialogs.show(m_learner.dbFileWork + u" : OpenDatabase error    Err.Number="_s +
                             QString::number(opened.errorNumber));
     return false;
   }
@@ -43,8 +46,7 @@ bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadP
                             m_services.dialogs, progress)
               .LoadPracticeSet(startKey);
   if (m_set.itemCount() < 2) {
-    m_services.dialogs.show(
-        QStringLiteral("条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"));
+    m_services.dialogs.show(u"条件に合う英語が２個以上ありません。再度、条件設定をして下さい。"_s);
     return false;
   }
   m_loop = std::make_unique<PracticeLoop>(

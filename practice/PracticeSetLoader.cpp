@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/PracticeSetLoader.h"
 
 #include <algorithm>
@@ -9,6 +11,8 @@
 #include "system/Files.h"
 #include "system/LoadProgress.h"
 #include "system/Random.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -140,9 +144,9 @@ void PracticeSetLoader::LoadWords(const QString& startKey) {
     rows.MoveNext();
   }
   endProgress();
-  m_dialogs.show(QStringLiteral("最大読込数 %1 のうち %2が練習条件を満足しました。")
-                     .arg(m_conditions.maxLoadWords)
-                     .arg(m_set.itemCount()));
+  m_dialogs.show(
+      u"最大読込数 %1 のうち %2が練習条件を満足しました。"_s.arg(m_conditions.maxLoadWords)
+          .arg(m_set.itemCount()));
 }
 
 void PracticeSetLoader::LoadSentences(const QString& startKey) {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/QuestionPrinting.h"
 
 #include <QFileInfo>
@@ -5,6 +7,8 @@
 #include "practice/QuestionSheet.h"
 #include "system/Clock.h"
 #include "system/Paper.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -14,21 +18,20 @@ QStringList printRequests(QuestionRequests& requests, const LearnerFiles& learne
   const QDateTime now = clock.now();
   const QuestionSheet sheet(requests.items(), learner.userId, now);
   QStringList notices;
-  if (sheet.unpaired()) notices.append(QStringLiteral("下線高輝度エラー"));
-  const QString title = QStringLiteral("Tavoli 問題印刷");
+  if (sheet.unpaired()) notices.append(u"下線高輝度エラー"_s);
+  const QString title = u"Tavoli 問題印刷"_s;
   const DrawDocument draw = [&sheet](PageSurface& page) { sheet.draw(page); };
   if (paper.print(title, draw)) {
     requests.clear();
     return notices;
   }
-  const QString path = QFileInfo(learner.dbFileWork).path() + QStringLiteral("/TavoPrint") +
-                       learner.userId + now.toString(QStringLiteral("-yyyyMMdd-HHmmss'.pdf'"));
+  const QString path = QFileInfo(learner.dbFileWork).path() + u"/TavoPrint"_s + learner.userId +
+                       now.toString(u"-yyyyMMdd-HHmmss'.pdf'"_s);
   const bool written = paper.writePdf(path, title, draw);
   if (written) requests.clear();
   notices.append(
-      (written ? QStringLiteral("プリンターで印刷できないので、問題を %1 に PDF で保存しました。")
-               : QStringLiteral(
-                     "問題を印刷できず、%1 にも保存できませんでした。練習結果は保存してあります。"))
+      (written ? u"プリンターで印刷できないので、問題を %1 に PDF で保存しました。"_s
+               : u"問題を印刷できず、%1 にも保存できませんでした。練習結果は保存してあります。"_s)
           .arg(path));
   return notices;
 }

@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/QuestionRequests.h"
 
 #include <algorithm>
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -11,14 +15,11 @@ QString QuestionRequests::request(const PracticeItem& item) {
   const auto sameKey = [&](const PracticeItem& noted) {
     return trimBlanks(noted.itemEnglish) == key;
   };
-  if (std::ranges::any_of(m_items, sameKey)) return QStringLiteral("既に印刷が要求されています。");
-  if (m_items.size() >= capacity)
-    return QStringLiteral("印刷数の上限 %1 を超えました。").arg(capacity);
+  if (std::ranges::any_of(m_items, sameKey)) return u"既に印刷が要求されています。"_s;
+  if (m_items.size() >= capacity) return u"印刷数の上限 %1 を超えました。"_s.arg(capacity);
   m_items.push_back(item);
-  return QStringLiteral(
-             "終了時に、この問題と正解、コメントを印刷します。\n%1\n"
-             "                  Enterキーを押して下さい。")
-      .arg(key);
+  return u"終了時に、この問題と正解、コメントを印刷します。\n%1\n"
+         "                  Enterキーを押して下さい。"_s.arg(key);
 }
 
 }  // namespace tavoli

@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/QuestionSheet.h"
 
 #include "itemtext/QuestionText.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -16,15 +20,14 @@ constexpr LineLayout layout{margin, margin, margin, textHeight, lineSpacing, fon
 /// "りんご　3回　うろ覚え"
 QString meaningLine(const SubQuestion& s) {
   const QChar blank(u'　');
-  return s.日本語 + blank + QStringLiteral("%1回").arg(s.小問回数) + blank + memoryName(s.記);
+  return s.日本語 + blank + u"%1回"_s.arg(s.小問回数) + blank + memoryName(s.記);
 }
 
 }  // namespace
 
 QuestionSheet::QuestionSheet(const std::vector<PracticeItem>& items, const QString& userId,
                              const QDateTime& printedAt)
-    : m_head(QStringLiteral(" UID= ") + userId +
-             printedAt.toString(QStringLiteral(" yyyy/MM/dd  HH:mm:ss"))) {
+    : m_head(u" UID= "_s + userId + printedAt.toString(u" yyyy/MM/dd  HH:mm:ss"_s)) {
   for (const PracticeItem& item : items)
     m_questions.push_back(
         questionOf(ParseRecord(item.itemRecord, item.itemEnglish, item.itemTable)));
@@ -45,10 +48,10 @@ QuestionSheet::Question QuestionSheet::questionOf(const CurrentRecord& record) {
   }
   Question question;
   for (const QString& text : std::as_const(questions))
-    add(question, question.empty() ? QStringLiteral("問題") : QString(), text);
+    add(question, question.empty() ? u"問題"_s : QString(), text);
   for (qsizetype i = 0; i < answers.size(); ++i)
-    add(question, i == 0 ? QStringLiteral("正解") : QString(), answers[i]);
-  if (!record.コメント.isEmpty()) add(question, QStringLiteral("ｺﾒﾝﾄ"), record.コメント);
+    add(question, i == 0 ? u"正解"_s : QString(), answers[i]);
+  if (!record.コメント.isEmpty()) add(question, u"ｺﾒﾝﾄ"_s, record.コメント);
   return question;
 }
 

@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/QuestionView.h"
 
 #include <QRegularExpression>
 
 #include "itemtext/QuestionText.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -13,7 +17,7 @@ using Span = MarkedText::Span;
 
 /// The blanks "(   )" of a question, brackets and all.
 std::vector<Span> blanksOf(const QString& text) {
-  static const QRegularExpression blank(QStringLiteral("\\([ 　]+\\)"));
+  static const QRegularExpression blank(u"\\([ 　]+\\)"_s);
   std::vector<Span> blanks;
   for (auto found = blank.globalMatch(text); found.hasNext();) {
     const QRegularExpressionMatch match = found.next();
@@ -64,8 +68,8 @@ QString subQuestionNumber(const QuestionView& view) {
 QString answerHint(const QuestionView& view) {
   QStringList hints;
   const QString number = subQuestionNumber(view);
-  if (!number.isEmpty()) hints.append(QStringLiteral("小問 ") + number);
-  if (view.question.text.contains(u'～')) hints.append(QStringLiteral("～ は Shift+0 か ~ のキー"));
+  if (!number.isEmpty()) hints.append(u"小問 "_s + number);
+  if (view.question.text.contains(u'～')) hints.append(u"～ は Shift+0 か ~ のキー"_s);
   return hints.join(u'　');
 }
 

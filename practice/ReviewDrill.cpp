@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/ReviewDrill.h"
 
 #include <utility>
@@ -11,6 +13,8 @@
 #include "practice/VerdictText.h"
 #include "speech/Speaker.h"
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -153,7 +157,7 @@ void ReviewDrill::wrong() {
     askAgain();
     return;
   }
-  m_screen.showMessage(plainText(answer() + QStringLiteral("　が正解です。")));
+  m_screen.showMessage(plainText(answer() + u"　が正解です。"_s));
   leaveSubQuestion();
 }
 
@@ -200,7 +204,7 @@ void ReviewDrill::showAnswer() {
 }
 
 void ReviewDrill::requestExit() {
-  if (m_services.dialogs.ask(QStringLiteral("終了しますか？")))
+  if (m_services.dialogs.ask(u"終了しますか？"_s))
     m_services.exitRun();
   else if (m_nextDue)
     nextReviewItem();

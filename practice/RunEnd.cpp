@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/RunEnd.h"
 
 #include <algorithm>
@@ -16,6 +18,8 @@
 #include "progress/ProgressStore.h"
 #include "system/Clock.h"
 #include "system/Files.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -68,10 +72,9 @@ std::optional<StoredRun> RunEnd::saveRunEnd(std::unique_ptr<LearningTables> tabl
            saveAutoPlaySettings(tables->rsBDIC(), run.settings);
   };
   while (!tables->database().write(writeAll)) {
-    const QString question = QStringLiteral(
-                                 "%1 に練習結果を書き込めません。データベースは練習前のままです。\n"
-                                 "もう一度書き込みますか。")
-                                 .arg(m_learner.dbFileWork);
+    const QString question =
+        u"%1 に練習結果を書き込めません。データベースは練習前のままです。\n"
+        "もう一度書き込みますか。"_s.arg(m_learner.dbFileWork);
     if (!retry(std::exchange(stored.notices, {}), question)) return std::nullopt;
   }
   tables.reset();
@@ -83,8 +86,7 @@ QStringList RunEnd::appendTexts(const RunResult& run, const PracticeConditions& 
                                 const QString& progressRecord) {
   QStringList notices;
   const auto tell = [&](const QString& path) {
-    notices.append(QStringLiteral("%1 に今回の練習を追加できませんでした。練習結果は保存しました。")
-                       .arg(path));
+    notices.append(u"%1 に今回の練習を追加できませんでした。練習結果は保存しました。"_s.arg(path));
   };
   const QString line = historyLine(progressRecord, run.course, run.times, conditions);
   if (appendLine(m_files, m_learner.historyFileWork, line) != FileResult::Ok)

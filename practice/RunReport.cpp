@@ -1,7 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/RunReport.h"
 
 #include "data/Text.h"
 #include "itemtext/QuestionText.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -11,8 +15,7 @@ void RunReport::finish(const RunState& state) {
   const CurrentRecord& record = state.shown.record();
   m_progress.countQuestion(state.course.COURSE, item.itemTable, item.itemEnglish);
 
-  QStringList lines = {
-      QStringLiteral("-------------- %1 -------------").arg(digits(m_今回の練習回数, 4))};
+  QStringList lines = {u"-------------- %1 -------------"_s.arg(digits(m_今回の練習回数, 4))};
   if (record.sentence) {
     lines.append(record.問題文);
     lines += sentenceAnswerLines(record);

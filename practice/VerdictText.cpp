@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/VerdictText.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -8,9 +12,9 @@ namespace {
 
 /// The line that names the mark at the end of an answer.
 QString missingMark(const QString& answer) {
-  if (answer.endsWith(u'.')) return QStringLiteral("終止符\"．\"がありません。");
-  if (answer.endsWith(u'?')) return QStringLiteral("疑問符\"?\"がありません。");
-  return QStringLiteral("感嘆符\"!\"がありません。");
+  if (answer.endsWith(u'.')) return u"終止符\"．\"がありません。"_s;
+  if (answer.endsWith(u'?')) return u"疑問符\"?\"がありません。"_s;
+  return u"感嘆符\"!\"がありません。"_s;
 }
 
 }  // namespace
@@ -24,7 +28,7 @@ bool addsNothing(const CurrentRecord& record, int k, const QString& entry) {
 }
 
 QString notRightText(const QString& typed) {
-  return typed + QStringLiteral(" は正解ではありません。");
+  return typed + u" は正解ではありません。"_s;
 }
 
 MarkedText wrongText(const Comparison& comparison) {
@@ -44,12 +48,12 @@ MarkedText slipText(const Comparison& comparison, const QString& answer) {
 }
 
 MarkedText toleratedText(const Comparison& comparison, const QString& answer) {
-  return plainText(comparison.typedAnswer + QStringLiteral(" も正解ですが、\n") + answer +
-                   QStringLiteral(" を覚えてください。"));
+  return plainText(comparison.typedAnswer + u" も正解ですが、\n"_s + answer +
+                   u" を覚えてください。"_s);
 }
 
 QString repeatsText(int repeats) {
-  return QStringLiteral("あと %1 回練習して下さい。").arg(repeats);
+  return u"あと %1 回練習して下さい。"_s.arg(repeats);
 }
 
 }  // namespace tavoli

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/MemorySurvey.h"
 
 #include "data/Database.h"
@@ -5,6 +7,8 @@
 #include "data/Text.h"
 #include "progress/TableSurvey.h"
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -37,9 +41,9 @@ void MemorySurvey::surveySpecial() {
   if (!chosen) return;
   m_specialTable = trimBlanks(*chosen);
   if (!tables.contains(m_specialTable)) {
-    m_dialogs.show(QStringLiteral("専門単熟DB %1 が見つかりません。"
-                                  "「中学／高校／専門の選択」で指定し直してください。")
-                       .arg(m_specialTable));
+    m_dialogs.show(
+        u"専門単熟DB %1 が見つかりません。"
+        "「中学／高校／専門の選択」で指定し直してください。"_s.arg(m_specialTable));
     return;
   }
   survey([&](const Database& opened) {
@@ -48,7 +52,7 @@ void MemorySurvey::surveySpecial() {
 }
 
 void MemorySurvey::survey(const std::function<bool(const Database&)>& count) {
-  if (!m_dialogs.ask(QStringLiteral("調査・更新をしますか？"))) return;
+  if (!m_dialogs.ask(u"調査・更新をしますか？"_s)) return;
   m_screen.setBusy(true);
   std::optional<Database> database = openDatabase(m_dbFileWork).database;
   const ProgressCounters before = m_counters;
@@ -56,12 +60,12 @@ void MemorySurvey::survey(const std::function<bool(const Database&)>& count) {
   m_screen.setBusy(false);
   if (!counted) {
     m_counters = before;
-    m_dialogs.show(QStringLiteral("%1 を読めないので、調査できませんでした。数値は元のままです。")
-                       .arg(m_dbFileWork));
+    m_dialogs.show(
+        u"%1 を読めないので、調査できませんでした。数値は元のままです。"_s.arg(m_dbFileWork));
     return;
   }
   m_screen.DispAchieve();
-  m_dialogs.show(QStringLiteral("調査は終了しました。練習プログラムの終了時に更新されます。"));
+  m_dialogs.show(u"調査は終了しました。練習プログラムの終了時に更新されます。"_s);
   m_screen.showTables();
 }
 

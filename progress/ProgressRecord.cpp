@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/ProgressRecord.h"
 
 #include <algorithm>
 
 #include "data/Text.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -15,7 +19,7 @@ constexpr int timeWidth = 9;
 constexpr int maxCount = 99999;
 constexpr int maxTime = 999999999;
 constexpr int momentWidth = 15;
-const QString momentFormat = QStringLiteral("yyyy/MM/ddHH:mm");
+const QString momentFormat = u"yyyy/MM/ddHH:mm"_s;
 
 /// Calls `use` with each counter's number `i` in the order of the record, and with its width.
 template <typename Counters, typename Use>

@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/ProgressReport.h"
 
 #include <QLocale>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -10,8 +14,7 @@ constexpr double secondsPerHour = 3600;
 constexpr int chartsAPage = 6;
 
 QString levelName(Level level) {
-  static const std::array names = {QStringLiteral("中学"), QStringLiteral("高校"),
-                                   QStringLiteral("専門")};
+  static const std::array names = {u"中学"_s, u"高校"_s, u"専門"_s};
   return names[level];
 }
 
@@ -23,7 +26,7 @@ QLocale locale() {
 }
 
 QString hours(int seconds) {
-  return locale().toString(seconds / secondsPerHour, 'f', 2) + QStringLiteral(" 時間");
+  return locale().toString(seconds / secondsPerHour, 'f', 2) + u" 時間"_s;
 }
 
 /// An empty table by its format string: the column titles, each behind "|" and with ">" where it
@@ -69,27 +72,26 @@ QString BarChart::inWords() const {
 }
 
 std::vector<BarChart> ProgressReport::charts(Level level) const {
-  const QStringList memory = {QStringLiteral("完全"), QStringLiteral("うろ"),
-                              QStringLiteral("全然")};
-  const QStringList months = {QStringLiteral("今月"), QStringLiteral("先月")};
+  const QStringList memory = {u"完全"_s, u"うろ"_s, u"全然"_s};
+  const QStringList months = {u"今月"_s, u"先月"_s};
   const struct {
     QString title;
     const ByLevel& family;
     const QStringList& columns;
   } pages[chartsAPage] = {
-      {QStringLiteral("記憶単熟%1"), m_counters.記憶単熟, memory},
-      {QStringLiteral("記憶文%1"), m_counters.記憶文, memory},
-      {QStringLiteral("時間%1"), m_counters.時間, months},
-      {QStringLiteral("回数%1"), m_counters.回数, months},
-      {QStringLiteral("回数単熟%1DB"), m_counters.回数単熟, months},
-      {QStringLiteral("回数文%1DB"), m_counters.回数文, months},
+      {u"記憶単熟%1"_s, m_counters.記憶単熟, memory},
+      {u"記憶文%1"_s, m_counters.記憶文, memory},
+      {u"時間%1"_s, m_counters.時間, months},
+      {u"回数%1"_s, m_counters.回数, months},
+      {u"回数単熟%1DB"_s, m_counters.回数単熟, months},
+      {u"回数文%1DB"_s, m_counters.回数文, months},
   };
   std::vector<BarChart> charts;
   // The charts are numbered through the courses first.
   int number = static_cast<int>(level) + 1;
   for (const auto& page : pages) {
     BarChart chart;
-    chart.name = QStringLiteral("MSChart") + QString::number(number);
+    chart.name = u"MSChart"_s + QString::number(number);
     chart.title = page.title.arg(levelName(level));
     chart.columns = page.columns;
     chart.inHours = &page.family == &m_counters.時間;
@@ -106,27 +108,24 @@ std::vector<BarChart> ProgressReport::charts(Level level) const {
 
 std::vector<NumberTable> ProgressReport::tables() const {
   return filled({{
-      QStringLiteral("|>完全|>うろ覚え|>全然;　記憶・DB別|単熟・中学DB|単熟・高校DB|単熟・専門DB|"
-                     "　 文・中学DB|　 文・高校DB|　 文・専門DB"),
-      QStringLiteral(
-          "|>今月|>先月|>先月まで;時間・コース別|　中学コース|　高校コース |　専門コース "),
-      QStringLiteral("|>今月|>先月|>先月まで;回数・コース別|　中学コース|　高校コース|　専門コース|"
-                     "　　合    計"),
-      QStringLiteral(
-          "|>今月|>先月|>先月まで;　回数・DB別| 単熟・中学DB| 単熟・高校DB|単熟・専門DB|　 "
-          "文・中学DB|　 文・高校DB|　 文・専門DB|　　合    計"),
+      u"|>完全|>うろ覚え|>全然;　記憶・DB別|単熟・中学DB|単熟・高校DB|単熟・専門DB|"
+      "　 文・中学DB|　 文・高校DB|　 文・専門DB"_s,
+      u"|>今月|>先月|>先月まで;時間・コース別|　中学コース|　高校コース |　専門コース "_s,
+      u"|>今月|>先月|>先月まで;回数・コース別|　中学コース|　高校コース|　専門コース|"
+      "　　合    計"_s,
+      u"|>今月|>先月|>先月まで;　回数・DB別| 単熟・中学DB| 単熟・高校DB|単熟・専門DB|　 "
+      "文・中学DB|　 文・高校DB|　 文・専門DB|　　合    計"_s,
   }});
 }
 
 std::vector<NumberTable> ProgressReport::printedTables() const {
   return filled({{
-      QStringLiteral("|>完全|>うろ覚え|>全然;記憶・ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|"
-                     "単熟･専門ＤＢ|文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ"),
-      QStringLiteral("|>今月|>先月|>先月まで;時間コース別|中学コース|高校コース|専門コース"),
-      QStringLiteral(
-          "|>今月|>先月|>先月まで;回数コース別|中学コース|高校コース|専門コース|合　　計  "),
-      QStringLiteral("|>今月|>先月|>先月まで;回数･ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|単熟･専門ＤＢ|"
-                     "文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ|合　　計  "),
+      u"|>完全|>うろ覚え|>全然;記憶・ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|"
+      "単熟･専門ＤＢ|文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ"_s,
+      u"|>今月|>先月|>先月まで;時間コース別|中学コース|高校コース|専門コース"_s,
+      u"|>今月|>先月|>先月まで;回数コース別|中学コース|高校コース|専門コース|合　　計  "_s,
+      u"|>今月|>先月|>先月まで;回数･ＤＢ別|単熟･中学ＤＢ|単熟･高校ＤＢ|単熟･専門ＤＢ|"
+      "文･中学ＤＢ|文･高校ＤＢ|文･専門ＤＢ|合　　計  "_s,
   }});
 }
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/ProgressStore.h"
 
 #include "data/Database.h"
@@ -8,11 +10,13 @@
 #include "system/Clock.h"
 #include "system/Dialogs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
-const QString firstSpecialTable = QStringLiteral("BusinessTOEIC");
+const QString firstSpecialTable = u"BusinessTOEIC"_s;
 
 bool isLaterMonth(QDate day, QDate before) {
   return std::pair(day.year(), day.month()) > std::pair(before.year(), before.month());
@@ -44,22 +48,19 @@ QString bookTime(const ProgressOwner& owner, ProgressCounters& counters, const C
     counters.時間[courseLevel(owner.COURSE)][0] += static_cast<int>(learnt);
     return {};
   }
-  const QString format = QStringLiteral("yyyy/MM/dd HH:mm:ss");
-  const QString trouble = QStringLiteral(
-                              "DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0\n"
-                              "開始時刻 %1\n休憩時間 %2秒\n現在 %3")
-                              .arg(times.開始時刻.toString(format))
-                              .arg(times.休憩時間)
-                              .arg(now.toString(format));
+  const QString format = u"yyyy/MM/dd HH:mm:ss"_s;
+  const QString trouble =
+      u"DateDiff(\"s\", 開始時刻, 終了時刻 ) - 休憩時間 < 0\n"
+      "開始時刻 %1\n休憩時間 %2秒\n現在 %3"_s.arg(times.開始時刻.toString(format))
+          .arg(times.休憩時間)
+          .arg(now.toString(format));
   times.終了時刻 = times.開始時刻;
   times.休憩時間 = 0;
   return trouble;
 }
 
 bool saveProgressRecord(TableCursor& rsBDIC, const QString& progressRecord) {
-  if (!rsBDIC.EditOrAddNew(rowProgress,
-                           {{field記憶, QStringLiteral("0")}, {field回数, QStringLiteral("00")}}))
-    return false;
+  if (!rsBDIC.EditOrAddNew(rowProgress, {{field記憶, u"0"_s}, {field回数, u"00"_s}})) return false;
   rsBDIC.setValue(field問正コ, progressRecord);
   return rsBDIC.Update();
 }

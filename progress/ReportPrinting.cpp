@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/ReportPrinting.h"
 
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -8,15 +12,13 @@ void printOrSave(Paper& paper, Dialogs& dialogs, const QString& title, const Dra
                  const std::function<QString()>& choosePdf) {
   if (paper.hasPrinter()) {
     if (paper.print(title, draw)) return;
-    dialogs.show(
-        QStringLiteral("プリンタで印刷できませんでした。代わりにPDFファイルに保存できます。"));
+    dialogs.show(u"プリンタで印刷できませんでした。代わりにPDFファイルに保存できます。"_s);
   }
   const QString path = choosePdf();
   if (path.isEmpty()) return;
-  const QString outcome =
-      paper.writePdf(path, title, draw)
-          ? QStringLiteral("%1 に保存しました。")
-          : QStringLiteral("%1 に保存できませんでした。別の場所を選んで下さい。");
+  const QString outcome = paper.writePdf(path, title, draw)
+                              ? u"%1 に保存しました。"_s
+                              : u"%1 に保存できませんでした。別の場所を選んで下さい。"_s;
   dialogs.show(outcome.arg(path));
 }
 

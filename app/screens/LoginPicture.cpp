@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/screens/LoginPicture.h"
 
 #include <QEvent>
@@ -6,6 +8,8 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 // The pictures lie in a static library, which gives them up only when asked.
 static void loadArt() {
@@ -31,16 +35,16 @@ constexpr int deskDepth = 14;
 constexpr int grainEnd = 8;
 
 QString art(const QString& name) {
-  return QStringLiteral(":/art/") + name;
+  return u":/art/"_s + name;
 }
 
 }  // namespace
 
 LoginPicture::LoginPicture(QWidget* parent) : QWidget(parent) {
-  setObjectName(QStringLiteral("Picture1"));
+  setObjectName(u"Picture1"_s);
   setAttribute(Qt::WA_OpaquePaintEvent);
   loadArt();
-  m_timerA.setObjectName(QStringLiteral("TimerA"));
+  m_timerA.setObjectName(u"TimerA"_s);
   m_timerA.setInterval(tickMilliseconds);
   connect(&m_timerA, &QTimer::timeout, this, &LoginPicture::tick);
 }
@@ -49,10 +53,8 @@ void LoginPicture::compose(const LoginLayout& layout) {
   m_layout = layout;
   m_pixelsPerUnit = layout.pixelsPerUnit(size());
   drawRoom(layout);
-  m_walking =
-      frames(QStringLiteral("walking.svg"), LoginLayout::walkingSize, SpriteWalk::walkingFrames);
-  m_standing =
-      frames(QStringLiteral("standing.svg"), LoginLayout::standingSize, SpriteWalk::standingFrames);
+  m_walking = frames(u"walking.svg"_s, LoginLayout::walkingSize, SpriteWalk::walkingFrames);
+  m_standing = frames(u"standing.svg"_s, LoginLayout::standingSize, SpriteWalk::standingFrames);
   m_walk = SpriteWalk();
   m_sprite = nullptr;
   m_spritePlace = QRect();
@@ -67,13 +69,13 @@ void LoginPicture::drawRoom(const LoginLayout& layout) {
   painter.scale(m_pixelsPerUnit, m_pixelsPerUnit);
 
   const bool dark = palette().color(QPalette::Window).lightness() < darkBelow;
-  QSvgRenderer room(art(dark ? QStringLiteral("room-night.svg") : QStringLiteral("room-day.svg")));
+  QSvgRenderer room(art(dark ? u"room-night.svg"_s : u"room-day.svg"_s));
   const QSizeF area = QSizeF(size()) / m_pixelsPerUnit;
   const int feet = std::min(layout.spriteTop + LoginLayout::standingSize.height(),
                             layout.motto.y() + LoginLayout::mottoSize.height());
   const QRectF desk(0, feet - deskDepth, area.width(), area.height() - (feet - deskDepth));
-  room.render(&painter, QStringLiteral("wall"), QRectF(0, 0, area.width(), desk.top()));
-  room.render(&painter, QStringLiteral("desk"), desk.adjusted(-grainEnd, 0, grainEnd, 0));
+  room.render(&painter, u"wall"_s, QRectF(0, 0, area.width(), desk.top()));
+  room.render(&painter, u"desk"_s, desk.adjusted(-grainEnd, 0, grainEnd, 0));
 
   // Furniture stands only where it does not run into the fields.
   const double left = layout.motto.x() - furnitureGap;
@@ -83,23 +85,21 @@ void LoginPicture::drawRoom(const LoginLayout& layout) {
   };
   if (area.width() - right >= windowSize.width()) {
     const QPointF place(middle(right, area.width(), windowSize), furnitureTop);
-    room.render(&painter, QStringLiteral("window"), QRectF(place, windowSize));
+    room.render(&painter, u"window"_s, QRectF(place, windowSize));
   }
   if (left >= shelfSize.width()) {
     const QPointF place(middle(0, left, shelfSize), furnitureTop);
-    room.render(&painter, QStringLiteral("shelf"), QRectF(place, shelfSize));
+    room.render(&painter, u"shelf"_s, QRectF(place, shelfSize));
   }
   const double front = layout.motto.y() + LoginLayout::mottoSize.height();
   if (area.height() - front >= notebookSize.height() + furnitureGap) {
     const double x = std::max(right, middle(0, area.width(), notebookSize));
     const double y = middle(front, area.height(), notebookSize.transposed());
     if (x + notebookSize.width() <= area.width())
-      room.render(&painter, QStringLiteral("notebook"), QRectF(QPointF(x, y), notebookSize));
+      room.render(&painter, u"notebook"_s, QRectF(QPointF(x, y), notebookSize));
   }
-  QSvgRenderer(art(QStringLiteral("logo.svg")))
-      .render(&painter, QRectF(layout.logo, LoginLayout::logoSize));
-  QSvgRenderer(art(QStringLiteral("motto.svg")))
-      .render(&painter, QRectF(layout.motto, LoginLayout::mottoSize));
+  QSvgRenderer(art(u"logo.svg"_s)).render(&painter, QRectF(layout.logo, LoginLayout::logoSize));
+  QSvgRenderer(art(u"motto.svg"_s)).render(&painter, QRectF(layout.motto, LoginLayout::mottoSize));
 }
 
 std::vector<QPixmap> LoginPicture::frames(const QString& clip, const QSize& size, int count) const {
@@ -109,7 +109,7 @@ std::vector<QPixmap> LoginPicture::frames(const QString& clip, const QSize& size
     QPixmap picture((QSizeF(size) * m_pixelsPerUnit * devicePixelRatioF()).toSize());
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    renderer.render(&painter, QStringLiteral("frame%1").arg(frame), picture.rect());
+    renderer.render(&painter, u"frame%1"_s.arg(frame), picture.rect());
     painter.end();
     picture.setDevicePixelRatio(devicePixelRatioF());
     pictures.push_back(picture);

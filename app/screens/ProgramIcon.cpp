@@ -1,4 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/screens/ProgramIcon.h"
+
+using namespace Qt::StringLiterals;
 
 // The pictures lie in a static library, which gives them up only when asked.
 static void loadArt() {
@@ -9,7 +13,7 @@ namespace tavoli {
 
 QIcon programIcon() {
   loadArt();
-  return QIcon(QStringLiteral(":/art/icon.svg"));
+  return QIcon(u":/art/icon.svg"_s);
 }
 
 }  // namespace tavoli

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/screens/TAVO1.h"
 
 #include <QCloseEvent>
@@ -19,6 +21,8 @@
 #include "app/screens/TAVO11.h"
 #include "home/Relocation.h"
 #include "system/Dialogs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -60,20 +64,18 @@ TAVO1::TAVO1(Module1& module, Files& files, Dialogs& dialogs, const QString& ver
       m_picture1(new LoginPicture),
       m_frame2(new QFrame(m_picture1)),
       m_label4(new QLabel),
-      m_text2(makeField(QStringLiteral("Text2"), QStringLiteral("パスワード"))),
-      m_text1(makeField(QStringLiteral("Text1"), QStringLiteral("ユーザーID"))),
-      m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("次へ"),
-                            QStringLiteral("次へ（ログインする）"))),
-      m_command1(makeButton(QStringLiteral("Command1"), QStringLiteral("終了"),
-                            QStringLiteral("終了（プログラムを終わる）"))),
+      m_text2(makeField(u"Text2"_s, u"パスワード"_s)),
+      m_text1(makeField(u"Text1"_s, u"ユーザーID"_s)),
+      m_command2(makeButton(u"Command2"_s, u"次へ"_s, u"次へ（ログインする）"_s)),
+      m_command1(makeButton(u"Command1"_s, u"終了"_s, u"終了（プログラムを終わる）"_s)),
       m_pointSize(font().pointSizeF()) {
-  setObjectName(QStringLiteral("TAVO1"));
-  setWindowTitle(QStringLiteral("Tavoli"));
+  setObjectName(u"TAVO1"_s);
+  setWindowTitle(u"Tavoli"_s);
   setCentralWidget(m_picture1);
   makeFields();
   makeMenus(version);
 
-  m_timer1.setObjectName(QStringLiteral("Timer1"));
+  m_timer1.setObjectName(u"Timer1"_s);
   m_timer1.setSingleShot(true);
   connect(&m_timer1, &QTimer::timeout, this, [this] {
     if (m_text2->isEnabled()) m_text2->setFocus();
@@ -89,11 +91,11 @@ TAVO1::TAVO1(Module1& module, Files& files, Dialogs& dialogs, const QString& ver
 }
 
 void TAVO1::makeFields() {
-  m_label4->setObjectName(QStringLiteral("Label4"));
+  m_label4->setObjectName(u"Label4"_s);
   m_label4->setText(
-      QStringLiteral("２人以上が使用する場合はパスワードを設定して下さい。\n"
-                     "誤って個人データベースが変更されることを防止します。\n"
-                     "登録済み標準ユーザーIDは 000と001です。"));
+      u"２人以上が使用する場合はパスワードを設定して下さい。\n"
+      "誤って個人データベースが変更されることを防止します。\n"
+      "登録済み標準ユーザーIDは 000と001です。"_s);
 
   m_text2->setEchoMode(QLineEdit::Password);
   m_text2->setAccessibleDescription(m_label4->text());
@@ -102,15 +104,15 @@ void TAVO1::makeFields() {
   connect(m_command2, &QPushButton::clicked, this, &TAVO1::logIn);
   connect(m_command1, &QPushButton::clicked, this, &TAVO1::close);
 
-  m_frame2->setObjectName(QStringLiteral("Frame2"));
-  m_frame2->setAccessibleName(QStringLiteral("ログイン"));
+  m_frame2->setObjectName(u"Frame2"_s);
+  m_frame2->setAccessibleName(u"ログイン"_s);
   m_frame2->setFrameShape(QFrame::StyledPanel);
   m_frame2->setAutoFillBackground(true);
   auto* grid = new QGridLayout(m_frame2);
   grid->addWidget(m_label4, 0, 0, 1, 3);
-  grid->addWidget(makeLabel(QStringLiteral("Label2"), QStringLiteral("パスワード"), m_text2), 2, 0);
+  grid->addWidget(makeLabel(u"Label2"_s, u"パスワード"_s, m_text2), 2, 0);
   grid->addWidget(m_text2, 2, 1);
-  grid->addWidget(makeLabel(QStringLiteral("Label1"), QStringLiteral("ユーザーID"), m_text1), 3, 0);
+  grid->addWidget(makeLabel(u"Label1"_s, u"ユーザーID"_s, m_text1), 3, 0);
   grid->addWidget(m_text1, 3, 1);
   grid->addWidget(m_command2, 2, 2);
   grid->addWidget(m_command1, 3, 2);
@@ -126,14 +128,12 @@ void TAVO1::makeMenus(const QString& version) {
     action->setObjectName(QLatin1String(objectName));
     return action;
   };
-  menuBar()->setAccessibleName(QStringLiteral("メニュー"));
-  connect(add("menu11", QStringLiteral("◆個人ＤＢ位置の変更、再配置")), &QAction::triggered, this,
+  menuBar()->setAccessibleName(u"メニュー"_s);
+  connect(add("menu11", u"◆個人ＤＢ位置の変更、再配置"_s), &QAction::triggered, this,
           &TAVO1::relocate);
-  connect(add("credits", QStringLiteral("クレジット")), &QAction::triggered, this,
-          &TAVO1::showCredits);
-  const QString captionStart =
-      QStringLiteral("                                          ( ﾊﾞｰｼﾞｮﾝ ");
-  add("Version", captionStart + version + QStringLiteral(" )"))->setEnabled(false);
+  connect(add("credits", u"クレジット"_s), &QAction::triggered, this, &TAVO1::showCredits);
+  const QString captionStart = u"                                          ( ﾊﾞｰｼﾞｮﾝ "_s;
+  add("Version", captionStart + version + u" )"_s)->setEnabled(false);
 }
 
 void TAVO1::watch(const QScreen* screen) const {
@@ -246,16 +246,16 @@ void TAVO1::letIn() {
 
 void TAVO1::relocate() {
   QInputDialog box(this);
-  box.setWindowTitle(QStringLiteral("Tavoli"));
+  box.setWindowTitle(u"Tavoli"_s);
   box.setFont(font());
   box.setLabelText(
-      QStringLiteral("個人データベースの位置指定のためのパスワードを入れて下さい。\n"
-                     "この機能は標準サポート機能ではありません。"));
-  box.setOkButtonText(QStringLiteral("OK"));
-  box.setCancelButtonText(QStringLiteral("キャンセル"));
+      u"個人データベースの位置指定のためのパスワードを入れて下さい。\n"
+      "この機能は標準サポート機能ではありません。"_s);
+  box.setOkButtonText(u"OK"_s);
+  box.setCancelButtonText(u"キャンセル"_s);
   if (box.exec() != QDialog::Accepted || box.textValue().isEmpty()) return;
   if (!isAccessPassword(box.textValue())) {
-    m_dialogs.show(QStringLiteral("パスワードが間違っています。"));
+    m_dialogs.show(u"パスワードが間違っています。"_s);
     return;
   }
   TAVO11(m_module, m_files, m_dialogs, this).exec();
@@ -263,9 +263,9 @@ void TAVO1::relocate() {
 
 void TAVO1::showCredits() {
   m_dialogs.show(
-      QStringLiteral("1. Tavoli uses \"Microsoft Agent technology\".\n"
-                     "2. Tavoli uses character Peedy.\n"
-                     "3. The character and the pictures are drawn for this program."));
+      u"1. Tavoli uses \"Microsoft Agent technology\".\n"
+      "2. Tavoli uses character Peedy.\n"
+      "3. The character and the pictures are drawn for this program."_s);
 }
 
 void TAVO1::setUserId(const QString& text) {
@@ -289,8 +289,8 @@ void TAVO1::setBusy(bool busy) {
 
 void TAVO1::showEngineTrouble() {
   m_dialogs.show(
-      QStringLiteral("データベースエンジンが使えないので、プログラムをインストールし直してください"
-                     "（個人データベースはそのまま残っています）。"));
+      u"データベースエンジンが使えないので、プログラムをインストールし直してください"
+      "（個人データベースはそのまま残っています）。"_s);
 }
 
 void TAVO1::showEvent(QShowEvent* event) {

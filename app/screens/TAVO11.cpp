@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/screens/TAVO11.h"
 
 #include <QFileDialog>
@@ -13,6 +15,8 @@
 #include "home/Placement.h"
 #include "system/Dialogs.h"
 #include "system/screens/WindowTitle.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -36,17 +40,17 @@ TAVO11::TAVO11(Module1& module, Files& files, Dialogs& dialogs, QWidget* tavo1)
     : QDialog(tavo1),
       m_dialogs(dialogs),
       m_relocation(files, module.applicationFolder),
-      m_label1(new QLabel(QStringLiteral("学習者個人用データベースフォルダ TavoPersonalData "
-                                         "の配置場所を指定します。"))),
-      m_label2(new QLabel(QStringLiteral("配置場所（フォルダ名）を「参照」ボタンで指定した後、"
-                                         "「実行」をクリックして下さい。"))),
-      m_text1(make<QLineEdit>(QStringLiteral("Text1"), QStringLiteral("新しい配置場所"))),
-      m_text2(make<QLineEdit>(QStringLiteral("Text2"), QStringLiteral("現在の配置場所"))),
-      m_command1(make<QPushButton>(QStringLiteral("Command1"), QStringLiteral("実行"))),
-      m_command2(make<QPushButton>(QStringLiteral("Command2"), QStringLiteral("キャンセル"))),
-      m_command3(make<QPushButton>(QStringLiteral("Command3"), QStringLiteral("参照"))) {
-  setObjectName(QStringLiteral("TAVO11"));
-  setWindowTitle(tavoli::windowTitle(QStringLiteral("個人ＤＢ位置の変更、再配置")));
+      m_label1(new QLabel(u"学習者個人用データベースフォルダ TavoPersonalData "
+                          "の配置場所を指定します。"_s)),
+      m_label2(new QLabel(u"配置場所（フォルダ名）を「参照」ボタンで指定した後、"
+                          "「実行」をクリックして下さい。"_s)),
+      m_text1(make<QLineEdit>(u"Text1"_s, u"新しい配置場所"_s)),
+      m_text2(make<QLineEdit>(u"Text2"_s, u"現在の配置場所"_s)),
+      m_command1(make<QPushButton>(u"Command1"_s, u"実行"_s)),
+      m_command2(make<QPushButton>(u"Command2"_s, u"キャンセル"_s)),
+      m_command3(make<QPushButton>(u"Command3"_s, u"参照"_s)) {
+  setObjectName(u"TAVO11"_s);
+  setWindowTitle(tavoli::windowTitle(u"個人ＤＢ位置の変更、再配置"_s));
   setModal(true);
   if (tavo1) {
     setFont(tavo1->font());
@@ -62,12 +66,12 @@ TAVO11::TAVO11(Module1& module, Files& files, Dialogs& dialogs, QWidget* tavo1)
 }
 
 void TAVO11::arrange() {
-  m_label1->setObjectName(QStringLiteral("Label1"));
-  m_label2->setObjectName(QStringLiteral("Label2"));
+  m_label1->setObjectName(u"Label1"_s);
+  m_label2->setObjectName(u"Label2"_s);
   for (QPushButton* button : {m_command1, m_command2, m_command3})
     button->setText(button->accessibleName());
   m_command3->setDefault(true);
-  auto* label3 = new QLabel(QStringLiteral("現在の配置場所："));
+  auto* label3 = new QLabel(u"現在の配置場所："_s);
   label3->setBuddy(m_text2);
   for (QLabel* label : {m_label1, m_label2}) label->setWordWrap(true);
   const int character = m_text1->fontMetrics().averageCharWidth();
@@ -98,8 +102,7 @@ void TAVO11::arrange() {
 
 void TAVO11::browse() {
   const QString folder = QFileDialog::getExistingDirectory(
-      this, tavoli::windowTitle(QStringLiteral("ＤＢを配置するフォルダを指定して下さい。")),
-      m_text1->text());
+      this, tavoli::windowTitle(u"ＤＢを配置するフォルダを指定して下さい。"_s), m_text1->text());
   if (!folder.isEmpty()) m_text1->setText(folder);
 }
 
@@ -117,20 +120,19 @@ QString TAVO11::message(Relocation::Result result) const {
   const QString target = Relocation::target(m_text1->text());
   switch (result) {
     case Relocation::Result::Placed:
-      return target + QStringLiteral(" に個人用ベータベースを配置しました。");
+      return target + u" に個人用ベータベースを配置しました。"_s;
     case Relocation::Result::SameFolder:
-      return QStringLiteral("コピーできません。送り側と受け側のフォルダが同じです。");
+      return u"コピーできません。送り側と受け側のフォルダが同じです。"_s;
     case Relocation::Result::InsideSource:
-      return QStringLiteral("コピーできません。現在の配置場所の中にあるフォルダは指定できません。");
+      return u"コピーできません。現在の配置場所の中にあるフォルダは指定できません。"_s;
     case Relocation::Result::CopyFailed:
-      return target + QStringLiteral(
-                          " にコピーできませんでした。配置場所は変わっていないので、空き容量と"
-                          "フォルダへの書き込みを確かめてからやり直してください。");
+      return target +
+             u" にコピーできませんでした。配置場所は変わっていないので、空き容量と"
+             "フォルダへの書き込みを確かめてからやり直してください。"_s;
     case Relocation::Result::NotRecorded:
       break;
   }
-  return QStringLiteral(
-      "新しい配置場所を TavoAlloc.txt に記録できなかったので、配置場所は変わっていません。");
+  return u"新しい配置場所を TavoAlloc.txt に記録できなかったので、配置場所は変わっていません。"_s;
 }
 
 }  // namespace tavoli

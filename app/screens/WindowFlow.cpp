@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/screens/WindowFlow.h"
 
 #include <QApplication>
@@ -9,6 +11,8 @@
 #include "practice/screens/TAVO7.h"
 #include "progress/TableSurvey.h"
 #include "system/TypeFaces.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -83,8 +87,8 @@ void WindowFlow::showConditions() {
     QObject::connect(m_tavo2.get(), &TAVO2::left, [this] { endProgram(); });
   }
   if (!m_conditions.enter(*m_tavo2)) {
-    m_dialogs.show(QStringLiteral("%1 の練習条件を読めません。プログラムを終了します。")
-                       .arg(m_module.learner.dbFileWork));
+    m_dialogs.show(
+        u"%1 の練習条件を読めません。プログラムを終了します。"_s.arg(m_module.learner.dbFileWork));
     endProgram();
     return;
   }

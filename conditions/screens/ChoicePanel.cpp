@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/ChoicePanel.h"
 
 #include <QEvent>
@@ -6,6 +8,8 @@
 
 #include "conditions/ConditionsRules.h"
 #include "conditions/ConditionsText.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -20,17 +24,17 @@ ChoicePanel::ChoicePanel(ConditionsRules& rules, QWidget* parent)
     : QWidget(parent),
       m_rules(rules),
       m_column(new QVBoxLayout(this)),
-      m_courses(addGroup(QStringLiteral("中学／高校／専門の選択"))),
-      m_course(QStringLiteral("Option11"), m_courses,
+      m_courses(addGroup(u"中学／高校／専門の選択"_s)),
+      m_course(u"Option11"_s, m_courses,
                [this](int i) { m_rules.chooseCourse(codeAt<Course>(i)); }),
-      m_methods(addGroup(QStringLiteral("練習対象の選択方法"))),
-      m_method(QStringLiteral("Option5"), m_methods,
+      m_methods(addGroup(u"練習対象の選択方法"_s)),
+      m_method(u"Option5"_s, m_methods,
                [this](int i) { m_rules.chooseMethod(codeAt<SelMethod>(i)); }),
-      m_starts(addGroup(QStringLiteral("開始英語の指定"))),
-      m_startMode(QStringLiteral("Option6"), m_starts,
+      m_starts(addGroup(u"開始英語の指定"_s)),
+      m_startMode(u"Option6"_s, m_starts,
                   [this](int i) { m_rules.chooseStartMode(codeAt<StartMode>(i)); }),
-      m_memories(addGroup(QStringLiteral("記憶状態"))),
-      m_memory(QStringLiteral("Option7"), m_memories,
+      m_memories(addGroup(u"記憶状態"_s)),
+      m_memory(u"Option7"_s, m_memories,
                [this](int i) { m_rules.chooseMemory(codeAt<MemorySelect>(i)); }) {
   m_column->setContentsMargins({});
   addCourses();
@@ -40,8 +44,8 @@ ChoicePanel::ChoicePanel(ConditionsRules& rules, QWidget* parent)
   m_column->addStretch(1);
   // The style's own indicators are too small beside an enlarged font.
   constexpr double part = 0.75;
-  setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px; height: %1px; }")
-                    .arg(static_cast<int>(fontMetrics().height() * part)));
+  setStyleSheet(u"QRadioButton::indicator { width: %1px; height: %1px; }"_s.arg(
+      static_cast<int>(fontMetrics().height() * part)));
 }
 
 QGroupBox* ChoicePanel::addGroup(const QString& title) {
@@ -51,38 +55,34 @@ QGroupBox* ChoicePanel::addGroup(const QString& title) {
 }
 
 void ChoicePanel::addCourses() {
-  const QStringList captions = {QStringLiteral("中学英語"), QStringLiteral("高校英語"),
-                                QStringLiteral("専門英語⇒")};
+  const QStringList captions = {u"中学英語"_s, u"高校英語"_s, u"専門英語⇒"_s};
   auto* grid = new QGridLayout(m_courses);
   for (int i = 0; i < captions.size(); ++i) {
     QRadioButton* option = m_course.add(captions[i]);
-    option->setToolTip(
-        QStringLiteral("多義語の場合%1DBを優先します。").arg(courseName(codeAt<Course>(i))));
+    option->setToolTip(u"多義語の場合%1DBを優先します。"_s.arg(courseName(codeAt<Course>(i))));
     grid->addWidget(option, i, 0);
   }
   m_special = new QLineEdit(m_courses);
-  m_special->setObjectName(QStringLiteral("Text18"));
-  m_special->setAccessibleName(QStringLiteral("専門ＤＢ"));
+  m_special->setObjectName(u"Text18"_s);
+  m_special->setAccessibleName(u"専門ＤＢ"_s);
   m_special->setReadOnly(true);
   m_special->setCursor(Qt::PointingHandCursor);
-  m_special->setPlaceholderText(QStringLiteral("専門ＤＢの指定"));
-  m_special->setToolTip(QStringLiteral("クリックして専門ＤＢを選択します。"));
+  m_special->setPlaceholderText(u"専門ＤＢの指定"_s);
+  m_special->setToolTip(u"クリックして専門ＤＢを選択します。"_s);
   m_special->installEventFilter(this);
   grid->addWidget(m_special, 2, 1);
   grid->setColumnStretch(1, 1);
 }
 
 void ChoicePanel::addMethods() {
-  const QStringList objects = {QStringLiteral("レッスンファイル"), QStringLiteral("単語・熟語"),
-                               QStringLiteral("例文")};
+  const QStringList objects = {u"レッスンファイル"_s, u"単語・熟語"_s, u"例文"_s};
   // The captions of the sentences are told apart by their blank.
-  const QStringList captions = {QStringLiteral("順に"),  QStringLiteral("ランダムに"),
-                                QStringLiteral("順に"),  QStringLiteral("ランダムに"),
-                                QStringLiteral("順 に"), QStringLiteral("ランダムに")};
+  const QStringList captions = {u"順に"_s,       u"ランダムに"_s, u"順に"_s,
+                                u"ランダムに"_s, u"順 に"_s,      u"ランダムに"_s};
   auto* grid = new QGridLayout(m_methods);
   for (int row = 0; row < objects.size(); ++row) {
     auto* caption = new QLabel(objects[row], m_methods);
-    caption->setObjectName(QStringLiteral("Label%1").arg(4 + 2 * row));
+    caption->setObjectName(u"Label%1"_s.arg(4 + 2 * row));
     caption->setProperty("method", 2 * row);
     caption->installEventFilter(this);
     grid->addWidget(caption, row, 0);
@@ -99,8 +99,8 @@ void ChoicePanel::addStarts() {
     grid->addWidget(m_startMode.add(startModeName(codeAt<StartMode>(i))), i, 0, 1,
                     i < startModeCount - 1 ? 2 : 1);
   m_start = new StartBox(m_starts);
-  m_start->setObjectName(QStringLiteral("Combo1"));
-  m_start->nameParts(QStringLiteral("開始英語"));
+  m_start->setObjectName(u"Combo1"_s);
+  m_start->nameParts(u"開始英語"_s);
   connect(m_start, &QComboBox::editTextChanged, this,
           [this](const QString& text) { m_rules.typeStart(text); });
   grid->addWidget(m_start, startModeCount - 1, 1);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/LessonPanel.h"
 
 #include <QDir>
@@ -5,6 +7,8 @@
 
 #include "conditions/ConditionsRules.h"
 #include "conditions/screens/FolderTree.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -16,33 +20,32 @@ constexpr int previewRow = 2;
 }  // namespace
 
 LessonPanel::LessonPanel(ConditionsRules& rules, QWidget* parent)
-    : QGroupBox(QStringLiteral("レッスンファイルの選択"), parent),
+    : QGroupBox(u"レッスンファイルの選択"_s, parent),
       m_rules(rules),
       m_name(new QLineEdit(this)),
-      m_standard(new QPushButton(QStringLiteral("標準の場所"), this)),
+      m_standard(new QPushButton(u"標準の場所"_s, this)),
       m_folders(new FolderTree([this] { listFiles(); }, this)),
-      m_files(makeList(QStringLiteral("File1"), QStringLiteral("レッスンファイル"), m_fileNames)),
-      m_preview(makeList(QStringLiteral("RichTextBox1"), QStringLiteral("レッスンファイルの内容"),
-                         m_lines)),
+      m_files(makeList(u"File1"_s, u"レッスンファイル"_s, m_fileNames)),
+      m_preview(makeList(u"RichTextBox1"_s, u"レッスンファイルの内容"_s, m_lines)),
       m_trouble(new QLabel(this)),
       m_grid(new QGridLayout(this)) {
-  m_name->setObjectName(QStringLiteral("Text2"));
-  m_name->setAccessibleName(QStringLiteral("レッスンファイルの名前"));
+  m_name->setObjectName(u"Text2"_s);
+  m_name->setAccessibleName(u"レッスンファイルの名前"_s);
   connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) {
     m_rules.typeLessonName(text, m_folders->folder());
     markFile();
   });
-  m_standard->setObjectName(QStringLiteral("Command4"));
+  m_standard->setObjectName(u"Command4"_s);
   m_standard->setToolTip(m_rules.standardFolder());
   m_standard->setAutoDefault(true);
   connect(m_standard, &QPushButton::clicked, this,
           [this] { showFolder(m_rules.standardFolder()); });
-  m_folders->setObjectName(QStringLiteral("Dir1"));
-  m_folders->setAccessibleName(QStringLiteral("フォルダ"));
+  m_folders->setObjectName(u"Dir1"_s);
+  m_folders->setAccessibleName(u"フォルダ"_s);
   connect(m_files, &QListView::clicked, this, &LessonPanel::pick);
   connect(m_files, &QListView::activated, this, &LessonPanel::pick);
   m_preview->setSelectionMode(QAbstractItemView::NoSelection);
-  m_preview->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
+  m_preview->verticalScrollBar()->setObjectName(u"VScroll1"_s);
   m_trouble->setTextFormat(Qt::PlainText);
   m_trouble->setWordWrap(true);
   arrange();
@@ -91,8 +94,7 @@ void LessonPanel::showFolder(const QString& folder) {
 
 void LessonPanel::listFiles() {
   m_fileNames.setStringList(QDir(m_folders->folder())
-                                .entryList({QStringLiteral("*.txt"), QStringLiteral("*.tav")},
-                                           QDir::Files,
+                                .entryList({u"*.txt"_s, u"*.tav"_s}, QDir::Files,
                                            QDir::Name | QDir::IgnoreCase | QDir::LocaleAware));
   markFile();
 }

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/NumberBox.h"
 
 #include <QLineEdit>
@@ -5,12 +7,14 @@
 
 #include "conditions/ConditionsRules.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 NumberBox::NumberBox(NumberField field, const QString& name, const QString& accessibleName,
                      ConditionsRules& rules, QWidget* parent)
     : QAbstractSpinBox(parent), m_field(field), m_rules(rules) {
-  setObjectName(QStringLiteral("UpDown") + name);
+  setObjectName(u"UpDown"_s + name);
   setAccessibleName(accessibleName);
   setFocusPolicy(Qt::StrongFocus);
   lineEdit()->setObjectName(name);
@@ -37,11 +41,11 @@ QValidator::State NumberBox::validate(QString&, int&) const {
 }
 
 QSize NumberBox::sizeHint() const {
-  QString widest = QStringLiteral("99");
+  QString widest = u"99"_s;
   if (m_field == NumberField::MaxLoadWords || m_field == NumberField::MaxLoadSent)
-    widest = QStringLiteral("24990");
+    widest = u"24990"_s;
   if (m_field == NumberField::TargetSentA || m_field == NumberField::TargetWordA)
-    widest = QStringLiteral("9.99");
+    widest = u"9.99"_s;
   const QFontMetrics metrics = fontMetrics();
   return {metrics.horizontalAdvance(widest) + 2 * metrics.height(),
           QAbstractSpinBox::sizeHint().height()};

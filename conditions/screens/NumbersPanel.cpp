@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/NumbersPanel.h"
 
 #include <QLabel>
@@ -6,14 +8,16 @@
 #include "conditions/ConditionsRules.h"
 #include "system/screens/FoldingRow.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
 
 QPushButton* standardButton(const QString& name, const QString& what, QWidget* parent) {
-  auto* button = new QPushButton(QStringLiteral("標準値に戻す"), parent);
+  auto* button = new QPushButton(u"標準値に戻す"_s, parent);
   button->setObjectName(name);
-  button->setAccessibleName(what + QStringLiteral("を標準値に戻す"));
+  button->setAccessibleName(what + u"を標準値に戻す"_s);
   button->setAutoDefault(true);
   return button;
 }
@@ -49,62 +53,60 @@ NumberBox* NumbersPanel::make(NumberField field, const QString& name, const QStr
 }
 
 QGroupBox* NumbersPanel::makeLevels() {
-  QGroupBox* group = makeGroup(QStringLiteral("単語・熟語レベル"));
+  QGroupBox* group = makeGroup(u"単語・熟語レベル"_s);
   auto* row = new QHBoxLayout(group);
-  row->addWidget(
-      make(NumberField::LevelFrom, QStringLiteral("Text6"), QStringLiteral("から"), group));
-  row->addWidget(new QLabel(QStringLiteral("～"), group));
-  row->addWidget(
-      make(NumberField::LevelTo, QStringLiteral("Text7"), QStringLiteral("まで"), group));
+  row->addWidget(make(NumberField::LevelFrom, u"Text6"_s, u"から"_s, group));
+  row->addWidget(new QLabel(u"～"_s, group));
+  row->addWidget(make(NumberField::LevelTo, u"Text7"_s, u"まで"_s, group));
   row->addStretch(1);
   return group;
 }
 
 QGroupBox* NumbersPanel::makeLoads() {
-  QGroupBox* group = makeGroup(QStringLiteral("最大読込数"));
-  const QString words = QStringLiteral("単語・熟語");
-  const QString sentences = QStringLiteral("例文");
+  QGroupBox* group = makeGroup(u"最大読込数"_s);
+  const QString words = u"単語・熟語"_s;
+  const QString sentences = u"例文"_s;
   auto* row = new QHBoxLayout(group);
   row->addWidget(new QLabel(words, group));
-  row->addWidget(make(NumberField::MaxLoadWords, QStringLiteral("Text9"), words, group));
+  row->addWidget(make(NumberField::MaxLoadWords, u"Text9"_s, words, group));
   row->addWidget(new QLabel(sentences, group));
-  row->addWidget(make(NumberField::MaxLoadSent, QStringLiteral("Text10"), sentences, group));
+  row->addWidget(make(NumberField::MaxLoadSent, u"Text10"_s, sentences, group));
   row->addStretch(1);
   return group;
 }
 
 void NumbersPanel::addReview(QGridLayout* grid) {
-  QGroupBox* group = makeGroup(QStringLiteral("復習周期の指定"));
+  QGroupBox* group = makeGroup(u"復習周期の指定"_s);
   auto* row = new QHBoxLayout(group);
-  row->addWidget(make(NumberField::ReviewCycle, QStringLiteral("Text8"), QString(), group));
-  auto* none = new QLabel(QStringLiteral("復習周期 = 0の場合は復習をしない"), group);
+  row->addWidget(make(NumberField::ReviewCycle, u"Text8"_s, QString(), group));
+  auto* none = new QLabel(u"復習周期 = 0の場合は復習をしない"_s, group);
   none->setWordWrap(true);
   row->addWidget(none, 1);
-  auto* standard = standardButton(QStringLiteral("Command3"), group->title(), group);
+  auto* standard = standardButton(u"Command3"_s, group->title(), group);
   connect(standard, &QPushButton::clicked, this, [this] { m_rules.restoreReviewCycle(); });
   row->addWidget(standard);
   grid->addWidget(group, 1, 0);
 }
 
 void NumbersPanel::addTargets(QGridLayout* grid) {
-  QGroupBox* group = makeGroup(QStringLiteral("目標回答時間の指定"));
+  QGroupBox* group = makeGroup(u"目標回答時間の指定"_s);
   auto* rows = new QGridLayout(group);
   const auto addRow = [&](int row, const QString& caption, NumberField a, const QString& nameA,
                           NumberField b, const QString& nameB) {
     rows->addWidget(new QLabel(caption, group), row, 0);
-    rows->addWidget(new QLabel(QStringLiteral("A"), group), row, 1);
-    rows->addWidget(make(a, nameA, caption + QStringLiteral(" A"), group), row, 2);
-    rows->addWidget(new QLabel(QStringLiteral("B"), group), row, 3);
-    rows->addWidget(make(b, nameB, caption + QStringLiteral(" B"), group), row, 4);
+    rows->addWidget(new QLabel(u"A"_s, group), row, 1);
+    rows->addWidget(make(a, nameA, caption + u" A"_s, group), row, 2);
+    rows->addWidget(new QLabel(u"B"_s, group), row, 3);
+    rows->addWidget(make(b, nameB, caption + u" B"_s, group), row, 4);
   };
-  addRow(0, QStringLiteral("例文"), NumberField::TargetSentA, QStringLiteral("Text11"),
-         NumberField::TargetSentB, QStringLiteral("Text12"));
-  addRow(1, QStringLiteral("単語・熟語"), NumberField::TargetWordA, QStringLiteral("Text13"),
-         NumberField::TargetWordB, QStringLiteral("Text14"));
-  auto* formula = new QLabel(QStringLiteral(" =正解長 X A＋B"), group);
-  formula->setToolTip(QStringLiteral("正解の文字数に A 秒を掛け、B 秒を加えた時間です。"));
+  addRow(0, u"例文"_s, NumberField::TargetSentA, u"Text11"_s, NumberField::TargetSentB,
+         u"Text12"_s);
+  addRow(1, u"単語・熟語"_s, NumberField::TargetWordA, u"Text13"_s, NumberField::TargetWordB,
+         u"Text14"_s);
+  auto* formula = new QLabel(u" =正解長 X A＋B"_s, group);
+  formula->setToolTip(u"正解の文字数に A 秒を掛け、B 秒を加えた時間です。"_s);
   rows->addWidget(formula, 0, 5, Qt::AlignRight | Qt::AlignVCenter);
-  auto* standard = standardButton(QStringLiteral("Command2"), group->title(), group);
+  auto* standard = standardButton(u"Command2"_s, group->title(), group);
   connect(standard, &QPushButton::clicked, this, [this] { m_rules.restoreTargets(); });
   rows->addWidget(standard, 1, 5, Qt::AlignRight);
   rows->setColumnStretch(5, 1);

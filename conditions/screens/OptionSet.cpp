@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/OptionSet.h"
 
 #include <QWidget>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -18,7 +22,7 @@ OptionSet::OptionSet(const QString& name, QWidget* parent, std::function<void(in
 QRadioButton* OptionSet::add(const QString& caption, const QString& accessibleName) {
   const auto index = static_cast<int>(m_buttons->buttons().size());
   auto* option = new QRadioButton(caption, m_parent);
-  option->setObjectName(QStringLiteral("%1(%2)").arg(m_name).arg(index));
+  option->setObjectName(u"%1(%2)"_s.arg(m_name).arg(index));
   if (!accessibleName.isEmpty()) option->setAccessibleName(accessibleName);
   m_buttons->addButton(option, index);
   return option;

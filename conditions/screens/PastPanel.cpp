@@ -1,38 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/PastPanel.h"
 
 #include "conditions/ConditionsRules.h"
 #include "conditions/ConditionsText.h"
 #include "data/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 PastPanel::PastPanel(ConditionsRules& rules, QWidget* parent)
     : QGroupBox(parent), m_runs(new QComboBox(this)), m_grid(new QGridLayout) {
-  setObjectName(QStringLiteral("Frame2"));
-  m_runs->setObjectName(QStringLiteral("Combo2"));
-  m_runs->setAccessibleName(QStringLiteral("過去の練習条件"));
-  m_runs->setPlaceholderText(QStringLiteral("過去の練習条件"));
-  m_runs->setToolTip(QStringLiteral("過去の練習条件を選ぶと、下に表示します。"));
+  setObjectName(u"Frame2"_s);
+  m_runs->setObjectName(u"Combo2"_s);
+  m_runs->setAccessibleName(u"過去の練習条件"_s);
+  m_runs->setPlaceholderText(u"過去の練習条件"_s);
+  m_runs->setToolTip(u"過去の練習条件を選ぶと、下に表示します。"_s);
   connect(m_runs, &QComboBox::activated, this, [&rules](int index) { rules.choosePastRun(index); });
 
-  addRow(QStringLiteral("コース"), QStringLiteral("Option10"));
-  addRow(QStringLiteral("専門ＤＢ"), QStringLiteral("Text17"));
-  addRow(QStringLiteral("練習対象"), QStringLiteral("Option1"));
-  addRow(QStringLiteral("ファイル"), QStringLiteral("Text1"));
-  addRow(QStringLiteral("最初の単語"), QStringLiteral("Label14"));
-  addRow(QStringLiteral("最後の単語"), QStringLiteral("Label16"));
-  addRow(QStringLiteral("最初の例文"), QStringLiteral("Label17"));
-  addRow(QStringLiteral("最後の例文"), QStringLiteral("Label19"));
-  addRow(QStringLiteral("開始英語"), QStringLiteral("Option2"));
-  addRow(QStringLiteral("指定英語"), QStringLiteral("Label11"));
-  addRow(QStringLiteral("記憶状態"), QStringLiteral("Option3"));
+  addRow(u"コース"_s, u"Option10"_s);
+  addRow(u"専門ＤＢ"_s, u"Text17"_s);
+  addRow(u"練習対象"_s, u"Option1"_s);
+  addRow(u"ファイル"_s, u"Text1"_s);
+  addRow(u"最初の単語"_s, u"Label14"_s);
+  addRow(u"最後の単語"_s, u"Label16"_s);
+  addRow(u"最初の例文"_s, u"Label17"_s);
+  addRow(u"最後の例文"_s, u"Label19"_s);
+  addRow(u"開始英語"_s, u"Option2"_s);
+  addRow(u"指定英語"_s, u"Label11"_s);
+  addRow(u"記憶状態"_s, u"Option3"_s);
   auto* levels = new QHBoxLayout;
-  levels->addWidget(makeValue(QStringLiteral("Text4")));
-  levels->addWidget(new QLabel(QStringLiteral("～"), this));
-  levels->addWidget(makeValue(QStringLiteral("Text5")));
+  levels->addWidget(makeValue(u"Text4"_s));
+  levels->addWidget(new QLabel(u"～"_s, this));
+  levels->addWidget(makeValue(u"Text5"_s));
   levels->addStretch(1);
   const int row = m_grid->rowCount();
-  m_grid->addWidget(new QLabel(QStringLiteral("レベル"), this), row, 0);
+  m_grid->addWidget(new QLabel(u"レベル"_s, this), row, 0);
   m_grid->addLayout(levels, row, 1);
   m_grid->setColumnStretch(1, 1);
   auto* column = new QVBoxLayout(this);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/RepeatDialog.h"
 
 #include <QGroupBox>
@@ -6,6 +8,8 @@
 #include <QPushButton>
 
 #include "system/screens/WindowTitle.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -43,12 +47,12 @@ RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
   m_wordBox = addGroup(column, m_word, 1);
   m_sentenceBox = addGroup(column, m_sentence, 2);
 
-  auto* ok = new QPushButton(QStringLiteral("ＯＫ"), this);
-  ok->setObjectName(QStringLiteral("Command3"));
+  auto* ok = new QPushButton(u"ＯＫ"_s, this);
+  ok->setObjectName(u"Command3"_s);
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, &RepeatDialog::accept);
-  auto* cancel = new QPushButton(QStringLiteral("キャンセル"), this);
-  cancel->setObjectName(QStringLiteral("Command4"));
+  auto* cancel = new QPushButton(u"キャンセル"_s, this);
+  cancel->setObjectName(u"Command4"_s);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
@@ -64,16 +68,16 @@ RepeatDialog::RepeatDialog(const QString& title, const RepeatValue& word,
 QSpinBox* RepeatDialog::addGroup(QBoxLayout* column, const RepeatValue& value, int number) {
   auto* group = new QGroupBox(value.caption, this);
   auto* box = new RangeBox(group);
-  box->setObjectName(QStringLiteral("UpDown%1").arg(number));
-  box->nameEdit(QStringLiteral("Text%1").arg(number), value.caption);
+  box->setObjectName(u"UpDown%1"_s.arg(number));
+  box->nameEdit(u"Text%1"_s.arg(number), value.caption);
   box->setAccessibleName(value.caption);
   box->setRange(1, value.most);
   box->setValue(value.field);
   box->setInputMethodHints(Qt::ImhDigitsOnly);
-  auto* range = new QLabel(QStringLiteral("回　（1～%1）").arg(value.most), group);
-  auto* reset = new QPushButton(QStringLiteral("標準値に戻す"), group);
-  reset->setObjectName(QStringLiteral("Command%1").arg(number));
-  reset->setAccessibleName(value.caption + QStringLiteral("を標準値に戻す"));
+  auto* range = new QLabel(u"回　（1～%1）"_s.arg(value.most), group);
+  auto* reset = new QPushButton(u"標準値に戻す"_s, group);
+  reset->setObjectName(u"Command%1"_s.arg(number));
+  reset->setAccessibleName(value.caption + u"を標準値に戻す"_s);
   reset->setAutoDefault(false);
   connect(reset, &QPushButton::clicked, box,
           [box, standard = value.standard] { box->setValue(standard); });

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "conditions/screens/TAVO2.h"
 
 #include <QCloseEvent>
@@ -17,6 +19,8 @@
 #include "system/screens/FoldingRow.h"
 #include "system/screens/WindowTitle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
@@ -31,21 +35,21 @@ QPushButton* makeButton(const QString& name, const QString& caption, QWidget* pa
 }  // namespace
 
 TAVO2::TAVO2(ConditionsRules& rules, QWidget* parent) : QMainWindow(parent) {
-  setObjectName(QStringLiteral("TAVO2"));
-  setWindowTitle(tavoli::windowTitle(QStringLiteral("練習対象の選択条件／復習周期／目標回答時間")));
+  setObjectName(u"TAVO2"_s);
+  setWindowTitle(tavoli::windowTitle(u"練習対象の選択条件／復習周期／目標回答時間"_s));
   auto* centre = new QWidget(this);
   auto* columns = new FoldingRow(this, FoldingRow::Fold::BelowPreferred);
-  auto* present = new QGroupBox(QStringLiteral("今回"), columns);
+  auto* present = new QGroupBox(u"今回"_s, columns);
   m_choices = new ChoicePanel(rules, present);
   auto* details = new QWidget(present);
   m_lesson = new LessonPanel(rules, details);
   m_numbers = new NumbersPanel(rules, details);
   m_past = new PastPanel(rules, columns);
-  m_command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"), centre);
+  m_command1 = makeButton(u"Command1"_s, u"次へ"_s, centre);
   connect(m_command1, &QPushButton::clicked, this, [this, &rules] {
     if (const std::optional<QString> startKey = rules.next()) Q_EMIT next(*startKey);
   });
-  auto* command5 = makeButton(QStringLiteral("Command5"), QStringLiteral("終了"), centre);
+  auto* command5 = makeButton(u"Command5"_s, u"終了"_s, centre);
   connect(command5, &QPushButton::clicked, this, &QWidget::close);
 
   auto* right = new QVBoxLayout(details);
@@ -133,10 +137,9 @@ void TAVO2::showPastRun(const QString& caption, const PastRun& run) {
 
 std::optional<QString> TAVO2::chooseSpecialTable(const QStringList& tables,
                                                  const QString& present) {
-  ChoiceDialog dialog({QStringLiteral("専門ＤＢの指定"),
-                       QStringLiteral("専門ＤＢを選択して下さい。"), tables, present},
+  ChoiceDialog dialog({u"専門ＤＢの指定"_s, u"専門ＤＢを選択して下さい。"_s, tables, present},
                       this);
-  dialog.setObjectName(QStringLiteral("TAVO8"));
+  dialog.setObjectName(u"TAVO8"_s);
   if (isVisible()) {
     const QGroupBox& courses = m_choices->courses();
     const QPoint beside = courses.mapToGlobal(courses.rect().topRight());

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "lookup/screens/LookUpPane.h"
 
 #include <QKeyEvent>
@@ -7,6 +9,8 @@
 
 #include "ui/screens/EnglishBox.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 LookUpPane::LookUpPane(int index, const QString& heading, LookUp& dictionary, QWidget* parent)
@@ -14,22 +18,21 @@ LookUpPane::LookUpPane(int index, const QString& heading, LookUp& dictionary, QW
       m_dictionary(dictionary),
       m_word(new EnglishBox(this)),
       m_entry(new WordView(this)) {
-  m_word->setObjectName(QStringLiteral("Text3(%1)").arg(index));
-  m_word->setAccessibleName(heading + QStringLiteral("で調べる語"));
+  m_word->setObjectName(u"Text3(%1)"_s.arg(index));
+  m_word->setAccessibleName(heading + u"で調べる語"_s);
   m_word->setMinimumWidth(m_word->fontMetrics().averageCharWidth() * 8);
   m_word->installEventFilter(this);
   connect(m_word, &QLineEdit::textChanged, this,
           [this](const QString& text) { showResult(m_dictionary.find(text)); });
 
-  m_entry->setObjectName(QStringLiteral("RichTextBox3(%1)").arg(index));
-  m_entry->setAccessibleName(heading + QStringLiteral("の説明"));
+  m_entry->setObjectName(u"RichTextBox3(%1)"_s.arg(index));
+  m_entry->setAccessibleName(heading + u"の説明"_s);
   m_entry->installEventFilter(this);
   connect(m_entry, &WordView::wordClicked, this, &LookUpPane::wordClicked);
-  if (index == 1)
-    showResult(plainText(QStringLiteral("マウスでクリック又は選択した英語の説明を表示します。")));
+  if (index == 1) showResult(plainText(u"マウスでクリック又は選択した英語の説明を表示します。"_s));
 
   auto* label = new QLabel(heading, this);
-  label->setObjectName(QStringLiteral("Label3(%1)").arg(index));
+  label->setObjectName(u"Label3(%1)"_s.arg(index));
   label->setTextFormat(Qt::PlainText);
   label->setToolTip(heading);
   label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 4);
@@ -46,7 +49,7 @@ LookUpPane::LookUpPane(int index, const QString& heading, LookUp& dictionary, QW
 
 QWidget* LookUpPane::buildUpDown(int index, const QString& heading) {
   auto* upDown = new QWidget(this);
-  upDown->setObjectName(QStringLiteral("UpDown1(%1)").arg(index));
+  upDown->setObjectName(u"UpDown1(%1)"_s.arg(index));
   auto* row = new QHBoxLayout(upDown);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
@@ -55,13 +58,13 @@ QWidget* LookUpPane::buildUpDown(int index, const QString& heading) {
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setAccessibleName(heading + QStringLiteral("の") + tip);
+    button->setAccessibleName(heading + u"の"_s + tip);
     button->setToolTip(tip);
     connect(button, &QToolButton::clicked, this, [this, back] { stepEntry(back); });
     row->addWidget(button);
   };
-  add(Qt::UpArrow, QStringLiteral("前の語"), true);
-  add(Qt::DownArrow, QStringLiteral("次の語"), false);
+  add(Qt::UpArrow, u"前の語"_s, true);
+  add(Qt::DownArrow, u"次の語"_s, false);
   return upDown;
 }
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/AnswerAreas.h"
 
 #include <QAccessible>
@@ -12,6 +14,8 @@
 #include "ui/screens/ScaledFont.h"
 #include "ui/screens/TextMenu.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent) {
@@ -22,7 +26,7 @@ QSplitter* openSplitter(Qt::Orientation orientation, QWidget* parent) {
 
 void addPart(QSplitter* splitter, QWidget* part, const QString& name) {
   splitter->addWidget(part);
-  splitter->handle(splitter->indexOf(part))->setAccessibleName(name + QStringLiteral("の境"));
+  splitter->handle(splitter->indexOf(part))->setAccessibleName(name + u"の境"_s);
 }
 
 AnswerAreas::AnswerAreas(QMainWindow& window)
@@ -38,11 +42,11 @@ AnswerAreas::AnswerAreas(QMainWindow& window)
     area->setObjectName(objectName);
     area->setAccessibleName(accessibleName);
   };
-  heading->setObjectName(QStringLiteral("Label1"));
-  time->setObjectName(QStringLiteral("Picture1"));
-  name(question, QStringLiteral("RichTextBox4"), QStringLiteral("問題"));
-  name(answer, QStringLiteral("Text2"), QStringLiteral("回答"));
-  name(fullAnswer, QStringLiteral("RichTextBox2"), QStringLiteral("正解と説明"));
+  heading->setObjectName(u"Label1"_s);
+  time->setObjectName(u"Picture1"_s);
+  name(question, u"RichTextBox4"_s, u"問題"_s);
+  name(answer, u"Text2"_s, u"回答"_s);
+  name(fullAnswer, u"RichTextBox2"_s, u"正解と説明"_s);
   question->setFont(scaled(window.font(), 1.5));
   fullAnswer->setFont(scaled(window.font(), 1.3));
   for (const WordView* area : {question, fullAnswer})
@@ -61,8 +65,8 @@ void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* 
   auto* head = new QHBoxLayout;
   head->addWidget(heading);
   head->addWidget(time, 1);
-  auto* label = new QLabel(QStringLiteral("回答"), &m_window);
-  label->setObjectName(QStringLiteral("Label2"));
+  auto* label = new QLabel(u"回答"_s, &m_window);
+  label->setObjectName(u"Label2"_s);
   label->setBuddy(answer);
   auto* answerRow = new QHBoxLayout;
   answerRow->addWidget(label);
@@ -76,9 +80,9 @@ void AnswerAreas::arrange(QLayout* questionRow, QWidget* explanations, QWidget* 
   askingColumn->addLayout(answerRow);
   askingColumn->addWidget(message);
   message->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-  addPart(m_rows, asking, QStringLiteral("問題と回答"));
-  addPart(m_rows, explanations, QStringLiteral("正解と説明"));
-  addPart(m_rows, m_lookUps, QStringLiteral("辞書"));
+  addPart(m_rows, asking, u"問題と回答"_s);
+  addPart(m_rows, explanations, u"正解と説明"_s);
+  addPart(m_rows, m_lookUps, u"辞書"_s);
   m_rows->setStretchFactor(0, 3);
   m_rows->setStretchFactor(1, 4);
   m_rows->setStretchFactor(2, 3);

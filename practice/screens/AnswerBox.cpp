@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/AnswerBox.h"
 
 #include <QKeyEvent>
 
 #include "system/TypeFaces.h"
 #include "ui/screens/ScaledFont.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -21,7 +25,7 @@ void AnswerBox::setHint(const QString& hint) {
 
 void AnswerBox::awaitEnter(bool awaited) {
   setReadOnly(awaited);
-  setPlaceholderText(awaited ? QStringLiteral("Enter キーで次に進みます。") : m_hint);
+  setPlaceholderText(awaited ? u"Enter キーで次に進みます。"_s : m_hint);
 }
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {

@@ -1,8 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/CountsFrame.h"
 
 #include <QHeaderView>
 #include <QLayout>
 #include <QScrollBar>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -13,15 +17,12 @@ constexpr int rowCount = 4;
 }  // namespace
 
 CountsFrame::CountsFrame(QWidget* parent)
-    : QGroupBox(QStringLiteral("練習回数（今回、今月）"), parent),
-      m_table(new QTableWidget(rowCount, 3, this)) {
-  m_table->setObjectName(QStringLiteral("MSFlexGrid1"));
+    : QGroupBox(u"練習回数（今回、今月）"_s, parent), m_table(new QTableWidget(rowCount, 3, this)) {
+  m_table->setObjectName(u"MSFlexGrid1"_s);
   m_table->setAccessibleName(title());
-  m_table->setHorizontalHeaderLabels(
-      {QStringLiteral("中学"), QStringLiteral("高校"), QStringLiteral("専門")});
-  m_table->setVerticalHeaderLabels({QStringLiteral("単語・熟語 今回"),
-                                    QStringLiteral("単語・熟語 今月"), QStringLiteral("例文 今回"),
-                                    QStringLiteral("例文 今月")});
+  m_table->setHorizontalHeaderLabels({u"中学"_s, u"高校"_s, u"専門"_s});
+  m_table->setVerticalHeaderLabels(
+      {u"単語・熟語 今回"_s, u"単語・熟語 今月"_s, u"例文 今回"_s, u"例文 今月"_s});
   m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_table->setSelectionMode(QAbstractItemView::NoSelection);
   m_table->setFocusPolicy(Qt::NoFocus);

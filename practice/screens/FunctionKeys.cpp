@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/FunctionKeys.h"
 
 #include <QLayout>
@@ -6,6 +8,8 @@
 #include <utility>
 
 #include "system/screens/FoldingRow.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -40,7 +44,7 @@ QBoxLayout* FunctionKeys::makeRow(const std::vector<DrillKey>& keys) {
 
 QPushButton* FunctionKeys::makeButton(const DrillKey& key) {
   auto* button = new QPushButton(key.caption, this);
-  button->setObjectName(QStringLiteral("Command1(%1)").arg(key.index));
+  button->setObjectName(u"Command1(%1)"_s.arg(key.index));
   button->setToolTip(key.tip);
   button->setFocusPolicy(Qt::NoFocus);
   QString caption = key.caption;

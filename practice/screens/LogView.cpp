@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/LogView.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -7,17 +9,19 @@
 
 #include "lookup/screens/WordView.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 LogView::LogView(QWidget* parent) : QWidget(parent) {
   m_text = new WordView(this);
-  m_text->setObjectName(QStringLiteral("RichTextBox1"));
-  m_text->setAccessibleName(QStringLiteral("練習経過"));
+  m_text->setObjectName(u"RichTextBox1"_s);
+  m_text->setAccessibleName(u"練習経過"_s);
   m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   m_text->viewport()->installEventFilter(this);
   m_lines = new QScrollBar(Qt::Vertical, this);
-  m_lines->setObjectName(QStringLiteral("VScroll1"));
-  m_lines->setAccessibleName(QStringLiteral("練習経過の行"));
+  m_lines->setObjectName(u"VScroll1"_s);
+  m_lines->setAccessibleName(u"練習経過の行"_s);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/MessageLine.h"
 
 #include "ui/screens/MarkedView.h"
@@ -8,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace tavoli {
 
 MessageLine::MessageLine(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("RichTextBox5"));
+  setObjectName(u"RichTextBox5"_s);
   setWordWrap(true);
   setFont(scaled(font(), 1.2));
   setMinimumHeight(fontMetrics().lineSpacing() * 2);

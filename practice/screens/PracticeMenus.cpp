@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/PracticeMenus.h"
 
 #include <QActionGroup>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -22,23 +26,20 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption) {
 }  // namespace
 
 PracticeMenus::PracticeMenus(QMenuBar& bar) : QObject(&bar) {
-  QMenu* questions = addMenu(bar, QStringLiteral("menuQuestions"), QStringLiteral("出題"));
-  connect(tavoli::add(questions, QStringLiteral("menu1"), QStringLiteral("繰返し回数の設定")),
-          &QAction::triggered, this, &PracticeMenus::repeatsWanted);
+  QMenu* questions = addMenu(bar, u"menuQuestions"_s, u"出題"_s);
+  connect(tavoli::add(questions, u"menu1"_s, u"繰返し回数の設定"_s), &QAction::triggered, this,
+          &PracticeMenus::repeatsWanted);
   add(questions, reshuffleCommand());
 
-  QMenu* view = addMenu(bar, QStringLiteral("menuView"), QStringLiteral("表示"));
+  QMenu* view = addMenu(bar, u"menuView"_s, u"表示"_s);
   m_log = add(view, logCommand());
   m_log->setCheckable(true);
-  QAction* counts =
-      tavoli::add(view, QStringLiteral("menu_DispKaisuu"), QStringLiteral("練習回数の表示"));
+  QAction* counts = tavoli::add(view, u"menu_DispKaisuu"_s, u"練習回数の表示"_s);
   counts->setCheckable(true);
   connect(counts, &QAction::triggered, this, &PracticeMenus::countsToggled);
 
-  m_comparisons = addChoices(addMenu(bar, QStringLiteral("menu4"), QStringLiteral("比較方法")),
-                             comparisonCommands());
-  m_sounds = addChoices(addMenu(bar, QStringLiteral("menuTimeUp"), QStringLiteral("時間切れの音")),
-                        timeUpCommands());
+  m_comparisons = addChoices(addMenu(bar, u"menu4"_s, u"比較方法"_s), comparisonCommands());
+  m_sounds = addChoices(addMenu(bar, u"menuTimeUp"_s, u"時間切れの音"_s), timeUpCommands());
 }
 
 QAction* PracticeMenus::add(QMenu* menu, const MenuCommand& command) {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/StatusPanels.h"
 
 #include <QMouseEvent>
@@ -6,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
@@ -13,7 +17,7 @@ namespace {
 constexpr int gap = 2;
 constexpr int inset = 4;
 
-const QString comparisonTip = QStringLiteral("クリックすると比較方法が変わります。");
+const QString comparisonTip = u"クリックすると比較方法が変わります。"_s;
 
 /// A framed label that ends in "…" where its text has no room.
 class Panel final : public QLabel {
@@ -50,13 +54,12 @@ StatusPanels::StatusPanels(std::function<void()> nextComparison, QWidget* parent
   QFont smaller = font();
   smaller.setPointSizeF(smaller.pointSizeF() * 0.8);
   setFont(smaller);
-  static const std::array<QString, panelCount> names{
-      QStringLiteral("復習周期"), QStringLiteral("位置"),     QStringLiteral("比較方法"),
-      QStringLiteral("開始時刻"), QStringLiteral("休憩時間"), QStringLiteral("経過時間"),
-      QStringLiteral("練習回数"), QStringLiteral("出題順")};
+  static const std::array<QString, panelCount> names{u"復習周期"_s, u"位置"_s,     u"比較方法"_s,
+                                                     u"開始時刻"_s, u"休憩時間"_s, u"経過時間"_s,
+                                                     u"練習回数"_s, u"出題順"_s};
   for (size_t i = 0; i < names.size(); ++i) {
     auto* made = new Panel(this);
-    made->setObjectName(QStringLiteral("StatusBar1.Panel%1").arg(i + 1));
+    made->setObjectName(u"StatusBar1.Panel%1"_s.arg(i + 1));
     made->setAccessibleName(names[i]);
     made->hide();
     m_panels[i] = made;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/TAVO3.h"
 
 #include <QCloseEvent>
@@ -17,6 +19,8 @@
 #include "practice/screens/StatusPanels.h"
 #include "system/Clock.h"
 #include "system/screens/WindowTitle.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -42,11 +46,11 @@ TAVO3::TAVO3(QWidget* parent) : AnswerWindow(parent) {
 
 void TAVO3::buildAreas() {
   m_counts = new CountsFrame(this);
-  m_counts->setObjectName(QStringLiteral("Frame1"));
+  m_counts->setObjectName(u"Frame1"_s);
   m_counts->hide();
   m_miniTest = new MarkedView(this);
-  m_miniTest->setObjectName(QStringLiteral("RichTextBox6"));
-  m_miniTest->setAccessibleName(QStringLiteral("小試験"));
+  m_miniTest->setObjectName(u"RichTextBox6"_s);
+  m_miniTest->setAccessibleName(u"小試験"_s);
   m_miniTest->hide();
   m_log = new LogView(this);
   connect(m_log, &LogView::wordClicked, this, &TAVO3::lookUp);
@@ -83,7 +87,7 @@ void TAVO3::arrange() {
   auto* explanations = openSplitter(Qt::Horizontal, this);
   addPart(explanations, m_areas.fullAnswer, m_areas.fullAnswer->accessibleName());
   addPart(explanations, m_miniTest, m_miniTest->accessibleName());
-  addPart(explanations, m_log, QStringLiteral("練習経過"));
+  addPart(explanations, m_log, u"練習経過"_s);
   for (int i = 0; i < explanations->count(); ++i) explanations->setStretchFactor(i, 1);
   m_areas.arrange(questionRow, explanations, m_keys);
 }

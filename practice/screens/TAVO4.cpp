@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/TAVO4.h"
 
 #include <QCloseEvent>
@@ -11,10 +13,12 @@
 #include "practice/PracticeLoop.h"
 #include "system/screens/WindowTitle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 TAVO4::TAVO4(QWidget* parent) : AnswerWindow(parent) {
-  setWindowTitle(tavoli::windowTitle(QStringLiteral("復習")));
+  setWindowTitle(tavoli::windowTitle(u"復習"_s));
   connectAnswer();
   m_keys = new FunctionKeys(
       reviewKeys(),
@@ -26,8 +30,8 @@ TAVO4::TAVO4(QWidget* parent) : AnswerWindow(parent) {
   auto* questionRow = new QHBoxLayout;
   questionRow->addWidget(m_areas.question, 1);
   m_areas.arrange(questionRow, m_areas.fullAnswer, m_keys);
-  auto* hint = new QLabel(QStringLiteral("復習周期は 「 条件設定 」 画面で変更できます。"), this);
-  hint->setObjectName(QStringLiteral("Label4"));
+  auto* hint = new QLabel(u"復習周期は 「 条件設定 」 画面で変更できます。"_s, this);
+  hint->setObjectName(u"Label4"_s);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(hint);
   connect(&m_seconds, &QTimer::timeout, this, [this] {
@@ -54,11 +58,11 @@ void TAVO4::connectAnswer() {
 }
 
 void TAVO4::buildMenu() {
-  QMenu* settings = menuBar()->addMenu(QStringLiteral("設定"));
-  settings->setObjectName(QStringLiteral("menuSettings"));
+  QMenu* settings = menuBar()->addMenu(u"設定"_s);
+  settings->setObjectName(u"menuSettings"_s);
   settings->setAccessibleName(settings->title());
-  QAction* repeats = settings->addAction(QStringLiteral("正解要求時の繰り返し入力回数"));
-  repeats->setObjectName(QStringLiteral("menu1"));
+  QAction* repeats = settings->addAction(u"正解要求時の繰り返し入力回数"_s);
+  repeats->setObjectName(u"menu1"_s);
   connect(repeats, &QAction::triggered, this, &TAVO4::setRepeats);
 }
 
@@ -67,7 +71,7 @@ ReviewDrill* TAVO4::review() const {
 }
 
 void TAVO4::beginReview(const QString& course) {
-  m_areas.heading->setText(QStringLiteral("復習　") + course);
+  m_areas.heading->setText(u"復習　"_s + course);
   m_seconds.start(std::chrono::seconds(1));
   Q_EMIT begun();
 }

@@ -1,15 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/TAVO7.h"
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 void TAVO7::begin(int loadTotal) {
-  m_dialog =
-      std::make_unique<QProgressDialog>(QStringLiteral("問題を読み込んでいます。"),
-                                        QStringLiteral("キャンセル"), 0, loadTotal, m_parent);
-  m_dialog->setObjectName(QStringLiteral("TAVO7"));
-  m_dialog->setWindowTitle(QStringLiteral("Tavoli"));
+  m_dialog = std::make_unique<QProgressDialog>(u"問題を読み込んでいます。"_s, u"キャンセル"_s, 0,
+                                               loadTotal, m_parent);
+  m_dialog->setObjectName(u"TAVO7"_s);
+  m_dialog->setWindowTitle(u"Tavoli"_s);
   m_dialog->setWindowModality(Qt::ApplicationModal);
   m_dialog->setMinimumDuration(0);
   m_dialog->setAutoReset(false);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "practice/screens/TimeStrip.h"
 
 #include <QPainter>
@@ -5,6 +7,8 @@
 #include <algorithm>
 
 #include "ui/screens/ScaledFont.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -16,7 +20,7 @@ const QColor timeUpColour(176, 0, 32);  // carries white letters on light and da
 
 TimeStrip::TimeStrip(QWidget* parent) : QWidget(parent) {
   setFont(scaled(font(), 1.2));
-  setAccessibleName(QStringLiteral("回答時間"));
+  setAccessibleName(u"回答時間"_s);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -29,7 +33,7 @@ void TimeStrip::showTime(const AnswerTime& time) {
 QString TimeStrip::text() const {
   const QString seconds =
       m_time.running && m_time.seconds > 0 ? QString::number(m_time.seconds) : QString();
-  return timeUp() ? QStringLiteral("時間切れ　") + seconds : seconds;
+  return timeUp() ? u"時間切れ　"_s + seconds : seconds;
 }
 
 QSize TimeStrip::sizeHint() const {
@@ -37,8 +41,7 @@ QSize TimeStrip::sizeHint() const {
 }
 
 QSize TimeStrip::minimumSizeHint() const {
-  return {fontMetrics().horizontalAdvance(QStringLiteral("時間切れ　0000")),
-          fontMetrics().height() + 4};
+  return {fontMetrics().horizontalAdvance(u"時間切れ　0000"_s), fontMetrics().height() + 4};
 }
 
 void TimeStrip::paintEvent(QPaintEvent*) {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/screens/ChartPage.h"
 
 #include <QChartView>
@@ -10,6 +12,8 @@
 #include <utility>
 
 #include "progress/screens/BarChartDrawing.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -27,7 +31,7 @@ ChartPage::ChartPage(const QString& note, QWidget* parent) : QWidget(parent) {
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidget(charts);
-  scroll->setAccessibleName(QStringLiteral("グラフ"));
+  scroll->setAccessibleName(u"グラフ"_s);
   auto* column = new QVBoxLayout(this);
   column->addWidget(scroll, 1);
   if (note.isEmpty()) return;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/screens/PrintedReport.h"
 
 #include <QImage>
@@ -7,6 +9,8 @@
 
 #include "progress/screens/BarChartDrawing.h"
 #include "system/PageSurface.h"
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -74,8 +78,7 @@ void drawReport(PageSurface& page, const ProgressReport& report, const ReportHea
   drawCharts(page, report.charts(高校), 2);
   page.drawText(
       headingLeft, headingTop,
-      QStringLiteral("―― %1―― UID=%2")
-          .arg(heading.time.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")), heading.userId));
+      u"―― %1―― UID=%2"_s.arg(heading.time.toString(u"yyyy/MM/dd HH:mm:ss"_s), heading.userId));
   page.drawText(specialLeft, tablesTop + specialRow * rowPitch, heading.specialTable);
   double y = tablesTop;
   for (const NumberTable& table : report.printedTables()) y = drawTable(page, y, table) + margin;

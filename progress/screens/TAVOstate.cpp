@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/screens/TAVOstate.h"
 
 #include <QApplication>
@@ -20,6 +22,8 @@
 #include "system/screens/ChoiceDialog.h"
 #include "system/screens/WindowTitle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 namespace {
@@ -30,13 +34,13 @@ constexpr double buttonPoints = 14;
 
 QString noteOf(Level level) {
   if (level == 中学)
-    return QStringLiteral(
-        "（注）回数単熟中学DB，回数文中学DB　：高校ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがある"
-        "。");
+    return u"（注）回数単熟中学DB，回数文中学DB　：高校ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがあ"
+           u"る"
+           "。"_s;
   if (level == 高校)
-    return QStringLiteral(
-        "（注）回数単熟高校DB，回数文高校DB　：中学ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがある"
-        "。");
+    return u"（注）回数単熟高校DB，回数文高校DB　：中学ｺｰｽや専門ｺｰｽのときもこのDBにｱｸｾｽすることがあ"
+           u"る"
+           "。"_s;
   return {};
 }
 
@@ -49,27 +53,26 @@ TAVOstate::TAVOstate(const ProgressSources& sources, QWidget* parent)
       m_survey(sources.dbFileWork, sources.counters, sources.specialTable, sources.dialogs, *this),
       m_tabs(new QTabWidget(this)),
       m_tablesPage(new TablesPage),
-      m_command1(makeButton(QStringLiteral("Command1"), QStringLiteral("次へ"))),
-      m_command2(makeButton(QStringLiteral("Command2"), QStringLiteral("終了"))) {
-  setWindowTitle(tavoli::windowTitle(QStringLiteral("先月までの状況と今月の状況")));
+      m_command1(makeButton(u"Command1"_s, u"次へ"_s)),
+      m_command2(makeButton(u"Command2"_s, u"終了"_s)) {
+  setWindowTitle(tavoli::windowTitle(u"先月までの状況と今月の状況"_s));
   choosePdf = [this] {
-    QFileDialog dialog(this, tavoli::windowTitle(QStringLiteral("PDFファイルに保存")),
-                       QDir::homePath(), QStringLiteral("PDF (*.pdf)"));
+    QFileDialog dialog(this, tavoli::windowTitle(u"PDFファイルに保存"_s), QDir::homePath(),
+                       u"PDF (*.pdf)"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(QStringLiteral("Tavoli進捗.pdf"));
+    dialog.setDefaultSuffix(u"pdf"_s);
+    dialog.selectFile(u"Tavoli進捗.pdf"_s);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
-  const QStringList captions = {QStringLiteral("中学"), QStringLiteral("高校"),
-                                QStringLiteral("専門")};
+  const QStringList captions = {u"中学"_s, u"高校"_s, u"専門"_s};
   for (const Level level : {中学, 高校, 専門}) {
     m_chartPages[level] = new ChartPage(noteOf(level));
     m_tabs->addTab(m_chartPages[level], captions[static_cast<int>(level)]);
   }
-  m_tabs->addTab(m_tablesPage, QStringLiteral("中高専"));
-  m_tabs->setObjectName(QStringLiteral("TabStrip1"));
-  m_tabs->setAccessibleName(QStringLiteral("コース"));
-  m_tabs->tabBar()->setAccessibleName(QStringLiteral("コース"));
+  m_tabs->addTab(m_tablesPage, u"中高専"_s);
+  m_tabs->setObjectName(u"TabStrip1"_s);
+  m_tabs->setAccessibleName(u"コース"_s);
+  m_tabs->tabBar()->setAccessibleName(u"コース"_s);
 
   auto* centre = new QWidget(this);
   auto* buttons = new QHBoxLayout;
@@ -104,19 +107,18 @@ QPushButton* TAVOstate::makeButton(const QString& name, const QString& caption) 
 }
 
 void TAVOstate::makeMenus() {
-  QAction* print =
-      menuBar()->addAction(QStringLiteral("◆記憶状態の印刷"), this, &TAVOstate::printReport);
-  print->setObjectName(QStringLiteral("menu2"));
-  QMenu* survey = menuBar()->addMenu(QStringLiteral("◆記憶状態の調査・更新"));
-  survey->setObjectName(QStringLiteral("menu1"));
-  survey->addAction(QStringLiteral("中学単熟"), this, [this] { m_survey.surveyWords(中学); })
-      ->setObjectName(QStringLiteral("menu11"));
-  survey->addAction(QStringLiteral("高校単熟"), this, [this] { m_survey.surveyWords(高校); })
-      ->setObjectName(QStringLiteral("menu12"));
-  survey->addAction(QStringLiteral("専門単熟"), this, [this] { m_survey.surveySpecial(); })
-      ->setObjectName(QStringLiteral("menu13"));
-  survey->addAction(QStringLiteral("文"), this, [this] { m_survey.surveySentences(); })
-      ->setObjectName(QStringLiteral("menu14"));
+  QAction* print = menuBar()->addAction(u"◆記憶状態の印刷"_s, this, &TAVOstate::printReport);
+  print->setObjectName(u"menu2"_s);
+  QMenu* survey = menuBar()->addMenu(u"◆記憶状態の調査・更新"_s);
+  survey->setObjectName(u"menu1"_s);
+  survey->addAction(u"中学単熟"_s, this, [this] { m_survey.surveyWords(中学); })
+      ->setObjectName(u"menu11"_s);
+  survey->addAction(u"高校単熟"_s, this, [this] { m_survey.surveyWords(高校); })
+      ->setObjectName(u"menu12"_s);
+  survey->addAction(u"専門単熟"_s, this, [this] { m_survey.surveySpecial(); })
+      ->setObjectName(u"menu13"_s);
+  survey->addAction(u"文"_s, this, [this] { m_survey.surveySentences(); })
+      ->setObjectName(u"menu14"_s);
 }
 
 void TAVOstate::DispAchieve() {
@@ -149,10 +151,9 @@ void TAVOstate::setBusy(bool busy) {
 }
 
 std::optional<QString> TAVOstate::chooseSpecialTable(const QStringList& tables) {
-  ChoiceDialog tavo9({QStringLiteral("専門ＤＢの指定"),
-                      QStringLiteral("専門ＤＢを選択して下さい。"), tables, m_sources.specialTable},
-                     this);
-  tavo9.setObjectName(QStringLiteral("TAVO9"));
+  ChoiceDialog tavo9(
+      {u"専門ＤＢの指定"_s, u"専門ＤＢを選択して下さい。"_s, tables, m_sources.specialTable}, this);
+  tavo9.setObjectName(u"TAVO9"_s);
   if (tavo9.exec() != QDialog::Accepted) return std::nullopt;
   return tavo9.chosen();
 }

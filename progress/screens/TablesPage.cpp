@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "progress/screens/TablesPage.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -29,7 +33,7 @@ TablesPage::TablesPage(QWidget* parent)
   auto* grids = new QVBoxLayout;
   for (int i = 0; i < tableCount; ++i) {
     auto* table = new QTableWidget(content);
-    table->setObjectName(QStringLiteral("MSFlexGrid%1").arg(i + 1));
+    table->setObjectName(u"MSFlexGrid%1"_s.arg(i + 1));
     table->horizontalHeader()->hide();
     table->verticalHeader()->hide();
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -40,10 +44,10 @@ TablesPage::TablesPage(QWidget* parent)
     m_grids.push_back(table);
     grids->addWidget(table, 0, Qt::AlignHCenter);
   }
-  m_text1->setObjectName(QStringLiteral("Text1"));
+  m_text1->setObjectName(u"Text1"_s);
   m_text1->setReadOnly(true);
   m_text1->setFocusPolicy(Qt::NoFocus);
-  auto* label = new QLabel(QStringLiteral("専門DB"), content);
+  auto* label = new QLabel(u"専門DB"_s, content);
   label->setBuddy(m_text1);
   auto* special = new QHBoxLayout;
   special->addStretch(1);
@@ -61,7 +65,7 @@ TablesPage::TablesPage(QWidget* parent)
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidget(content);
-  scroll->setAccessibleName(QStringLiteral("中高専の表"));
+  scroll->setAccessibleName(u"中高専の表"_s);
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 0, 0, 0);
   page->addWidget(scroll);
@@ -80,8 +84,8 @@ void TablesPage::setTopMargin(int pixels) {
 
 void TablesPage::fill(QTableWidget& grid, const NumberTable& table) {
   const QFontMetrics metrics = fontMetrics();
-  const int cellWidth = metrics.horizontalAdvance(QStringLiteral("時間・コース別       ")) +
-                        metrics.averageCharWidth();
+  const int cellWidth =
+      metrics.horizontalAdvance(u"時間・コース別       "_s) + metrics.averageCharWidth();
   const int cellHeight = metrics.lineSpacing() * 5 / 4;
   const auto rows = static_cast<int>(table.rows.size()) + fixedCells;
   const auto columns = static_cast<int>(table.columns.size()) + fixedCells;

@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "ui/screens/EnglishBox.h"
 
 #include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
 
 namespace tavoli {
 
@@ -23,7 +27,7 @@ void EnglishBox::keyPressEvent(QKeyEvent* event) {
   if (!isWaveKey(*event))
     QLineEdit::keyPressEvent(event);
   else if (!isReadOnly())
-    insert(QStringLiteral("～"));
+    insert(u"～"_s);
 }
 
 }  // namespace tavoli

@@ -1,16 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "ui/screens/TextMenu.h"
 
 #include <QLineEdit>
 #include <QTextEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace tavoli {
 
 TextMenu::TextMenu(QWidget* window) : QObject(window), m_menu(new QMenu(window)) {
-  m_menu->setObjectName(QStringLiteral("popMenu1"));
-  m_menu->setAccessibleName(QStringLiteral("編集"));
-  m_cut = add(QStringLiteral("popMenu11"), QStringLiteral("切取り"), "cut");
-  add(QStringLiteral("popMenu12"), QStringLiteral("コピー"), "copy");
-  m_paste = add(QStringLiteral("popMenu13"), QStringLiteral("貼付け"), "paste");
+  m_menu->setObjectName(u"popMenu1"_s);
+  m_menu->setAccessibleName(u"編集"_s);
+  m_cut = add(u"popMenu11"_s, u"切取り"_s, "cut");
+  add(u"popMenu12"_s, u"コピー"_s, "copy");
+  m_paste = add(u"popMenu13"_s, u"貼付け"_s, "paste");
 }
 
 QAction* TextMenu::add(const QString& name, const QString& caption, const char* slot) {
