@@ -5,6 +5,8 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "speech/SpeechTags.h"
+
 using namespace Qt::StringLiterals;
 
 namespace tavoli {
@@ -94,6 +96,14 @@ bool TerminalDialogs::ask(const QString& text) {
   }
   m_terminal.show(areaBox, QString());
   return yes;
+}
+
+void TerminalSpeaker::speak(const Utterance& utterance) {
+  m_terminal.print(u"発声"_s, taggedText(utterance));
+}
+
+void TerminalSpeaker::stop() {
+  m_terminal.print(u"発声停止"_s, QString());
 }
 
 void TerminalLogin::setUserId(const QString& text) {

@@ -12,6 +12,7 @@
 #include "practice/PracticeRun.h"
 #include "practice/PracticeScreen.h"
 #include "practice/ReviewScreen.h"
+#include "speech/Speaker.h"
 #include "system/Dialogs.h"
 #include "system/LoadProgress.h"
 
@@ -46,6 +47,19 @@ class TerminalDialogs final : public Dialogs {
   explicit TerminalDialogs(Terminal& terminal) : m_terminal(terminal) {}
   void show(const QString& text) override;
   bool ask(const QString& text) override;
+
+ private:
+  Terminal& m_terminal;
+};
+
+/// The voice in the terminal: every text as it goes to the character, tags and all.
+class TerminalSpeaker final : public Speaker {
+ public:
+  explicit TerminalSpeaker(Terminal& terminal) : m_terminal(terminal) {}
+  using Speaker::speak;
+  void speak(const Utterance& utterance) override;
+  void stop() override;
+  void beep() override {}
 
  private:
   Terminal& m_terminal;

@@ -108,6 +108,7 @@ TerminalDrill::TerminalDrill(Module1& module, const TerminalOptions& options, Pa
     : m_module(module),
       m_options(options),
       m_paper(paper),
+      m_speaker(m_terminal),
       m_dialogs(m_terminal),
       m_conditions(m_terminal),
       m_workingCopy(module.learner, m_files, m_clock, m_dialogs),
@@ -220,6 +221,8 @@ void TerminalDrill::drive(PracticeLoop& loop, TerminalPractice& screen,
     } else if (reviewing) {
       loop.review().enter(entryOf(*line, reviewScreen.answerStart, loop.review().correcting()));
     } else {
+      // Every character and the Enter are keys.
+      if (!loop.確認中()) loop.keysTyped(static_cast<int>(line->size()) + 1);
       loop.enter(entryOf(*line, screen.answerStart, loop.correcting()));
     }
   }

@@ -13,7 +13,6 @@
 #include "conditions/ConditionsByName.h"
 #include "home/WorkingCopy.h"
 #include "practice/PracticeLoop.h"
-#include "speech/Speaker.h"
 #include "system/Clock.h"
 #include "system/Files.h"
 #include "system/Random.h"
@@ -61,8 +60,8 @@ class TerminalDrill {
   SystemClock m_clock;
   SystemRandom m_random;
   SystemFiles m_files;
-  SilentSpeaker m_speaker;
   Terminal m_terminal;
+  TerminalSpeaker m_speaker;
   TerminalDialogs m_dialogs;
   TerminalConditions m_conditions;
   WorkingCopy m_workingCopy;

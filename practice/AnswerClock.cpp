@@ -4,6 +4,7 @@
 
 #include "practice/AnswerScreen.h"
 #include "speech/Speaker.h"
+#include "speech/SpeechOccasions.h"
 #include "system/Clock.h"
 
 using namespace Qt::StringLiterals;
@@ -43,8 +44,9 @@ void AnswerClock::tick(int timeUpSound) {
   showTime();
   if (!m_timeOver || !m_timeUpArmed) return;
   m_timeUpArmed = false;
-  if (timeUpSound == 1) m_speaker.beep();
-  if (timeUpSound == 2) m_speaker.say(u"Time is up."_s);
+  const TimeUp sound = TimeUpSound(true, timeUpSound);
+  if (sound.beep) m_speaker.beep();
+  if (sound.utterance) m_speaker.speak(*sound.utterance);
 }
 
 }  // namespace tavoli

@@ -6,7 +6,6 @@
 
 #include "practice/PracticeScreen.h"
 #include "practice/VerdictText.h"
-#include "speech/Speaker.h"
 #include "system/Dialogs.h"
 #include "system/Random.h"
 
@@ -33,7 +32,7 @@ PracticeLoop::PracticeLoop(PracticeSet& set, const CourseChoice& course,
       m_restTime(times, services.clock, services.screen),
       m_dialogs(services.dialogs, m_restTime),
       m_random(services.random),
-      m_speaker(services.speaker),
+      m_voice(services.speaker),
       m_damage(m_state, m_dialogs),
       m_flow(m_state, services.screen, m_dialogs, m_damage),
       m_answerClock(services.clock, services.screen, services.speaker),
@@ -138,7 +137,7 @@ void PracticeLoop::dispQuestion() {
   shown.ask();
   m_flow.beginSubQuestion();
   m_FK前問題 = false;
-  m_speechKeyCount = 0;
+  m_voice.beginSubQuestion();
   const PracticeItem& item = shown.item();
   const CurrentRecord& record = shown.record();
   const SubQuestion& s = shown.小問();
@@ -174,13 +173,8 @@ void PracticeLoop::dispAnswerFull() {
   m_screen.showMiniTest(MarkedText());
   m_screen.setAnswer(QString());
   m_screen.showFullAnswer(m_damage.marked(fullAnswerText(m_state.shown.record())));
-  m_speaker.say(spokenAnswer());
   m_screen.awaitConfirmation(true);
-}
-
-QString PracticeLoop::spokenAnswer() const {
-  const CurrentRecord& record = m_state.shown.record();
-  return record.sentence ? sentenceAnswerLines(record).join(u' ') : record.英語;
+  m_voice.sayItem(m_state.shown);
 }
 
 void PracticeLoop::leaveConfirmation() {
@@ -225,9 +219,11 @@ void PracticeLoop::emptyAreas() {
 
 void PracticeLoop::keyPressed() {
   m_screen.showMessage(MarkedText());
-  ++m_speechKeyCount;
-  const int stopAt = m_state.shown.inMiniTest() ? 1 : 2;
-  if (m_speechKeyCount == stopAt) m_speaker.stop();
+  keysTyped(1);
+}
+
+void PracticeLoop::keysTyped(int keys) {
+  m_voice.keysPressed(keys, m_state.shown.inMiniTest());
 }
 
 void PracticeLoop::enter(const QString& typed) {
@@ -258,7 +254,7 @@ void PracticeLoop::showAnswer() {
   activity();
   if (確認中()) return;
   m_flow.showAnswer();
-  if (m_flow.attempt().answerShown) m_speaker.say(spokenAnswer());
+  if (m_flow.attempt().answerShown) m_voice.sayAnswer(m_state.shown);
   stay();
 }
 

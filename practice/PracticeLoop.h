@@ -7,6 +7,7 @@
 #include "practice/AnswerClock.h"
 #include "practice/AnswerFlow.h"
 #include "practice/DamageGuard.h"
+#include "practice/PracticeVoice.h"
 #include "practice/QuestionRequests.h"
 #include "practice/RestTime.h"
 #include "practice/RestingDialogs.h"
@@ -56,6 +57,8 @@ class PracticeLoop {
 
   /// Any key in the answer box: the messages about the last entry disappear.
   void keyPressed();
+  /// Keys that come together, as a line of a terminal does: they count for the voice.
+  void keysTyped(int keys);
   /// Enter: judges what was typed, or leaves the full answer when that is on show.
   void enter(const QString& typed);
   /// The answer box has lost the focus: a sign of life, like any key.
@@ -155,14 +158,13 @@ class PracticeLoop {
   /// No to the question whether the run is to end.
   void exitRefused();
   void 回数カウント();
-  QString spokenAnswer() const;
 
   RunState m_state;
   PracticeScreen& m_screen;
   RestTime m_restTime;
   RestingDialogs m_dialogs;
   Random& m_random;
-  Speaker& m_speaker;
+  PracticeVoice m_voice;
   DamageGuard m_damage;
   AnswerFlow m_flow;
   AnswerClock m_answerClock;
@@ -174,7 +176,6 @@ class PracticeLoop {
   bool m_logShown = false;
   bool m_FK前問題 = false;  ///< F4 led here, and nothing was asked since
   Phase m_phase = Phase::asking;
-  int m_speechKeyCount = 0;  ///< keys since the 小問 was shown; the voice stops at one of the first
   bool m_backToConditions = false;
 };
 

@@ -42,6 +42,7 @@ bool PracticeRun::openTables() {
 bool PracticeRun::open(PracticeScreen& screen, ReviewScreen& reviewScreen, LoadProgress& progress,
                        const QString& startKey) {
   m_settings = readAutoPlaySettings(m_tables->rsBDIC());
+  PracticeVoice(m_services.speaker).greet();
   m_set = PracticeSetLoader(*m_tables, m_course, m_conditions, m_services.files, m_services.random,
                             m_services.dialogs, progress)
               .LoadPracticeSet(startKey);

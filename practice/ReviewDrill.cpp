@@ -12,6 +12,7 @@
 #include "practice/ReviewScreen.h"
 #include "practice/VerdictText.h"
 #include "speech/Speaker.h"
+#include "speech/SpeechOccasions.h"
 #include "system/Dialogs.h"
 
 using namespace Qt::StringLiterals;
@@ -179,10 +180,7 @@ void ReviewDrill::leaveSubQuestion() {
 }
 
 void ReviewDrill::speakAnswer() {
-  if (!m_record.sentence) return m_services.speaker.say(m_record.英語);
-  // Of two ways to say it, "a = b", the second one is spoken.
-  const QString text = answer();
-  m_services.speaker.say(trimBlanks(text.sliced(text.indexOf(u'=') + 1)));
+  m_services.speaker.speak(ShowAnswer(ShowAnswerMode::inReview, m_record, m_reviewPOS1));
 }
 
 void ReviewDrill::answerBoxLeft() {

@@ -1,6 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "speech/Utterance.h"
 
 namespace tavoli {
 
@@ -8,17 +9,22 @@ namespace tavoli {
 class Speaker {
  public:
   virtual ~Speaker() = default;
-  /// Says the text as it stands.
-  virtual void say(const QString& text) = 0;
+  virtual void speak(const Utterance& utterance) = 0;
   /// Stops what is being said and forgets what is queued.
   virtual void stop() = 0;
   virtual void beep() = 0;
+
+  /// One after the other.
+  void speak(const SpeechList& utterances) {
+    for (const Utterance& utterance : utterances) speak(utterance);
+  }
 };
 
 /// A machine without a voice.
 class SilentSpeaker final : public Speaker {
  public:
-  void say(const QString&) override {}
+  using Speaker::speak;
+  void speak(const Utterance&) override {}
   void stop() override {}
   void beep() override {}
 };

@@ -184,7 +184,6 @@ TEST(AnswerFlowTest, TellsWhatWasWrong) {
     EXPECT_EQ(drill.screen.lookedUp, QString::fromUtf16(c.lookedUp));
     drill.press("1");
     EXPECT_TRUE(drill.screen.fullAnswer.startsWith(u"正解："_s));
-    EXPECT_EQ(drill.speaker.said.size(), 1);
   }
 }
 

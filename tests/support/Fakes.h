@@ -56,7 +56,8 @@ class ScriptedDialogs final : public Dialogs {
 /// A voice that remembers what it was told.
 class RecordingSpeaker final : public Speaker {
  public:
-  void say(const QString& text) override { said.append(text); }
+  using Speaker::speak;
+  void speak(const Utterance& utterance) override { said.append(utterance.spoken); }
   void stop() override { ++stopped; }
   void beep() override { ++beeps; }
   QStringList said;
