@@ -136,4 +136,10 @@ Problems ContentTool::dump(const QString& database, const QString& folder, bool 
   return problems;
 }
 
+ContentTool::ReadOut ContentTool::readings(const QString& folder,
+                                           const KanaReading& reading) const {
+  Content content = read(folder);
+  return {readingsOf(content.tables, reading), std::move(content.problems)};
+}
+
 }  // namespace tavoli

@@ -9,6 +9,7 @@
 #include "contentbuilder/ContentTable.h"
 #include "contentbuilder/Coverage.h"
 #include "contentbuilder/Problem.h"
+#include "contentbuilder/Readings.h"
 #include "system/Files.h"
 
 namespace tavoli {
@@ -35,6 +36,14 @@ class ContentTool {
   /// Writes a database's content into a folder, which is made where it is missing. An existing
   /// source is replaced only with `force`; without it nothing is written then.
   Problems dump(const QString& database, const QString& folder, bool force);
+
+  struct ReadOut {
+    std::vector<ContentReading> readings;
+    Problems problems;
+  };
+
+  /// How the questions and meanings of a content folder are read aloud.
+  ReadOut readings(const QString& folder, const KanaReading& reading) const;
 
  private:
   struct Content {

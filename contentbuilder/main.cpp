@@ -66,6 +66,7 @@ void describe(QCommandLineParser& parser) {
                      "  tavoli-content check フォルダー [--strict] [--coverage 一覧 [--missing]]\n"
                      "  tavoli-content build フォルダー -o データベース\n"
                      "  tavoli-content dump データベース -o フォルダー\n"
+                     "  tavoli-content readings フォルダー\n"
                      "  tavoli-content update 新しい教材 --into データベース"
                      " [--lessons フォルダー]"));
   parser.addHelpOption();
@@ -80,7 +81,7 @@ void describe(QCommandLineParser& parser) {
   parser.addOption({optionLessons, QStringLiteral("一緒に新しくするレッスンファイルのフォルダー"),
                     QStringLiteral("フォルダー")});
   parser.addPositionalArgument(QStringLiteral("命令"),
-                               QStringLiteral("check、build、dump、update"));
+                               QStringLiteral("check、build、dump、readings、update"));
   parser.addPositionalArgument(QStringLiteral("対象"), QStringLiteral("読むもの"));
 }
 
@@ -95,6 +96,18 @@ Problems update(Files& files, const QString& content, const QString& learner,
                QString::number(done.renamed), done.backup),
       stdout);
   return {};
+}
+
+/// Key, text and reading of everything that a Japanese voice may get, a line each.
+Problems readings(const ContentTool& tool, const QString& folder) {
+  const auto reading =
+      KanaReading::open(KanaReading::dictionariesFor(QCoreApplication::applicationDirPath()));
+  if (!reading)
+    return {{folder, 0, QStringLiteral("読みを調べる辞書（MeCab の ipadic）がありません。")}};
+  const ContentTool::ReadOut found = tool.readings(folder, *reading);
+  for (const ContentReading& line : found.readings)
+    print(line.key + u'\t' + line.text + u'\t' + line.reading, stdout);
+  return found.problems;
 }
 
 int usage(const QCommandLineParser& parser, const QString& message) {
@@ -134,6 +147,8 @@ int perform(const QCommandLineParser& parser) {
     problems = tool.build(subject, target, force);
   else if (command == QStringLiteral("dump"))
     problems = tool.dump(subject, target, force);
+  else if (command == QStringLiteral("readings"))
+    problems = readings(tool, subject);
   else if (command == QStringLiteral("update"))
     problems = update(files, subject, learner, parser.value(optionLessons));
   else

@@ -1,5 +1,7 @@
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -330,6 +332,25 @@ TEST_F(ContentToolTest, AnythingSoundComesBackFromADump) {
     for (size_t i = 0; i < std::min(tables[t].rows.size(), again[t].rows.size()); ++i)
       ASSERT_EQ(again[t].rows[i].record, tables[t].rows[i].record);
     EXPECT_EQ(again[t].rows, tables[t].rows);
+  }
+}
+
+TEST(ReadingsTest, AllOfTheDeliveredContentCanBeSaid) {
+  const auto reading = KanaReading::open(
+      KanaReading::dictionariesFor(QFileInfo(QStringLiteral(TAVOLI_CONTENT_TOOL)).path()));
+  if (!reading) GTEST_SKIP() << "built without MeCab";
+  SystemFiles files;
+  const ContentTool::ReadOut found =
+      ContentTool(files).readings(QStringLiteral(TAVOLI_CONTENT_FOLDER), *reading);
+  EXPECT_GT(found.readings.size(), 5000);
+  static const QRegularExpression said(QStringLiteral(
+      "^(?:[ァ-ヴー][ァ-ヴー、。？]*|\\[[A-Za-z0-9À-ɏ][A-Za-z0-9À-ɏ' ,.!?;:&$%-]*\\])+$"));
+  // In each of these a kanji that nobody can read would leave no trace but its absence.
+  static const QRegularExpression kanji(QStringLiteral("\\p{Han}"));
+  for (const ContentReading& line : found.readings) {
+    EXPECT_TRUE(said.match(line.reading).hasMatch())
+        << qPrintable(line.key + u' ' + line.text + u' ' + line.reading);
+    EXPECT_GE(line.reading.size(), line.text.count(kanji)) << qPrintable(line.text);
   }
 }
 
