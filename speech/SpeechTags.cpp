@@ -123,7 +123,7 @@ QString taggedText(const Utterance& utterance) {
   return text;
 }
 
-Utterance parseTags(QStringView text, Voice voice) {
+Utterance parseTags(QStringView text, VoiceLanguage voice) {
   Utterance utterance;
   utterance.voice = voice;
   bool halves = false;

@@ -14,6 +14,6 @@ QString taggedText(const Utterance& utterance);
 
 /// The inverse. Any text is read: an unpaired tag's value runs to the text's end, and what is
 /// spoken or shown holds no beginning of a tag.
-Utterance parseTags(QStringView text, Voice voice = Voice::English);
+Utterance parseTags(QStringView text, VoiceLanguage voice = VoiceLanguage::English);
 
 }  // namespace tavoli

@@ -7,7 +7,7 @@
 
 namespace tavoli {
 
-enum class Voice { English, Japanese };
+enum class VoiceLanguage { English, Japanese };
 
 /// One thing to say. Lengths and tests go by what is shown.
 struct Utterance {
@@ -15,7 +15,7 @@ struct Utterance {
   QString shown;         ///< in the balloon meanwhile
   QString context = {};  ///< how the voice is to read it, as "E-mail"; empty for as usual
   int speed = 0;         ///< words a minute; 0 for as usual
-  Voice voice = Voice::English;
+  VoiceLanguage voice = VoiceLanguage::English;
   /// Goes to the character as it stands, what is spoken and what is shown being one text.
   bool bare = false;
 
@@ -25,7 +25,7 @@ struct Utterance {
 
 /// A text that is spoken and shown as it stands.
 inline Utterance bareUtterance(const QString& text) {
-  return {text, text, QString(), 0, Voice::English, true};
+  return {text, text, QString(), 0, VoiceLanguage::English, true};
 }
 
 /// What is to be spoken of an item, arraySPEECH; its size is speechCount. An entry may be empty: it

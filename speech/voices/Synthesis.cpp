@@ -1,0 +1,11 @@
+#include "speech/voices/Synthesis.h"
+
+namespace tavoli {
+
+QString withoutControls(QString text) {
+  for (QChar& c : text)
+    if (c.category() == QChar::Other_Control) c = u' ';
+  return text;
+}
+
+}  // namespace tavoli
