@@ -134,7 +134,7 @@ class Updater {
   Updater(Files& files, const Clock& clock) : m_files(files), m_clock(clock) {}
 
   ContentUpdate update(const QString& newContent, const QString& learner, const QString& lessons) {
-    if (!open(newContent, m_content) || !mayBegin(learner) || !open(learner, m_learner) ||
+    if (!openContent(newContent) || !mayBegin(learner) || !open(learner, m_learner) ||
         !isNewer(newContent, learner) || !backUp(learner))
       return m_update;
     const bool stored = m_learner->write([&] { return mergeAll(); });
@@ -156,7 +156,17 @@ class Updater {
   }
 
   bool open(const QString& path, std::optional<Database>& database) {
+    return take(path, openDatabase(path), database);
+  }
+
+  /// What came with an installed program may only be read.
+  bool openContent(const QString& path) {
     OpenedDatabase opened = openDatabase(path);
+    if (opened.errorNumber == openError::noAccess) opened.database = peekDatabase(path);
+    return take(path, std::move(opened), m_content);
+  }
+
+  bool take(const QString& path, OpenedDatabase opened, std::optional<Database>& database) {
     database = std::move(opened.database);
     if (database && database->isSound() && database->TableDefs().contains(tableBDIC)) return true;
     fail(path, QStringLiteral("個人データベースとして開けませんでした（エラー番号%1）。")

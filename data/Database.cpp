@@ -139,10 +139,10 @@ OpenedDatabase openDatabase(const QString& path) {
         path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     // SQLite reads the file only when it must: this makes it look.
     const int fileVersion = numberOfPragma(*connection, "user_version");
+    if (fileVersion > schema::version) return notOpened(openError::notADatabase);
     if (sqlite3_db_readonly(connection->getHandle(), "main") == 1)
       return notOpened(openError::noAccess);
     connection->exec("PRAGMA synchronous=FULL");
-    if (fileVersion > schema::version) return notOpened(openError::notADatabase);
     return {Database(std::move(connection)), openError::none};
   } catch (const SQLite::Exception& error) {
     qCWarning(storeLog).noquote() << path << error.what();
