@@ -74,8 +74,8 @@ class TableMerge {
       return add(content, packRecord(withStates(offered, {})));
     }
     if (m_rows->isDamaged(field)) {
-      m_update.untouched.push_back(
-          {m_table, 0, QStringLiteral("「%1」は記録が壊れているので、そのままです。").arg(key)});
+      m_update.untouched.push_back({QStringLiteral("%1「%2」").arg(m_table, key), 0,
+                                    QStringLiteral("記録が壊れているので、そのままです。")});
       return true;
     }
     const CurrentRecord record = withStates(offered, ParseRecord(m_rows->text(field), key, kind));
@@ -133,9 +133,11 @@ class Updater {
  public:
   Updater(Files& files, const Clock& clock) : m_files(files), m_clock(clock) {}
 
-  ContentUpdate update(const QString& newContent, const QString& learner, const QString& lessons) {
-    if (!openContent(newContent) || !mayBegin(learner) || !open(learner, m_learner) ||
-        !isNewer(newContent, learner) || !backUp(learner))
+  ContentUpdate update(const QString& newContent, const QString& learner, const QString& lessons,
+                       KeptBy keptBy) {
+    if (!openContent(newContent) || (keptBy == KeptBy::Update && !keep(learner)) ||
+        !mayBegin(learner) || !open(learner, m_learner) || !isNewer(newContent, learner) ||
+        !backUp(learner))
       return m_update;
     const bool stored = m_learner->write([&] { return mergeAll(); });
     if (!stored) {
@@ -174,21 +176,17 @@ class Updater {
     return false;
   }
 
-  /// The learner's file must be whole and nobody else's: no program has it open, and no run is left
-  /// that is still to be stored in it.
-  bool mayBegin(const QString& learner) {
+  bool keep(const QString& learner) {
     const FileLock::Result lock = m_lock.take(learner);
-    if (lock == FileLock::Result::HeldByLiveProgram || lock == FileLock::Result::Failed) {
-      fail(learner, QStringLiteral("使用中か、フォルダーに書き込めないので、取り込めません。"
-                                   "学習を終えてからにしてください。"));
-      return false;
-    }
-    const QFileInfo file(learner);
-    QString bare = file.fileName();
-    if (bare.endsWith(QStringLiteral(".mdb"))) bare.chop(4);
-    const QStringList left = file.dir().entryList(
-        {file.fileName() + QStringLiteral("-journal"), bare + QStringLiteral(".run.*")},
-        QDir::Files);
+    if (lock != FileLock::Result::HeldByLiveProgram && lock != FileLock::Result::Failed)
+      return true;
+    fail(learner, QStringLiteral("使用中か、フォルダーに書き込めないので、取り込めません。"
+                                 "学習を終えてからにしてください。"));
+    return false;
+  }
+
+  bool mayBegin(const QString& learner) {
+    const QStringList left = unstoredBeside(learner);
     if (left.isEmpty()) return true;
     fail(learner, QStringLiteral("%1 にまだ保存されていない学習があります。一度ログインしてから"
                                  "取り込んでください。")
@@ -244,9 +242,17 @@ class Updater {
 
 }  // namespace
 
+QStringList unstoredBeside(const QString& learner) {
+  const QFileInfo file(learner);
+  QString bare = file.fileName();
+  if (bare.endsWith(QStringLiteral(".mdb"))) bare.chop(4);
+  return file.dir().entryList(
+      {file.fileName() + QStringLiteral("-journal"), bare + QStringLiteral(".run.*")}, QDir::Files);
+}
+
 ContentUpdate updateContent(Files& files, const Clock& clock, const QString& newContent,
-                            const QString& learner, const QString& lessons) {
-  return Updater(files, clock).update(newContent, learner, lessons);
+                            const QString& learner, const QString& lessons, KeptBy keptBy) {
+  return Updater(files, clock).update(newContent, learner, lessons, keptBy);
 }
 
 }  // namespace tavoli

@@ -170,6 +170,9 @@ TEST_F(ContentUpdateTest, RefusesAndLeavesEverything) {
   FileLock held;
   EXPECT_EQ(held.take(learner()), FileLock::Result::Taken);
   EXPECT_EQ(update().problems.size(), 1) << "in use";
+  EXPECT_TRUE(
+      updateContent(files, clock, content(), learner(), QString(), KeptBy::Caller).problems.empty())
+      << "by the caller";
 }
 
 TEST_F(ContentUpdateTest, LessonsFollow) {
