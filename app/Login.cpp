@@ -28,7 +28,8 @@ Login::Login(Module1& module, WorkingCopy& workingCopy, Files& files, const Cloc
       m_workingCopy(workingCopy),
       m_files(files),
       m_clock(clock),
-      m_dialogs(dialogs) {}
+      m_dialogs(dialogs),
+      m_contentOffer(module, workingCopy, files, clock, dialogs) {}
 
 bool Login::next(LoginScreen& screen, const QString& typedId, const QString& typedPassword) {
   m_screen = &screen;
@@ -62,10 +63,17 @@ bool Login::logIn(const QString& typedPassword) {
   const QString& work = m_module.learner.dbFileWork;
   if (!m_files.exists(work))
     return fail(u"ユーザーIDを入れ直してください。\n%1 : not found"_s.arg(work));
-  if (!checkPassword(typedPassword)) return false;
+  if (!enter(typedPassword)) return false;
   m_workingCopy.fetchTexts();
   backUp();
   return true;
+}
+
+bool Login::enter(const QString& typedPassword) {
+  std::optional<Database> database = openWorkingCopy();
+  if (!database || !checkPassword(database, typedPassword) || !offerContent(database)) return false;
+  m_module.course = readCourse(*database, m_module.course);
+  return loadFigures(*database);
 }
 
 bool Login::fail(const QString& message) {
@@ -89,9 +97,7 @@ std::optional<Database> Login::openWorkingCopy() {
   return std::nullopt;
 }
 
-bool Login::checkPassword(const QString& typedPassword) {
-  std::optional<Database> database = openWorkingCopy();
-  if (!database) return false;
+bool Login::checkPassword(std::optional<Database>& database, const QString& typedPassword) {
   std::unique_ptr<TableCursor> rsBDIC = database->OpenRecordset(tableBDIC);
   if (!rsBDIC) {
     m_dialogs.show(u"Error '91'"_s);
@@ -107,14 +113,22 @@ bool Login::checkPassword(const QString& typedPassword) {
     rsBDIC->Seek(SeekOp::Equal, rowPassword);
   }
   const Field password = rsBDIC->value(field問正コ);
-  rsBDIC.reset();
-  if (password && *password != typedPassword) {
-    m_dialogs.show(u"パスワードを入れ直してください。"_s);
-    m_screen->focusPassword();
-    return false;
+  if (!password || *password == typedPassword) return true;
+  m_dialogs.show(u"パスワードを入れ直してください。"_s);
+  m_screen->focusPassword();
+  return false;
+}
+
+bool Login::offerContent(std::optional<Database>& database) {
+  if (!m_contentOffer.isDue(*database)) return true;
+  database.reset();
+  if (m_contentOffer.ask()) {
+    m_screen->setBusy(true);
+    m_contentOffer.takeIn();
+    m_screen->setBusy(false);
   }
-  m_module.course = readCourse(*database, m_module.course);
-  return loadFigures(*database);
+  database = openWorkingCopy();
+  return database.has_value();
 }
 
 bool Login::loadFigures(Database& database) {

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include "app/ContentOffer.h"
 #include "app/Module1.h"
 #include "data/Database.h"
 
@@ -29,7 +30,7 @@ class LoginScreen {
 };
 
 /// Turns a typed id into the learner's files: has them brought into the working folder, checks or
-/// first sets the password, reads the progress, and makes the backup.
+/// first sets the password, offers new content, reads the progress, and makes the backup.
 class Login {
  public:
   /// `workingCopy` is that of the learner in `module`.
@@ -44,11 +45,15 @@ class Login {
  private:
   bool isUnregistered(const QString& id) const;
   bool logIn(const QString& typedPassword);
+  /// With the working copy in place.
+  bool enter(const QString& typedPassword);
   /// Nothing when it cannot be used; the learner has then been told.
   std::optional<Database> openWorkingCopy();
-  bool checkPassword(const QString& typedPassword);
+  bool checkPassword(std::optional<Database>& database, const QString& typedPassword);
   /// Asks a new learner whether the password is right, and stores it. False on No.
   bool setFirstPassword(std::optional<Database>& database, const QString& typedPassword);
+  /// False when the database cannot be used any more.
+  bool offerContent(std::optional<Database>& database);
   /// Reads the learner's progress; a new month rolls it over.
   bool loadFigures(Database& database);
   bool fail(const QString& message);
@@ -59,6 +64,7 @@ class Login {
   Files& m_files;
   const Clock& m_clock;
   Dialogs& m_dialogs;
+  ContentOffer m_contentOffer;
   LoginScreen* m_screen = nullptr;  ///< of the present press
 };
 

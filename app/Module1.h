@@ -16,8 +16,9 @@ class Files;
 /// What the screens share from program start to program end.
 struct Module1 {
   QString applicationFolder;
-  QString dbPathDefault;  ///< the folder of the working copies
-  QString dbPath;         ///< the folder where the learner's files are placed
+  QString deliveredContent;  ///< a personal database; empty where nothing came with the program
+  QString dbPathDefault;     ///< the folder of the working copies
+  QString dbPath;            ///< the folder where the learner's files are placed
   LearnerFiles learner;
   CourseChoice course;
   PracticeConditions conditions;

@@ -51,6 +51,7 @@ int start(const CommandLine& line) {
                  qPrintable(folder));
   }
   Module1 module = startModule1(files, clock, folder);
+  module.deliveredContent = deliveredContent(programFolder);
   if (line.terminal) {
     PagedPaper paper;
     return TerminalDrill(module, line.terminalOptions, paper).run();

@@ -15,6 +15,21 @@ namespace {
 
 /// No dictionary, by its name.
 const QString tableNotes = QStringLiteral("USysContent");
+const QString noteDeclined = QStringLiteral("declined");
+
+/// The table of notes, made where it is missing.
+std::unique_ptr<TableCursor> openNotes(Database& database) {
+  if (!database.TableDefs().contains(tableNotes) && !database.createTable(tableNotes))
+    return nullptr;
+  return database.OpenRecordset(tableNotes);
+}
+
+int numberNoted(const QString& note, Database& database) {
+  const auto rows = database.OpenRecordset(tableNotes);
+  if (!rows) return 0;
+  rows->Seek(SeekOp::Equal, note);
+  return numberOf(rows->text(field発同日コ));
+}
 
 int readNumber(const SourceFile& file, Problems& problems) {
   const int number = numberOf(QString::fromUtf8(file.bytes));
@@ -107,8 +122,7 @@ ContentNotes makeNotes(const std::vector<SourceFile>& files,
 }
 
 bool storeNotes(const ContentNotes& notes, Database& database) {
-  if (!database.TableDefs().contains(tableNotes) && !database.createTable(tableNotes)) return false;
-  const auto rows = database.OpenRecordset(tableNotes);
+  const auto rows = openNotes(database);
   if (!rows) return false;
   ContentNotes all = notes;
   for (; !rows->atEOF(); rows->MoveNext())
@@ -132,6 +146,21 @@ ContentNotes notesIn(Database& database) {
 
 int contentNumber(const ContentNotes& notes) {
   return numberOf(notes.value(numberFile));
+}
+
+int contentNumber(Database& database) {
+  return numberNoted(numberFile, database);
+}
+
+int declinedNumber(Database& database) {
+  return numberNoted(noteDeclined, database);
+}
+
+bool storeDeclined(int number, Database& database) {
+  const auto rows = openNotes(database);
+  if (!rows || !rows->EditOrAddNew(noteDeclined)) return false;
+  rows->setValue(field発同日コ, QString::number(number));
+  return rows->Update();
 }
 
 Renames::Renames(const ContentNotes& notes) {

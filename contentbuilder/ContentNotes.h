@@ -36,6 +36,12 @@ ContentNotes notesIn(Database& database);
 
 /// Which content it is; it rises with every delivery. 0 for content that has none.
 int contentNumber(const ContentNotes& notes);
+/// The same of a database.
+int contentNumber(Database& database);
+
+/// The number of the content that the learner did not want, until an update; 0 where there is none.
+int declinedNumber(Database& database);
+[[nodiscard]] bool storeDeclined(int number, Database& database);
 
 /// Old keys and numbers with those that have taken their place.
 class Renames {

@@ -18,9 +18,14 @@ namespace {
 const QString dataFolderName = u"TavoliPersonalData"_s;
 const QString lessonFolderName = u"Tavoliﾚｯｽﾝ"_s;
 
-/// In the build folder the originals lie beside `bin`; installed, in `share`.
 QString buildOriginals(const QString& programFolder) {
   return programFolder + u"/../app-originals"_s;
+}
+
+/// In the build folder the originals lie beside `bin`; installed, in `share`.
+QString originalsFor(const QString& programFolder) {
+  const QString originals = buildOriginals(programFolder);
+  return QDir(originals).exists() ? originals : programFolder + u"/../share/tavoli"_s;
 }
 
 }  // namespace
@@ -51,10 +56,13 @@ QString applicationFolderFor(const QString& programFolder) {
   return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
+QString deliveredContent(const QString& programFolder) {
+  return originalsFor(programFolder) + u"/TavoDB000.mdb"_s;
+}
+
 bool fillApplicationFolder(Files& files, const QString& programFolder,
                            const QString& applicationFolder) {
-  QString originals = buildOriginals(programFolder);
-  if (!QDir(originals).exists()) originals = programFolder + u"/../share/tavoli"_s;
+  const QString originals = originalsFor(programFolder);
   const QString dataFolder = defaultDataFolder(applicationFolder);
   const QString lessons = lessonFolder(applicationFolder);
   bool filled =

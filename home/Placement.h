@@ -21,6 +21,9 @@ QString readPlacement(Files& files, const QString& applicationFolder);
 /// it is that folder's `app`; for an installed program it is the user's own data folder.
 QString applicationFolderFor(const QString& programFolder);
 
+/// The content that was delivered with the program, as a new learner's database.
+QString deliveredContent(const QString& programFolder);
+
 /// Copies what was delivered with the program (databases, lesson files) into the application's
 /// folder. What is already there stays as it is. False when something could not be copied.
 [[nodiscard]] bool fillApplicationFolder(Files& files, const QString& programFolder,

@@ -4,29 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include "app/Login.h"
 #include "app/Module1.h"
 #include "home/WorkingCopy.h"
 #include "system/Files.h"
+#include "tests/support/FakeLoginScreen.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/Print.h"
 #include "tests/support/TestStore.h"
 
 namespace tavoli {
 namespace {
-
-class FakeLoginScreen final : public LoginScreen {
- public:
-  void setUserId(const QString& text) override { userId = text; }
-  void focusUserId() override { focused = QStringLiteral("Text1"); }
-  void focusPassword() override { focused = QStringLiteral("Text2"); }
-  void setBusy(bool on) override { busy = on; }
-  void showEngineTrouble() override { trouble = true; }
-  QString userId;
-  QString focused;
-  bool busy = false;
-  bool trouble = false;
-};
 
 class LoginTest : public testing::Test {
  protected:
@@ -84,7 +71,7 @@ class LoginTest : public testing::Test {
   SystemFiles files;
   test::FakeClock clock;
   test::ScriptedDialogs dialogs;
-  FakeLoginScreen screen;
+  test::FakeLoginScreen screen;
   Module1 module;
 };
 

@@ -141,6 +141,28 @@ TEST_F(TerminalDrillTest, WritesRequestedQuestionsIntoAFileAndTellsItsPath) {
   EXPECT_EQ(text.count(u"answer3"_s), 0);
 }
 
+TEST_F(TerminalDrillTest, WhoHasOldContentIsOfferedTheNewOnce) {
+  {
+    const QString original = u"/../app-originals/TavoDB000.mdb"_s;
+    std::optional<Database> delivered =
+        peekDatabase(QFileInfo(QStringLiteral(TAVOLI_PROGRAM)).path() + original);
+    ASSERT_TRUE(delivered);
+    const auto question = delivered->OpenRecordset(tableBDIC);
+    std::optional<Database> learner = openDatabase(database()).database;
+    const auto rows = learner->OpenRecordset(tableBDIC);
+    rows->Seek(SeekOp::Equal, u"000010"_s);
+    question->Seek(SeekOp::Equal, rows->key());
+    rows->Edit();
+    rows->setValue(field問正コ, question->text(field問正コ));
+    ASSERT_TRUE(rows->Update());
+  }
+  QString output = run(sentences, ":yes\n:yes\n");
+  expectInOrder(output,
+                {u"[箱] 新しい教材があります。取り込みますか。（:yes / :no）\n[箱]\n[進捗]"});
+  EXPECT_FALSE(output.contains(u"全然\n    単熟・中学DB：0 / 0 / 0\n"_s)) << "counted behind it";
+  EXPECT_FALSE(run(sentences, "").contains(u"[箱]"_s));
+}
+
 TEST_F(TerminalDrillTest, TwoEmptyLinesAreTheStandardUser) {
   expectInOrder(run(sentences.sliced(2), "\n\n\n:yes\n"), {u"[問題] 問題{1}"});
 }
