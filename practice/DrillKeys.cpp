@@ -76,8 +76,7 @@ const DrillKeys& reviewKeys() {
        {FunctionKey::F11, 10, u"次へ"_s, u" 次へ F11 ( &L )"_s,
         u"F11 ｷｰ又は Ａlt ｷｰ ＋ L ｷｰで次の問題に移ります。"_s,
         review(&ReviewDrill::nextReviewItem)}},
-      {{FunctionKey::F6, 5, u"終了"_s, u"終了 F6"_s, exitTip,
-        review(&ReviewDrill::requestExit)}}};
+      {{FunctionKey::F6, 5, u"終了"_s, u"終了 F6"_s, exitTip, review(&ReviewDrill::requestExit)}}};
   return keys;
 }
 

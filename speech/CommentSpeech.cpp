@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "speech/CommentSpeech.h"
-
+#include <algorithm>
 #include <array>
 
 #include "data/Text.h"
+#include "speech/CommentSpeech.h"
 #include "speech/EnglishPieces.h"
 #include "speech/SayAs.h"
 
@@ -65,7 +64,6 @@ qsizetype glossOf(const QString& piece) {
 }  // namespace
 
 SpeechList SpeakComment(const QString& コメント, SpeechList list) {
-  if (コメント.size() <= 1) return list;
   for (const QString& line : piecesOf(withoutMarks(コメント)).mid(0, maxPieces)) {
     const QString piece = withPlainEquals(line);
     if (isEnglish(piece)) list = SpeakCommentPiece(piece, glossOf(piece), std::move(list));
@@ -75,7 +73,7 @@ SpeechList SpeakComment(const QString& コメント, SpeechList list) {
 
 SpeechList SpeakCommentPiece(const QString& text, qsizetype end, SpeechList list) {
   constexpr qsizetype shortest = 5;
-  const bool glossPause = end > 2 && cut(text, end - 1, 1) == u"～";
+  const bool glossPause = cut(text, end - 1, 1) == u"～";
   QString english = trimBlanks(cut(text, 1, glossPause ? end - 2 : end - 1));
   if (english.size() < shortest) return list;
   if (english.endsWith(u'(') || english.endsWith(u'（')) english.chop(1);

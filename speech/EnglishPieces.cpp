@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "speech/EnglishPieces.h"
-
 #include "data/Text.h"
+#include "speech/EnglishPieces.h"
 
 namespace tavoli {
 

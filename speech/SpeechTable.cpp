@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "speech/SpeechTable.h"
-
 #include "speech/SayAs.h"
+#include "speech/SpeechTable.h"
 
 namespace tavoli {
 

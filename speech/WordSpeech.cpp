@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "speech/WordSpeech.h"
-
 #include "speech/SayAs.h"
+#include "speech/WordSpeech.h"
 
 namespace tavoli {
 

@@ -23,7 +23,9 @@ TEST(SpeechTagsTest, WritesAndReadsTags) {
       {"nothing to say", {u""_s, u"..."_s}, uR"(\Map=""="..."\)"_s},
       {"quotes", {u"\"A\" of B\""_s, u"=\"B"_s}, uR"(\Map=""A" of B""="="B"\)"_s},
       {"context", {u"a"_s, u"b"_s, u"E-mail"_s}, uR"(\Ctx="E-mail"\\Map="a"="b"\)"_s},
-      {"speed", {u"あ"_s, u"亜"_s, u""_s, 190, VoiceLanguage::Japanese}, uR"(\Spd=190\\Map="あ"="亜"\)"_s},
+      {"speed",
+       {u"あ"_s, u"亜"_s, u""_s, 190, VoiceLanguage::Japanese},
+       uR"(\Spd=190\\Map="あ"="亜"\)"_s},
       {"a bare text", bareUtterance(u"Hello!"_s), u"Hello!"_s},
       {"nothing", {}, u""_s},
   };
