@@ -100,6 +100,12 @@ ReadableText readableText(const QString& text) {
                                              .normalized(QString::NormalizationForm_KC));
   ReadableText readable;
   for (qsizetype at = 0; at < plain.size();) {
+    const QChar c = plain[at];
+    if (isJapanese(c)) {
+      readable.japanese += c;
+      ++at;
+      continue;
+    }
     const QRegularExpressionMatch latin = latinRun().match(
         plain, at, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption);
     if (latin.hasMatch()) {
@@ -108,8 +114,8 @@ ReadableText readableText(const QString& text) {
       at = latin.capturedEnd();
       continue;
     }
-    const QChar c = plain[at++];
-    if (isJapanese(c) || (c.unicode() < 0x80 && c.isDigit()) || c == u' ')
+    ++at;
+    if ((c.unicode() < 0x80 && c.isDigit()) || c == u' ')
       readable.japanese += c;
     else if (c.isSpace())
       readable.japanese += longPause;
@@ -136,7 +142,7 @@ QString speakableKana(const QString& kana) {
     if (c == longMark && (said.isEmpty() || isPause(before) || before == longMark ||
                           before == u'ッ' || before == u'ン'))
       continue;
-    if (!joins(before, c)) c = largeForm(c);
+    if (const QChar large = largeForm(c); large != c && !joins(before, c)) c = large;
     if (c == u'ヲ') c = u'オ';
     if (c == longMark || (c >= u'ア' && c <= u'ヴ') || c == u'ァ') said += c;
   }

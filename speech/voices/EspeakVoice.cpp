@@ -42,10 +42,9 @@ int hear(short* wave, int count, espeak_EVENT* events) {
 
 bool select(Engine& engine, const QByteArray& language) {
   if (engine.rate == 0) {
-    constexpr int pieceMilliseconds = 60;
+    constexpr int pieceMilliseconds = 20;
     engine.rate = espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, pieceMilliseconds, nullptr,
                                     espeakINITIALIZE_DONT_EXIT);
-    espeak_SetSynthCallback(hear);
   }
   if (engine.rate <= 0) return false;
   if (engine.voice == language) return true;
@@ -68,6 +67,7 @@ std::optional<QString> EspeakVoice::say(const QString& text, const Pace& pace, S
   espeak_SetParameter(
       espeakRATE, std::clamp(pace.wordsPerMinute(ownSpeed), espeakRATE_MINIMUM, espeakRATE_MAXIMUM),
       0);
+  espeak_SetSynthCallback(hear);
   const QByteArray bytes = withoutControls(text).toUtf8();
   Listener listener{taker, Resampler(engine.rate), {}};
   const espeak_ERROR error = espeak_Synth(bytes.constData(), bytes.size() + 1, 0, POS_CHARACTER, 0,
