@@ -48,7 +48,7 @@ Resampler::Resampler(int rate) {
   const double cutoff = std::min(1.0, static_cast<double>(samplesPerSecond) / rate) * passed;
   constexpr qsizetype step = lanes / 2;
   m_reach = (static_cast<qsizetype>(zeroCrossings / cutoff) / step + 1) * step;
-  m_filter.reserve(m_phases * 2 * m_reach);
+  m_filter.reserve(2 * m_reach * m_phases);
   std::vector<double> row(2 * m_reach);
   for (int phase = 0; phase < m_phases; ++phase) {
     const double at = static_cast<double>(m_reach - 1) + static_cast<double>(phase) / m_phases;
@@ -75,7 +75,7 @@ void Resampler::produce(Samples& out) {
     m_next += m_phase / m_phases;
     m_phase %= m_phases;
   }
-  const qsizetype done = std::min<qsizetype>(m_next, m_in.size());
+  const qsizetype done = std::min(m_next, static_cast<qsizetype>(m_in.size()));
   m_in.erase(m_in.begin(), m_in.begin() + done);
   m_next -= done;
 }

@@ -8,10 +8,10 @@
 #include <QElapsedTimer>
 #include <QIODevice>
 #include <QMediaDevices>
+#include <QStringList>
 #include <QTimer>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace tavoli {
@@ -25,9 +25,14 @@ QtMessageHandler s_otherMessages = nullptr;
 
 /// Drops what Qt has to say about sound: no learner is to read it on a terminal.
 void passMessageOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  // Some bear no category of their own.
+  static const QStringList beginnings = {QStringLiteral("PulseAudioService"),
+                                         QStringLiteral("Stream error"),
+                                         QStringLiteral("QAudioSink")};
   const bool ofSound =
       (context.category && std::strncmp(context.category, "qt.multimedia", 13) == 0) ||
-      text.contains(QStringLiteral("PulseAudioService"));
+      std::any_of(beginnings.begin(), beginnings.end(),
+                  [&](const QString& beginning) { return text.contains(beginning); });
   if (!ofSound || type == QtFatalMsg) s_otherMessages(type, context, text);
 }
 
@@ -36,37 +41,27 @@ void silenceSoundMessages() {
   if (before != passMessageOn) s_otherMessages = before;
 }
 
-/// The stream as what a QAudioSink reads.
-class StreamDevice final : public QIODevice {
- public:
-  explicit StreamDevice(Mixer& mixer) : m_mixer(mixer) { open(QIODevice::ReadOnly); }
-  bool isSequential() const override { return true; }
-  qint64 bytesAvailable() const override { return mostBuffered * qint64{sizeof(qint16)}; }
-
- protected:
-  qint64 readData(char* data, qint64 bytes) override {
-    const std::size_t count = std::min<qint64>(bytes / qint64{sizeof(qint16)}, mostBuffered);
-    m_samples.resize(count);
-    m_mixer.read(m_samples);
-    std::memcpy(data, m_samples.data(), count * sizeof(qint16));
-    return static_cast<qint64>(count * sizeof(qint16));
-  }
-  qint64 writeData(const char*, qint64) override { return -1; }
-
- private:
-  Mixer& m_mixer;
-  Samples m_samples;
-};
-
-/// Reads the stream on its thread, by a device or by a clock.
+/// Moves the stream on, on its thread: into a device, or past a clock. The device gets all that it
+/// has room for at each tick; were it left to fetch what it needs, it would wait for more at a time
+/// than so small a buffer ever has room for.
 class Reader final : public QObject {
  public:
   Reader(Mixer& mixer, std::function<void()> onSilent)
-      : m_mixer(mixer), m_onSilent(std::move(onSilent)), m_stream(mixer) {}
+      : m_mixer(mixer), m_onSilent(std::move(onSilent)) {}
 
   void start(SoundOut::Device device) {
-    if (device == SoundOut::Device::standard && openSink()) return;
-    startClock();
+    m_tick = new QTimer(this);
+    m_tick->setTimerType(Qt::PreciseTimer);
+    connect(m_tick, &QTimer::timeout, this, [this] {
+      if (m_sink)
+        fillSink();
+      else
+        readByClock();
+    });
+    m_time.start();
+    if (device == SoundOut::Device::none || !openSink()) startClock();
+    constexpr int tick = 10;
+    m_tick->start(tick);
   }
 
  private:
@@ -79,30 +74,37 @@ class Reader final : public QObject {
     format.setSampleFormat(QAudioFormat::Int16);
     m_sink = std::make_unique<QAudioSink>(device, format);
     m_sink->setBufferSize(mostBuffered * qsizetype{sizeof(qint16)});
-    m_sink->start(&m_stream);
-    if (m_sink->error() != QAudio::NoError || m_sink->state() == QAudio::StoppedState) {
-      m_sink.reset();
-      return false;
+    m_device = m_sink->start();
+    return m_device && m_sink->error() == QAudio::NoError;
+  }
+
+  void fillSink() {
+    const qint64 room = m_sink->bytesFree() / qint64{sizeof(qint16)};
+    if (m_sink->state() == QAudio::StoppedState) return startClock();
+    const qint64 count = std::min<qint64>(room, mostBuffered);
+    const qint64 missing = count - static_cast<qint64>(m_waiting.size());
+    if (missing > 0) {
+      m_piece.resize(missing);
+      m_mixer.read(m_piece);
+      m_waiting.insert(m_waiting.end(), m_piece.begin(), m_piece.end());
     }
-    connect(m_sink.get(), &QAudioSink::stateChanged, this, [this](QAudio::State state) {
-      if (state == QAudio::StoppedState) startClock();
-    });
-    return true;
+    const qint64 bytes =
+        std::min(count, static_cast<qint64>(m_waiting.size())) * qint64{sizeof(qint16)};
+    const qint64 written = m_device->write(reinterpret_cast<const char*>(m_waiting.data()), bytes);
+    // A device that takes nothing for so long has stopped, whatever it says.
+    constexpr qint64 longest = 1000;
+    if (written > 0) {
+      m_waiting.erase(m_waiting.begin(), m_waiting.begin() + written / qint64{sizeof(qint16)});
+      m_time.restart();
+    } else if (m_time.elapsed() > longest) {
+      startClock();
+    }
   }
 
   void startClock() {
-    if (m_clock) return;
-    if (m_sink) {
-      m_sink->disconnect(this);
-      // It is still telling of its end.
-      m_sink.release()->deleteLater();
-    }
-    m_clock = new QTimer(this);
-    m_clock->setTimerType(Qt::PreciseTimer);
-    connect(m_clock, &QTimer::timeout, this, [this] { readByClock(); });
-    constexpr int tick = 10;
-    m_clock->start(tick);
-    m_time.start();
+    m_device = nullptr;
+    m_sink.reset();
+    m_time.restart();
     m_onSilent();
   }
 
@@ -111,21 +113,22 @@ class Reader final : public QObject {
     const qint64 due = m_time.elapsed() * samplesPerSecond / perSecond;
     // What a machine slept through is not made up for.
     m_read = std::max<qint64>(m_read, due - samplesPerSecond);
-    std::array<qint16, mostBuffered> piece{};
     while (m_read < due) {
-      const qint64 count = std::min<qint64>(due - m_read, mostBuffered);
-      m_mixer.read(std::span(piece).first(count));
-      m_read += count;
+      m_piece.resize(std::min<qint64>(due - m_read, mostBuffered));
+      m_mixer.read(m_piece);
+      m_read += static_cast<qint64>(m_piece.size());
     }
   }
 
   Mixer& m_mixer;
   std::function<void()> m_onSilent;
-  StreamDevice m_stream;
+  QTimer* m_tick = nullptr;
+  QElapsedTimer m_time;  ///< since the device took something; by the clock, since it runs
   std::unique_ptr<QAudioSink> m_sink;
-  QTimer* m_clock = nullptr;
-  QElapsedTimer m_time;
-  qint64 m_read = 0;
+  QIODevice* m_device = nullptr;  ///< the sink's, to be written to
+  Samples m_piece;
+  Samples m_waiting;  ///< read, and not taken by the device
+  qint64 m_read = 0;  ///< by the clock
 };
 
 }  // namespace
