@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "speech/CommentSpeech.h"
+
 #include <algorithm>
 #include <array>
 
 #include "data/Text.h"
-#include "speech/CommentSpeech.h"
 #include "speech/EnglishPieces.h"
 #include "speech/SayAs.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "data/Text.h"
 #include "speech/EnglishPieces.h"
+
+#include "data/Text.h"
 
 namespace tavoli {
 

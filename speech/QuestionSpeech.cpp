@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "speech/QuestionSpeech.h"
+
 #include <optional>
 
 #include "data/Text.h"
 #include "speech/EnglishPieces.h"
-#include "speech/QuestionSpeech.h"
 #include "speech/SpeechTable.h"
 
 namespace tavoli {

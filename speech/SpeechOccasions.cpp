@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "speech/SpeechOccasions.h"
+
 #include "data/Text.h"
 #include "speech/CommentSpeech.h"
 #include "speech/QuestionSpeech.h"
 #include "speech/SayAs.h"
-#include "speech/SpeechOccasions.h"
 #include "speech/SpeechTable.h"
 #include "speech/WordSpeech.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "speech/SayAs.h"
 #include "speech/SpeechTable.h"
+
+#include "speech/SayAs.h"
 
 namespace tavoli {
 

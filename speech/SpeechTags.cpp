@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "speech/SpeechTags.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
 
 #include "data/Text.h"
-#include "speech/SpeechTags.h"
 
 namespace tavoli {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "speech/SayAs.h"
 #include "speech/WordSpeech.h"
+
+#include "speech/SayAs.h"
 
 namespace tavoli {
 
