@@ -265,7 +265,10 @@ void TAVO1::showCredits() {
   m_dialogs.show(
       u"1. Tavoli uses \"Microsoft Agent technology\".\n"
       "2. Tavoli uses character Peedy.\n"
-      "3. The character and the pictures are drawn for this program."_s);
+      "3. The character and the pictures are drawn for this program.\n"
+      "4. Headwords and levels: The CEFR-J Wordlist Version 1.5. Compiled by Yukio Tono, Tokyo\n"
+      "   University of Foreign Studies. Retrieved from http://www.cefr-j.org/download.html on\n"
+      "   1/20/2020."_s);
 }
 
 void TAVO1::setUserId(const QString& text) {
